@@ -1,0 +1,15 @@
+// Dates as day counts: days since 1899-12-30, the time of day as the fraction, local time.
+#pragma once
+
+#include "platform/Clock.h"
+
+namespace folivant {
+
+using DateValue = double;
+
+/// Seconds precision; a day out of its month's range is carried over as the calendar does.
+DateValue ToDateValue(const platform::CalendarTime& time);
+/// Rounded to the nearest second.
+platform::CalendarTime ToCalendarTime(DateValue date);
+
+}  // namespace folivant

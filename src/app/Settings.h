@@ -1,0 +1,36 @@
+// Loading and saving of everything that Folivant remembers. Each setting is one row of the table in Settings.cpp: key,
+// section, default, route and member; a row with the route Ex travels into filter files, one with Store does not.
+// All of it works on the records of mdlVars. While mdlVars::UseFilterFile is raised the filter file is read or written.
+#pragma once
+
+#include <string>
+
+namespace folivant {
+
+/// Everything, in the order general, printer, filter, style, columns, path, destination. A value that does not convert
+/// is reported once each in a message box and takes its default; nothing is overwritten by reading.
+void LoadSettings();
+/// Everything, in the same order; Ex rows only into a filter file. Throws RuntimeError (WriteSetting, WriteFile).
+void SaveSettings();
+
+/// What the options dialog writes on OK.
+void SaveGeneralSettings();
+void SavePrinterSettings();
+/// What the filter, format and columns dialogs write on OK.
+void SaveFilterSettings();
+void SaveListingStyle();
+void SaveFormatSettings();
+
+/// LoadSettings and SaveSettings with the filter file named `path` in place of the store.
+void LoadFilterFile(const std::wstring& path);
+void SaveFilterFile(const std::wstring& path);
+
+/// The page of the options dialog that was shown last, from 1.
+int LoadLastTab();
+void SaveLastTab(int tab);
+
+/// Puts the system's default printer in place of "(no printer)". Asking the system costs more than a short listing, so
+/// it is done where a printer is first needed; without any printer the name stays.
+void ResolvePrinterName();
+
+}  // namespace folivant

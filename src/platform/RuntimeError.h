@@ -1,0 +1,44 @@
+// The one exception of the program. It is thrown where a failure is seen and caught at the edge of an event handler or
+// of a command-line run, where ErrorText (ui/ErrorText.h) turns it into the sentence that the user reads.
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace folivant {
+
+/// What could not be done. ErrorText has one language text for each.
+enum class FailedAction {
+  CreateFile,
+  ReadFile,
+  WriteFile,
+  DeleteFile,
+  ReadSetting,  ///< a stored value that is not a number, flag or date
+  WriteSetting,
+  Print,
+  StartProgram,
+  ReadWindow,  ///< the list of another program's window
+};
+
+class RuntimeError : public std::exception {
+ public:
+  /// `object` is the full file name, setting or printer that the action was tried on; `systemText` and `systemCode` are
+  /// the operating system's own words and number, empty and 0 when the system was not involved.
+  RuntimeError(FailedAction action, std::wstring object, std::wstring systemText, std::uint32_t systemCode)
+      : action_(action), object_(std::move(object)), systemText_(std::move(systemText)), systemCode_(systemCode) {}
+
+  const char* what() const noexcept override { return "folivant::RuntimeError"; }
+  FailedAction Action() const { return action_; }
+  const std::wstring& Object() const { return object_; }
+  const std::wstring& SystemText() const { return systemText_; }
+  std::uint32_t SystemCode() const { return systemCode_; }
+
+ private:
+  FailedAction action_;
+  std::wstring object_;
+  std::wstring systemText_;
+  std::uint32_t systemCode_;
+};
+
+}  // namespace folivant

@@ -1,0 +1,17 @@
+// Dates of entries.
+#pragma once
+
+#include <cstdint>
+
+#include "app/DateValue.h"
+
+namespace folivant {
+
+/// Local date and time of an entry's last write, seconds precision. The converted time is written back into `fileTime`,
+/// so that each call shifts the same record by the local offset once more. This is kept on purpose: the order of calls
+/// (date filter twice, date text, date sort key) decides what a listing shows.
+DateValue FileDateOf(std::uint64_t& fileTime);
+/// The same conversion without the detour over a day count, for texts.
+platform::CalendarTime FileTimeOf(std::uint64_t& fileTime);
+
+}  // namespace folivant

@@ -1,0 +1,32 @@
+// How names and paths are spelled in listings.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace folivant {
+
+/// A name all in capitals or all in small letters becomes "Capital followed by small letters", cut to 256 characters; a
+/// mixed-case name is returned as it is.
+std::wstring ProperName(std::wstring_view name);
+
+/// A path in its two spellings.
+struct LongPath {
+  std::wstring Shown;   ///< components re-cased by ProperName, drive letter in capitals
+  std::wstring OnDisk;  ///< components as the file system spells them
+};
+/// `path` with each component replaced by its long name as stored on disk; both spellings are empty when the path is
+/// neither "X:\..." nor "\\server\share..." or when a component does not exist. Network components are not looked up.
+LongPath GetLongPath(std::wstring_view path);
+
+/// Measures text in the unit of a window or page.
+class TextMeasure {
+ public:
+  virtual ~TextMeasure() = default;
+  virtual double WidthOf(std::wstring_view text) const = 0;
+};
+/// `path` shortened in its leading part with "..." until it is narrower than `width`, or "..." and the last component
+/// when nothing else is left.
+std::wstring FitPathToWidth(std::wstring_view path, double width, const TextMeasure& form);
+
+}  // namespace folivant

@@ -1,0 +1,31 @@
+// What a listing run asks of whoever watches it. The progress window implements it; a command-line run uses NoProgress.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace folivant {
+
+class Progress {
+ public:
+  virtual ~Progress() = default;
+  /// Called once per directory, before it is read, with its path as shown.
+  virtual void ShowDirectory(std::wstring_view path) = 0;
+  /// Adds a finished share, in percent points of the whole run.
+  virtual void SetProgress(std::int32_t share) = 0;
+  /// Called for every entry: must cost next to nothing most of the time, and may run event handlers that cancel the
+  /// run.
+  virtual void LetEventsThrough() = 0;
+  /// Whether the user has cancelled the run. Asked only at the points where a run may stop.
+  virtual bool Cancelled() const = 0;
+};
+
+class NoProgress final : public Progress {
+ public:
+  void ShowDirectory(std::wstring_view) override {}
+  void SetProgress(std::int32_t) override {}
+  void LetEventsThrough() override {}
+  bool Cancelled() const override { return false; }
+};
+
+}  // namespace folivant

@@ -1,0 +1,115 @@
+// The message numbers, named once. Their texts are in lang/; docs/messages.md says where each is used.
+// Numbers that are not named here are unused. A number never changes its meaning: language files depend on it.
+#pragma once
+
+namespace folivant {
+
+enum class Text : int {
+  // Main window
+  Directory = 0,
+  Filter = 1,
+  OutputFormat = 2,
+  OutputTo = 3,
+  Browse = 4,
+  FilterButton = 5,
+  FormatButton = 6,
+  ToPrinter = 7,
+  ToFile = 8,
+  ToScreen = 9,
+  LoadFilters = 10,
+  SaveFilters = 11,
+  Options = 12,
+  Ok = 13,
+  Close = 14,
+  Help = 15,
+  FilterFiles = 16,  ///< file type of the filter-file dialogs
+  AllFiles = 17,
+  TypeText = 18,  ///< file types of the save dialog
+  TypeTabDelimited = 19,
+  TypeHtml = 20,
+  UnknownOutputType = 21,
+  CommandLineProblem = 22,  ///< first line of a command-line message
+  CommandLineHint = 23,     ///< last line of a command-line message
+
+  // Listing styles 0 to 4; 5 and 6 are FindWindowStyle and PathListStyle
+  NoSubdirectories = 24,
+  IncludeSubdirectories = 25,
+  TreeStyle = 26,
+  DirectoryView = 27,
+  FullPathList = 28,
+
+  // Captions of the entry columns
+  NameCaption = 32,
+  DosNameCaption = 33,
+  DateCaption = 35,
+
+  Cancel = 42,
+  Kilobytes = 47,    ///< unit of the size limit
+  BrowseTitle = 64,  ///< title of the folder browser
+
+  // Legend of the header and footer placeholders
+  LegendPath = 91,
+  LegendNamePattern = 92,
+  LegendFilter = 93,
+  LegendDate = 94,
+  LegendTime = 95,
+  LegendPage = 96,
+
+  NoPrinter = 100,
+  RaiseMargins = 101,     ///< second line of the margin question
+  MarginsTooSmall = 102,  ///< first line of the margin question
+  Quality = 105,
+  PaperBin = 106,
+  Duplex = 107,
+  Simplex = 108,
+  DuplexVertical = 109,
+  DuplexHorizontal = 110,
+
+  Scanning = 111,
+  CancelQuestion = 112,
+  File = 113,   ///< "file", after a count of 1
+  Files = 114,  ///< "files", after any other count
+
+  // Captions of the directory view, and the words of the closing sentences
+  DirectoryCaption = 115,  ///< nine characters in English: the text writer's padding assumes it
+  FilesCaption = 116,
+  DirectorySizeCaption = 117,
+  TotalFilesCaption = 118,
+  TotalSizeCaption = 119,
+  JoiningWord = 120,  ///< follows the file word without a blank: ","
+  DirectoryWord = 121,
+  DirectoriesWord = 122,
+  FreeOf = 123,  ///< between the free and the total size of a volume
+  NoLabel = 124,
+
+  AttributesCaption = 125,
+  DirectoryHeading = 126,   ///< before the path in a directory's heading
+  DirectorySizeText = 127,  ///< stands for the size of a directory
+  UnitBytes = 128,
+  UnitKilobytes = 129,
+  UnitMegabytes = 130,
+  UnitGigabytes = 131,
+  UnitTerabytes = 132,
+  SizeCaption = 134,
+  FindWindowStyle = 135,
+  SelectFindWindow = 136,
+  FolderCaption = 137,
+  NoFindWindow = 138,
+  LegendLabel = 139,
+  PathListStyle = 144,
+
+  // Errors: 160 to 199. In them %1 is the file, setting or window, %2 the system's text, %3 its number.
+  CannotCreateFile = 160,
+  CannotReadFile = 161,
+  CannotWriteFile = 162,
+  CannotDeleteFile = 163,
+  BadSetting = 164,  ///< %1 store or file, %2 key, %3 value
+  CannotWriteSetting = 165,
+  CannotPrint = 166,
+  CannotStartProgram = 167,
+  CannotReadWindow = 168,
+  OverwriteFirstLine = 169,  ///< "The file"
+  OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
+};
+
+}  // namespace folivant
