@@ -16,6 +16,7 @@ namespace folivant {
 struct ListingRun {
   const Messages& Texts;
   const GeneralSettings& General;
+  const PrinterSettings& Printer;
   const FilterSettings& Filter;
   const ListingFormat& Format;
   const ScanTree& Tree;
