@@ -2,7 +2,7 @@
 #pragma once
 
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "output/ListingRun.h"
 
@@ -19,5 +19,9 @@ std::wstring DriveLabel(const std::wstring& root, const Messages& texts);
 std::wstring TotalsLine(const ListingRun& run);
 /// Empty when the system cannot tell.
 std::wstring FreeSpaceLine(const std::wstring& path, const Messages& texts);
+
+/// The sentences that end the listing of the run's style, in order: the totals in styles 1 to 3, the free space (also
+/// when it is empty) in styles 0 to 3.
+std::vector<std::wstring> ClosingSentences(const ListingRun& run);
 
 }  // namespace folivant

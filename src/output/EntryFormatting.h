@@ -17,6 +17,7 @@ namespace folivant {
 
 /// A whole number with the user's thousands separator between groups of three ("#,##0").
 std::wstring FormatGrouped(std::int64_t number);
+void AppendGrouped(std::int64_t number, std::wstring& out);
 
 /// The size text of listings: at most four digits, thousands grouped, one blank, two unit characters ("9,999 kb").
 /// `bytes` is divided by 1024, dropping fractions, while it is 10,000 or more, at most four times; the threshold is
@@ -28,6 +29,8 @@ void AppendSize(Currency bytes, const Messages& texts, std::wstring& out);
 /// The pattern of a "DateFormat" setting (0 "dd/mm/yy" to 5 "yyyy/mm/dd"); empty for another index: the previous
 /// pattern stays in force then.
 std::wstring_view DatePatternOf(std::int32_t dateFormat);
+/// Hours and minutes of a day of 24 hours.
+inline constexpr std::wstring_view kTimePattern = L"hh:nn";
 /// `pattern` is made of "dd", "mm" (month), "yy", "yyyy", "hh", "nn" (minute) and other characters; "/" becomes the
 /// user's date separator, everything else stands as it is.
 std::wstring FormatDate(const platform::CalendarTime& time, std::wstring_view pattern);

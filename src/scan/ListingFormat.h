@@ -34,6 +34,10 @@ struct ListingFormat {
   bool IsFileList() const {
     return ListingStyle == folivant::ListingStyle::FindWindow || ListingStyle == folivant::ListingStyle::PathListFile;
   }
+  /// Whether a run collects the whole tree before it writes, and then writes it as one table.
+  bool IsCollected() const {
+    return ListingStyle == folivant::ListingStyle::TreeStyle || ListingStyle == folivant::ListingStyle::DirectoryView;
+  }
 };
 
 }  // namespace folivant

@@ -1,0 +1,162 @@
+#include "output/EntryFormatting.h"
+
+#include <array>
+#include <iterator>
+
+#include "platform/Locale.h"
+
+namespace folivant {
+namespace {
+
+constexpr std::array kUnits = {Text::UnitBytes, Text::UnitKilobytes, Text::UnitMegabytes, Text::UnitGigabytes,
+                               Text::UnitTerabytes};
+constexpr std::int64_t kLargestShown = 9'999;
+constexpr std::size_t kUnitWidth = 2;
+
+/// At least `digits` digits, with leading zeros; the last `digits` of a longer number.
+void AppendDigits(int number, int digits, std::wstring& out) {
+  const std::size_t start = out.size();
+  out.append(static_cast<std::size_t>(digits), L'0');
+  for (std::size_t at = out.size(); at > start; number /= 10) {
+    out[--at] = static_cast<wchar_t>(L'0' + number % 10);
+  }
+}
+
+/// One token of a date pattern: its letters, the part of the time that it shows, and with how many digits.
+struct DateToken {
+  std::wstring_view Letters;
+  int platform::CalendarTime::*Part;
+  int Digits;
+};
+constexpr DateToken kDateTokens[] = {
+    {L"yyyy", &platform::CalendarTime::Year, 4}, {L"yy", &platform::CalendarTime::Year, 2},
+    {L"mm", &platform::CalendarTime::Month, 2},  {L"dd", &platform::CalendarTime::Day, 2},
+    {L"hh", &platform::CalendarTime::Hour, 2},   {L"nn", &platform::CalendarTime::Minute, 2},
+};
+
+const DateToken* TokenAt(std::wstring_view pattern) {
+  for (const DateToken& token : kDateTokens) {
+    if (pattern.substr(0, token.Letters.size()) == token.Letters) {
+      return &token;
+    }
+  }
+  return nullptr;
+}
+
+const std::wstring& WordFor(std::int32_t count, Text one, Text many, const Messages& texts) {
+  return texts[count == 1 ? one : many];
+}
+
+std::wstring ShortDate(DateValue date) {
+  const platform::CalendarTime time = ToCalendarTime(date);
+  return platform::FormatShortDate(time.Year, time.Month, time.Day);
+}
+
+}  // namespace
+
+void AppendGrouped(std::int64_t number, std::wstring& out) {
+  const std::wstring& separator = platform::Locale().ThousandsSeparator;
+  const std::wstring digits =
+      std::to_wstring(number < 0 ? 0U - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number));
+  if (number < 0) {
+    out += L'-';
+  }
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    if (i > 0 && (digits.size() - i) % 3 == 0) {
+      out += separator;
+    }
+    out += digits[i];
+  }
+}
+
+std::wstring FormatGrouped(std::int64_t number) {
+  std::wstring text;
+  AppendGrouped(number, text);
+  return text;
+}
+
+void AppendSize(Currency bytes, const Messages& texts, std::wstring& out) {
+  std::size_t unit = 0;
+  while (bytes.Whole() > kLargestShown && unit + 1 < kUnits.size()) {
+    bytes = bytes.NextUnit();
+    ++unit;
+  }
+  AppendGrouped(bytes.Whole(), out);
+  out += L' ';
+  const std::wstring& name = texts[kUnits[unit]];
+  out.append(name, 0, kUnitWidth);
+  out.append(kUnitWidth - (name.size() < kUnitWidth ? name.size() : kUnitWidth), L' ');
+}
+
+std::wstring FormatSize(Currency bytes, const Messages& texts) {
+  std::wstring text;
+  AppendSize(bytes, texts, text);
+  return text;
+}
+
+std::wstring_view DatePatternOf(std::int32_t dateFormat) {
+  static constexpr std::wstring_view kPatterns[] = {L"dd/mm/yy",   L"mm/dd/yy",   L"yy/mm/dd",
+                                                    L"dd/mm/yyyy", L"mm/dd/yyyy", L"yyyy/mm/dd"};
+  const bool known = dateFormat >= 0 && dateFormat < static_cast<std::int32_t>(std::size(kPatterns));
+  return known ? kPatterns[dateFormat] : std::wstring_view();
+}
+
+void AppendDate(const platform::CalendarTime& time, std::wstring_view pattern, std::wstring& out) {
+  while (!pattern.empty()) {
+    if (const DateToken* token = TokenAt(pattern)) {
+      AppendDigits(time.*token->Part, token->Digits, out);
+      pattern.remove_prefix(token->Letters.size());
+      continue;
+    }
+    if (pattern.front() == L'/') {
+      out += platform::Locale().DateSeparator;
+    } else {
+      out += pattern.front();
+    }
+    pattern.remove_prefix(1);
+  }
+}
+
+std::wstring FormatDate(const platform::CalendarTime& time, std::wstring_view pattern) {
+  std::wstring text;
+  AppendDate(time, pattern, text);
+  return text;
+}
+
+std::wstring TotalsSentence(const RunTotals& totals, const Messages& texts) {
+  std::wstring text = std::to_wstring(totals.TotalFiles) + L' ';
+  text += WordFor(totals.TotalFiles, Text::File, Text::Files, texts);
+  text += texts[Text::JoiningWord];
+  text += L' ' + std::to_wstring(totals.TotalDirs) + L' ';
+  text += WordFor(totals.TotalDirs, Text::DirectoryWord, Text::DirectoriesWord, texts);
+  text += L", ";
+  AppendSize(totals.TotalSize, texts, text);
+  return text;
+}
+
+std::wstring FreeSpaceSentence(const platform::DiskSpace& space, const Messages& texts) {
+  std::wstring text = FormatSize(Currency::FromWhole(space.TotalFree), texts);
+  text += L' ' + texts[Text::FreeOf] + L' ';
+  AppendSize(Currency::FromWhole(space.Total), texts, text);
+  text += L'.';
+  return text;
+}
+
+std::wstring FilterDescription(const FilterSettings& filter, const Messages& texts) {
+  std::wstring text;
+  if (filter.NameOn) {
+    text += filter.FilterName + L", ";
+  }
+  if (filter.SizeOn) {
+    text += filter.SizeMin ? L'>' : L'<';
+    text += std::to_wstring(filter.FilterSize) + L' ' + texts[Text::Kilobytes] + L", ";
+  }
+  if (filter.DateOn) {
+    text += ShortDate(filter.DateMin) + L" - " + ShortDate(filter.DateMax) + L", ";
+  }
+  const std::size_t lastComma = text.rfind(L',');
+  text.resize(lastComma == text.npos ? 0 : lastComma);
+  return text;
+}
+
+}  // namespace folivant

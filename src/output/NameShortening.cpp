@@ -1,0 +1,50 @@
+#include "output/NameShortening.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace folivant {
+namespace {
+
+constexpr std::wstring_view kDots = L"...";
+
+/// The start of `text` that leaves room for the dots in `width`, and the dots.
+std::wstring CutTo(std::wstring_view text, double width, const NameMeasure& measure) {
+  const double room = width - measure.WidthOf(kDots);
+  std::wstring cut(text.substr(0, measure.Fit(text, room)));
+  return cut += kDots;
+}
+
+}  // namespace
+
+std::size_t CharacterMeasure::Characters(double width) {
+  return width > 0 ? static_cast<std::size_t>(std::nearbyint(width)) : 0;
+}
+
+std::size_t CharacterMeasure::Fit(std::wstring_view text, double width) const {
+  return std::min(text.size(), Characters(width));
+}
+
+std::size_t DrawnMeasure::Fit(std::wstring_view text, double width) const {
+  std::size_t fits = 0;
+  std::size_t tooMany = text.size() + 1;
+  while (fits + 1 < tooMany) {
+    const std::size_t middle = fits + (tooMany - fits) / 2;
+    (form_.WidthOf(text.substr(0, middle)) <= width ? fits : tooMany) = middle;
+  }
+  return fits;
+}
+
+std::wstring ShortenName(std::wstring_view name, double width, const NameMeasure& measure) {
+  if (measure.WidthOf(name) <= width) {
+    return std::wstring(name);
+  }
+  const std::wstring_view base = name.substr(0, name.rfind(L'.'));
+  std::wstring extension(name.substr(base.size()));
+  if (measure.WidthOf(extension) > width / 3) {
+    extension = CutTo(extension, width / 3, measure);
+  }
+  return CutTo(base, width - measure.WidthOf(extension), measure) + extension;
+}
+
+}  // namespace folivant
