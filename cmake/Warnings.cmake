@@ -5,7 +5,9 @@ if(MSVC)
 else()
   target_compile_options(folivant_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnull-dereference
-    -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+    -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+    # GCC 12 warns of overlapping copies inside std::string where there are none (its bug 105651).
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
   if(WIN32)
     target_compile_definitions(folivant_options INTERFACE UNICODE _UNICODE)
   endif()
