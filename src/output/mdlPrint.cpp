@@ -5,6 +5,7 @@
 
 #include "app/mdlFileRoutines.h"
 #include "output/mdlPrintHTML.h"
+#include "output/mdlPrintPrinter.h"
 #include "output/mdlPrintText.h"
 #include "output/mdlPrintXML.h"
 #include "platform/Files.h"
@@ -29,6 +30,7 @@ constexpr OutputKindRow kOutputKinds[] = {
     {OutputKind::Html, L".html", Make<HtmlWriter>},
     {OutputKind::Csv, L".txt", Make<TextWriter, kCsv>},  // not ".csv", on purpose
     {OutputKind::Xml, L".xml", Make<XmlWriter>},
+    {OutputKind::Printer, L".txt", Make<PrinterWriter>},  // a name given for a printed listing; nothing writes it
 };
 
 /// Position in kOutputKinds and among the driver's writers; std::size(kOutputKinds) for a kind that has no row.

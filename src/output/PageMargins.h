@@ -1,0 +1,24 @@
+// Page margins between their settings, in inches or millimetres from the paper's edge, and the page surface's twips.
+#pragma once
+
+#include "app/GeneralSettings.h"
+#include "platform/PageSurface.h"
+
+namespace folivant {
+
+struct PageMargins {
+  double Left = 0;
+  double Right = 0;
+  double Top = 0;
+  double Bottom = 0;
+  bool operator==(const PageMargins&) const = default;
+};
+
+/// 1,440 twips in an inch, 25.4 millimetres in an inch.
+double TwipsPerUnit(bool inches);
+/// The four margin settings in twips from the paper's edge.
+PageMargins MarginsInTwips(const GeneralSettings& general);
+/// The bands that a sheet of `area` cannot carry, in inches or millimetres: no margin can be smaller.
+PageMargins MinimumMargins(const platform::PageArea& area, bool inches);
+
+}  // namespace folivant

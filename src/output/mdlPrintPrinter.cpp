@@ -1,0 +1,312 @@
+#include "output/mdlPrintPrinter.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include "app/mdlFileRoutines.h"
+#include "output/Columns.h"
+#include "output/DriverServices.h"
+#include "output/NameShortening.h"
+
+namespace folivant {
+namespace {
+
+/// Line heights that an ordinary line leaves free above the bottom margin, for the footer.
+constexpr double kLinesBelowLine = 4;
+/// The same for a directory's heading: more, so that none stands alone at the foot of a page.
+constexpr double kLinesBelowHeading = 10;
+/// A small fixed indent in twips, kept as designed.
+constexpr double kSummaryIndent = 20;
+constexpr std::size_t kIndent = 3;
+/// What a size caption keeps free before the end of its column.
+constexpr std::wstring_view kAfterSizeCaption = L"   ";
+
+/// Where each of kFurtherColumns stands; a right-aligned one ends there.
+constexpr std::array<double EntryPositions::*, kFurtherColumns.size()> kEntryPlaces = {
+    &EntryPositions::DosName, &EntryPositions::SizeEnd, &EntryPositions::Date, &EntryPositions::Attributes};
+
+platform::PageFont ListingFont(const GeneralSettings& general) {
+  return {general.FontName, static_cast<double>(general.FontSize), false};
+}
+
+platform::PageFont HeaderFooterFont(const GeneralSettings& general) {
+  if (general.Font80HF) {
+    return {general.FontName, general.FontSize * 4 / 5.0, false};
+  }
+  return {general.FontNameHF, static_cast<double>(general.FontSizeHF), false};
+}
+
+platform::PrintJob JobOf(const ListingRun& run) {
+  platform::PrintJob job;
+  job.PrinterName = run.Printer.PrinterName;
+  job.Title = L"Folivant - " + run.Tree.StartPath;
+  job.Portrait = run.General.Portrait;
+  job.Copies = run.Printer.PrinterCopies;
+  job.Duplex = run.Printer.PrinterDuplex;
+  job.Quality = run.Printer.PrinterQuality;
+  job.PaperBin = run.Printer.PrinterPaperBin;
+  return job;
+}
+
+}  // namespace
+
+void PrinterWriter::BeginListing() {
+  page_ = std::make_unique<Page>(platform::OpenPageSurface(JobOf(run_)), ListingFont(run_.General),
+                                 HeaderFooterFont(run_.General));
+  Measure();
+  PlaceColumns();
+  StartPage();
+}
+
+void PrinterWriter::Measure() {
+  const platform::PageArea area = page_->Area();
+  const PageMargins margins = MarginsInTwips(run_.General);
+  lineHeight_ = page_->LineHeight();
+  origin_ = margins.Left - area.LeftOffset;
+  usableWidth_ = area.Width - margins.Left - margins.Right + area.LeftOffset + area.RightOffset;
+  // Without the offsets, on purpose: the path in a heading gets a little less than the line could hold.
+  headingWidth_ = std::nearbyint(area.Width - margins.Left - margins.Right);
+  headerTop_ = margins.Top - area.TopOffset;
+  bodyBottom_ = area.Height - margins.Bottom + area.BottomOffset;
+}
+
+void PrinterWriter::PlaceColumns() {
+  entryAt_ = PlaceEntryColumns(run_.Format.Files, usableWidth_, *page_);
+  directoryAt_ = PlaceDirectoryColumns(run_.Format.Directories, usableWidth_, *page_);
+  foundAt_ = PlaceFoundColumns(origin_, usableWidth_, *page_);
+}
+
+void PrinterWriter::StartPage() {
+  ++run_.PageNumber;
+  page_->Select(Page::Face::HeaderFooter);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, run_), bodyBottom_ - lineHeight_);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, run_), headerTop_);
+  page_->EndLine();
+  page_->Select(Page::Face::Listing);
+  page_->EndLine();
+  page_->EndLine();
+  DrawStyleCaptions();
+}
+
+void PrinterWriter::DrawCentred(std::wstring_view text, double y) {
+  page_->MoveTo(y);
+  page_->Draw(page_->Area().Width / 2 - page_->WidthOf(text) / 2, text);
+}
+
+void PrinterWriter::BreakPage(double linesToKeepFree) {
+  if (page_->Y() > bodyBottom_ - linesToKeepFree * lineHeight_) {
+    page_->NextPage();
+    StartPage();
+  }
+}
+
+void PrinterWriter::BreakPageBeforeLine() {
+  BreakPage(kLinesBelowLine);
+}
+
+void PrinterWriter::DrawStyleCaptions() {
+  if (run_.Format.IsFileList()) {
+    DrawFoundCaptions();
+  } else if (run_.Format.ListingStyle == ListingStyle::DirectoryView) {
+    DrawDirectoryCaptions();
+  } else if (run_.Format.ListingStyle != ListingStyle::FullPathList) {
+    DrawEntryCaptions();
+  }
+  page_->EndLine();
+}
+
+void PrinterWriter::DrawEntryCaptions() {
+  if (run_.Format.Files.*kNameColumn.Shown) {
+    DrawAtOrigin(run_.Texts[kNameColumn.Caption]);
+  }
+  for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
+    const EntryColumn& column = kFurtherColumns[i];
+    if (run_.Format.Files.*column.Shown) {
+      DrawCaption(entryAt_.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
+    }
+  }
+}
+
+void PrinterWriter::DrawDirectoryCaptions() {
+  DrawAtOrigin(run_.Texts[Text::DirectoryCaption]);
+  for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
+    if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
+      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i], run_.Texts[kDirectoryColumns[i].Caption]);
+    }
+  }
+}
+
+void PrinterWriter::DrawFoundCaptions() {
+  DrawAtOrigin(run_.Texts[Text::NameCaption]);
+  page_->Draw(origin_ + foundAt_.Folder, run_.Texts[Text::FolderCaption]);
+  DrawCaption(foundAt_.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
+  page_->Draw(origin_ + foundAt_.Date, run_.Texts[Text::DateCaption]);
+}
+
+void PrinterWriter::DirectoryHeading(std::wstring_view path) {
+  BreakPage(kLinesBelowHeading);
+  page_->EndLine();
+  page_->Select(Page::Face::Heading);
+  text_ = run_.Texts[Text::DirectoryHeading];
+  text_ += L' ';
+  text_ += FitPathToWidth(path, headingWidth_, *page_);
+  DrawAtOrigin(text_);
+  page_->EndLine();
+  page_->Select(Page::Face::Listing);
+  page_->EndLine();
+  DrawEntryCaptions();
+  page_->EndLine();
+  page_->EndLine();
+}
+
+void PrinterWriter::DirectorySummary(std::wstring_view summary) {
+  page_->EndLine();
+  page_->Draw(origin_ + kSummaryIndent, summary);
+  page_->EndLine();
+}
+
+void PrinterWriter::ListDirectory(const DirectoryListing& directory) {
+  if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
+    return FullPathLines(directory);
+  }
+  DirectoryHeading(directory.Path);
+  for (const std::uint32_t index : directory.Order) {
+    EntryLine(directory.Records[index], directory.Records[index].Name);
+  }
+  DirectorySummary(directory.Summary);
+}
+
+void PrinterWriter::FullPathLines(const DirectoryListing& directory) {
+  const std::wstring folder = AddBackslash(directory.Path);
+  for (const std::uint32_t index : directory.Order) {
+    BreakPageBeforeLine();
+    text_ = folder;
+    text_ += directory.Records[index].Name;
+    DrawAtOrigin(FitPathToWidth(text_, usableWidth_, *page_));
+    page_->EndLine();
+  }
+}
+
+void PrinterWriter::BeginTree(std::wstring_view root) {
+  DirectoryHeading(root);
+}
+
+void PrinterWriter::TreeEntry(const FileRecord& entry) {
+  EntryLine(entry, Indented(entry.Level, entry.Name));
+}
+
+void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
+  if (run_.Format.Files.*kNameColumn.Shown) {
+    DrawName(origin_, name, entryAt_.NameWidth);
+  }
+  for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
+    const EntryColumn& column = kFurtherColumns[i];
+    if (run_.Format.Files.*column.Shown) {
+      DrawCell(entryAt_.*kEntryPlaces[i], column.Layout.Align, entry.*column.Value);
+    }
+  }
+  page_->EndLine();
+  BreakPageBeforeLine();
+}
+
+void PrinterWriter::DrawCell(double position, Alignment alignment, std::wstring_view text) {
+  if (alignment == Alignment::Right) {
+    page_->DrawEndingAt(origin_ + position, text);
+  } else {
+    page_->Draw(origin_ + position, text);
+  }
+}
+
+void PrinterWriter::DrawCaption(double position, Alignment alignment, std::wstring_view caption) {
+  if (alignment == Alignment::Right) {
+    position -= page_->RememberedWidthOf(kAfterSizeCaption);
+  }
+  DrawCell(position, alignment, caption);
+}
+
+void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
+  if (node.Level == 0) {
+    DrawAtOrigin(FitPathToWidth(node.Path, directoryAt_.NameWidth, *page_));
+  } else {
+    DrawName(origin_, Indented(node.Level, node.Name), directoryAt_.NameWidth);
+  }
+  for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
+    if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
+      text_.clear();
+      kDirectoryColumns[i].AppendValue(node, run_.Texts, text_);
+      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i], text_);
+    }
+  }
+  page_->EndLine();
+  BreakPageBeforeLine();
+}
+
+void PrinterWriter::FindList(std::span<const FoundItem> rows) {
+  page_->Select(Page::Face::Heading);
+  DrawAtOrigin(run_.Tree.FindWindowTitle);
+  page_->EndLine();
+  page_->Select(Page::Face::Listing);
+  page_->EndLine();
+  DrawFoundCaptions();
+  page_->EndLine();
+  page_->EndLine();
+  for (auto row = rows.begin(); row != rows.end() && !run_.Tree.Cancelled; ++row) {
+    FoundLine(*row);
+  }
+}
+
+void PrinterWriter::FoundLine(const FoundItem& row) {
+  DrawName(origin_, row.Name, foundAt_.NameWidth);
+  DrawName(origin_ + foundAt_.Folder, row.InFolder, foundAt_.FolderWidth);
+  page_->DrawEndingAt(origin_ + foundAt_.SizeEnd, row.Size);
+  page_->Draw(origin_ + foundAt_.Date, row.Modified);
+  page_->EndLine();
+  BreakPageBeforeLine();
+}
+
+void PrinterWriter::EndListing() {
+  const ListingStyle style = run_.Format.ListingStyle;
+  const bool collected = style == ListingStyle::TreeStyle || style == ListingStyle::DirectoryView;
+  const bool deep = collected || style == ListingStyle::IncludeSubdirectories;
+  if (collected) {
+    page_->EndLine();
+  }
+  if (deep) {
+    ClosingLine(TotalsLine(run_));
+  }
+  if (deep || style == ListingStyle::NoSubdirectories) {
+    ClosingLine(FreeSpaceLine(run_.Tree.StartPathOnDisk, run_.Texts));
+  }
+  page_->EndDocument();
+  page_.reset();
+}
+
+void PrinterWriter::ClosingLine(std::wstring_view text) {
+  BreakPageBeforeLine();
+  DrawAtOrigin(text);
+  page_->EndLine();
+}
+
+void PrinterWriter::AbortListing() noexcept {
+  if (page_) {
+    page_->AbortDocument();
+    page_.reset();
+  }
+}
+
+void PrinterWriter::DrawName(double x, std::wstring_view name, double width) {
+  if (page_->WidthOf(name) <= width) {
+    page_->Draw(x, name);
+  } else {
+    page_->Draw(x, ShortenName(name, width, DrawnMeasure(*page_)));
+  }
+}
+
+std::wstring_view PrinterWriter::Indented(std::int32_t level, std::wstring_view name) {
+  text_.assign(kIndent * static_cast<std::size_t>(std::max(level, 0)), L' ');
+  return text_ += name;
+}
+
+}  // namespace folivant

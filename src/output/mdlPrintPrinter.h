@@ -1,0 +1,74 @@
+// The page writer (output kind 5): it draws a listing on the pages of a printer, with header, footer and column
+// captions on every page. Columns are those of the text writer; where things stand is computed in twips.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "output/Columns.h"
+#include "output/ListingRun.h"
+#include "output/ListingWriter.h"
+#include "output/Page.h"
+#include "output/PageColumns.h"
+#include "output/PageMargins.h"
+
+namespace folivant {
+
+class PrinterWriter final : public ListingWriter {
+ public:
+  /// `run` is used, not owned. Pages are begun with the settings that it shows when a listing begins.
+  explicit PrinterWriter(const ListingRun& run) : run_(run) {}
+
+  void BeginListing() override;
+  void ListDirectory(const DirectoryListing& directory) override;
+  void BeginTree(std::wstring_view root) override;
+  void TreeEntry(const FileRecord& entry) override;
+  void DirectoryViewEntry(const DirNode& node) override;
+  void FindList(std::span<const FoundItem> rows) override;
+  void EndListing() override;
+  void AbortListing() noexcept override;
+
+ private:
+  void Measure();
+  void PlaceColumns();
+
+  void StartPage();
+  void DrawCentred(std::wstring_view text, double y);
+  void BreakPage(double linesToKeepFree);
+  void BreakPageBeforeLine();
+
+  void DrawStyleCaptions();
+  void DrawEntryCaptions();
+  void DrawDirectoryCaptions();
+  void DrawFoundCaptions();
+  /// At, or ending at, an offset from the line origin; a right-aligned caption keeps three blanks free before it.
+  void DrawCaption(double position, Alignment alignment, std::wstring_view caption);
+  void DrawCell(double position, Alignment alignment, std::wstring_view text);
+
+  void DirectoryHeading(std::wstring_view path);
+  void DirectorySummary(std::wstring_view summary);
+  void EntryLine(const FileRecord& entry, std::wstring_view name);
+  void FullPathLines(const DirectoryListing& directory);
+  void FoundLine(const FoundItem& row);
+  void ClosingLine(std::wstring_view text);
+
+  void DrawAtOrigin(std::wstring_view text) { page_->Draw(origin_, text); }
+  void DrawName(double x, std::wstring_view name, double width);
+  std::wstring_view Indented(std::int32_t level, std::wstring_view name);
+
+  const ListingRun& run_;
+  std::unique_ptr<Page> page_;  ///< from the beginning of a listing to its end
+  double origin_ = 0;           ///< where lines begin: the left margin within the printable area
+  double usableWidth_ = 0;      ///< from there to the right margin
+  double headingWidth_ = 0;     ///< for the path in a directory's heading
+  double headerTop_ = 0;
+  double bodyBottom_ = 0;  ///< the bottom margin within the printable area
+  double lineHeight_ = 0;  ///< of the listing font
+  EntryPositions entryAt_;
+  DirectoryPositions directoryAt_;
+  FoundPositions foundAt_;
+  std::wstring text_;  ///< the line being put together
+};
+
+}  // namespace folivant
