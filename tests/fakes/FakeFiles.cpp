@@ -1,0 +1,195 @@
+#include <algorithm>
+
+#include "fakes/FakePlatform.h"
+#include "platform/Files.h"
+#include "platform/OutputFile.h"
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+
+namespace folivant::platform {
+
+using fakes::Fake;
+using fakes::FakeFailure;
+using fakes::FakeNode;
+
+namespace {
+
+[[noreturn]] void Throw(FailedAction action, const std::wstring& path, const FakeFailure& failure) {
+  throw RuntimeError(action, path, failure.Text, failure.Code);
+}
+
+void ThrowInjected(const std::map<std::wstring, FakeFailure>& failures, FailedAction action, const std::wstring& path) {
+  if (const auto found = failures.find(path); found != failures.end()) {
+    Throw(action, path, found->second);
+  }
+}
+
+FakeFailure NotFound() {
+  return {2, L"The system cannot find the file specified."};
+}
+FakeFailure PathNotFound() {
+  return {3, L"The system cannot find the path specified."};
+}
+
+/// "*" and "?" as in the file dialogs; letter case is ignored.
+bool Matches(std::wstring_view name, std::wstring_view pattern) {
+  if (pattern.empty()) {
+    return name.empty();
+  }
+  if (pattern.front() == L'*') {
+    return Matches(name, pattern.substr(1)) || (!name.empty() && Matches(name.substr(1), pattern));
+  }
+  return !name.empty() && (pattern.front() == L'?' || CompareText(name.substr(0, 1), pattern.substr(0, 1)) == 0) &&
+         Matches(name.substr(1), pattern.substr(1));
+}
+
+std::wstring RootOf(const std::wstring& path) {
+  return ToUpper(path.substr(0, 2)) + L"\\";
+}
+
+}  // namespace
+
+std::string ReadWholeFile(const std::wstring& path) {
+  ThrowInjected(Fake().FailReads, FailedAction::ReadFile, path);
+  const FakeNode* node = Fake().Tree.Find(path);
+  if (node == nullptr) {
+    Throw(FailedAction::ReadFile, path, NotFound());
+  }
+  if (node->IsDirectory() || node->Unreadable) {
+    Throw(FailedAction::ReadFile, path, fakes::AccessDenied());
+  }
+  return node->Content;
+}
+
+void ReplaceFile(const std::wstring& path, std::string_view bytes) {
+  ThrowInjected(Fake().FailReplaces, FailedAction::WriteFile, path);
+  FakeNode* node = Fake().Tree.MakeFile(path);
+  if (node == nullptr) {
+    Throw(FailedAction::WriteFile, path, PathNotFound());
+  }
+  node->Content = bytes;
+  node->Size = bytes.size();
+}
+
+bool TruncateFile(const std::wstring& path) {
+  return Fake().FailCreates.count(path) == 0 && Fake().Tree.MakeFile(path) != nullptr;
+}
+
+bool RemoveFile(const std::wstring& path) {
+  const FakeNode* node = Fake().Tree.Find(path);
+  if (node == nullptr || node->IsDirectory()) {
+    return false;
+  }
+  Fake().Tree.Remove(path);
+  return true;
+}
+
+bool PathExists(std::wstring_view path) {
+  return Fake().Tree.Find(path) != nullptr;
+}
+
+bool IsDirectory(std::wstring_view path) {
+  const FakeNode* node = Fake().Tree.Find(path);
+  return node != nullptr && node->IsDirectory();
+}
+
+std::wstring CurrentDirectory() {
+  return Fake().CurrentDirectory;
+}
+
+std::wstring AbsolutePath(const std::wstring& path) {
+  if (path.substr(1, 2) == L":\\" || path.starts_with(L"\\\\")) {
+    return path;
+  }
+  if (path.starts_with(L"\\")) {
+    return Fake().CurrentDirectory.substr(0, 2) + path;
+  }
+  const std::wstring& current = Fake().CurrentDirectory;
+  return current + (current.ends_with(L"\\") ? L"" : L"\\") + path;
+}
+
+std::wstring TemporaryDirectory() {
+  return Fake().TemporaryDirectory;
+}
+std::wstring ProgramFolder() {
+  return Fake().ProgramFolder;
+}
+std::optional<std::wstring> SendToFolder() {
+  return Fake().SendToFolder;
+}
+
+std::vector<std::wstring> FindNames(const std::wstring& folder, const std::wstring& pattern) {
+  std::vector<std::wstring> names;
+  if (const FakeNode* node = Fake().Tree.Find(folder); node != nullptr && !node->Unreadable) {
+    for (const FakeNode* child : node->Children) {
+      if (Matches(child->Name, pattern)) {
+        names.push_back(child->Name);
+      }
+    }
+  }
+  return names;
+}
+
+std::wstring VolumeLabel(const std::wstring& root) {
+  const auto found = Fake().Labels.find(RootOf(root));
+  return found == Fake().Labels.end() ? std::wstring() : found->second;
+}
+
+std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
+  const auto found = Fake().FreeSpace.find(RootOf(directory));
+  return found == Fake().FreeSpace.end() ? std::nullopt : std::optional(found->second);
+}
+
+/// Unbuffered: a failure shows at the write that meets it.
+struct OutputFile::State {
+  std::wstring Path;
+  FakeNode* Node = nullptr;
+};
+
+OutputFile::OutputFile() : state_(std::make_unique<State>()) {}
+
+OutputFile::~OutputFile() {
+  if (IsOpen()) {
+    --Fake().OpenOutputFiles;
+  }
+}
+
+void OutputFile::Open(const std::wstring& path) {
+  ThrowInjected(Fake().FailCreates, FailedAction::CreateFile, path);
+  FakeNode* node = Fake().Tree.MakeFile(path);
+  if (node == nullptr) {
+    Throw(FailedAction::CreateFile, path, PathNotFound());
+  }
+  *state_ = {path, node};
+  ++Fake().OpenOutputFiles;
+}
+
+bool OutputFile::IsOpen() const {
+  return state_->Node != nullptr;
+}
+
+void OutputFile::Write(std::wstring_view text) {
+  const std::string bytes = ToAnsi(text);
+  std::size_t count = bytes.size();
+  auto& room = Fake().DiskFullAfter;
+  if (room) {
+    count = static_cast<std::size_t>(std::min<std::uint64_t>(count, *room));
+    *room -= count;
+  }
+  state_->Node->Content.append(bytes, 0, count);
+  state_->Node->Size += count;
+  if (count < bytes.size()) {
+    Throw(FailedAction::WriteFile, state_->Path, fakes::DiskFull());
+  }
+}
+
+void OutputFile::Close() {
+  if (!IsOpen()) {
+    return;
+  }
+  state_->Node = nullptr;
+  --Fake().OpenOutputFiles;
+  ThrowInjected(Fake().FailCloses, FailedAction::WriteFile, state_->Path);
+}
+
+}  // namespace folivant::platform

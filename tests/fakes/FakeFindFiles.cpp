@@ -1,0 +1,84 @@
+#include "fakes/FakePlatform.h"
+#include "platform/FindFiles.h"
+
+namespace folivant::platform {
+
+using fakes::FakeNode;
+using fakes::FakeTree;
+
+namespace {
+
+void FillFrom(const FakeNode& node, FindData& data) {
+  data.Attributes = node.Attributes;
+  data.LastWrite = node.LastWrite;
+  data.SizeHigh = static_cast<std::uint32_t>(node.Size >> 32);
+  data.SizeLow = static_cast<std::uint32_t>(node.Size);
+}
+
+}  // namespace
+
+struct FindFiles::State {
+  const FakeNode* Directory = nullptr;
+  ShortNames Names = ShortNames::Skip;
+  std::size_t Position = 0;
+  bool Failed = false;
+};
+
+FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state_(std::make_unique<State>()) {
+  const FakeNode* node = fakes::Tree().Find(directory);
+  if (node != nullptr && node->IsDirectory() && !node->Unreadable) {
+    *state_ = {node, shortNames, 0, false};
+  }
+}
+
+FindFiles::~FindFiles() = default;
+
+bool FindFiles::Opened() const {
+  return state_->Directory != nullptr;
+}
+bool FindFiles::Failed() const {
+  return state_->Failed;
+}
+
+bool FindFiles::Next(FindData& data) {
+  if (!Opened() || state_->Failed) {
+    return false;
+  }
+  const FakeNode& directory = *state_->Directory;
+  if (directory.FailAfter && state_->Position >= *directory.FailAfter) {
+    state_->Failed = true;
+    return false;
+  }
+  if (state_->Position >= directory.Children.size()) {
+    return false;
+  }
+  const FakeNode& node = *directory.Children[state_->Position++];
+  FillFrom(node, data);
+  data.Name = node.Name;
+  data.AlternateName = state_->Names == ShortNames::Read ? std::wstring_view(node.ShortName) : std::wstring_view();
+  return true;
+}
+
+std::optional<FoundEntry> FindEntry(std::wstring_view path) {
+  if (path.empty() || path.back() == L'\\') {
+    return std::nullopt;
+  }
+  const FakeNode* node = fakes::Tree().Find(path, FakeTree::LastLink::Keep);
+  if (node == nullptr) {
+    return std::nullopt;
+  }
+  FoundEntry found;
+  FillFrom(*node, found.Data);
+  found.Name = node->Name;
+  return found;
+}
+
+std::optional<FileIdentity> IdentityOf(std::wstring_view directory) {
+  const FakeNode* node = fakes::Tree().Find(directory);
+  if (node == nullptr || !node->IsDirectory() || node->Unreadable) {
+    return std::nullopt;
+  }
+  return FileIdentity{1, node->Number};
+}
+
+}  // namespace folivant::platform

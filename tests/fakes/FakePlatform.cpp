@@ -1,0 +1,131 @@
+#include "fakes/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "app/mdlVars.h"
+#include "platform/RuntimeError.h"
+#include "platform/Store.h"
+
+namespace folivant::fakes {
+namespace {
+
+/// Every test begins with an empty machine and untouched run-wide records.
+class ResetBeforeEachTest final : public testing::EmptyTestEventListener {
+  void OnTestStart(const testing::TestInfo&) override {
+    Fake().Reset();
+    mdlVars::General = {};
+    mdlVars::Printer = {};
+    mdlVars::Filter = {};
+    mdlVars::Format = {};
+    mdlVars::OutputTo = OutputTarget::Printer;
+    mdlVars::Tree = ScanTree();
+    mdlVars::OutputKind = OutputKind::Text;
+    mdlVars::OutputFile.clear();
+    mdlVars::DatePattern.clear();
+    mdlVars::PageNumber = 0;
+    mdlVars::FilterFile.clear();
+    mdlVars::UseFilterFile = false;
+    mdlVars::Texts = {};
+    mdlVars::HelpFile.clear();
+  }
+};
+
+[[maybe_unused]] const bool appended = [] {
+  testing::UnitTest::GetInstance()->listeners().Append(new ResetBeforeEachTest);  // owned by the list
+  return true;
+}();
+
+}  // namespace
+
+FakeFailure AccessDenied() {
+  return {5, L"Access is denied."};
+}
+FakeFailure DiskFull() {
+  return {112, L"There is not enough space on the disk."};
+}
+
+FakePlatform& Fake() {
+  static FakePlatform platform;
+  return platform;
+}
+
+void FakePlatform::Reset() {
+  std::destroy_at(this);
+  std::construct_at(this);
+}
+
+std::string FakePlatform::Content(std::wstring_view path) {
+  const FakeNode* node = Tree.Find(path);
+  EXPECT_TRUE(node != nullptr && !node->IsDirectory()) << "no such file";
+  return node == nullptr ? std::string() : node->Content;
+}
+
+}  // namespace folivant::fakes
+
+namespace folivant::platform {
+
+using fakes::Fake;
+
+CalendarTime Now() {
+  return Fake().Now;
+}
+
+std::uint64_t ToLocalFileTime(std::uint64_t utc) {
+  constexpr std::int64_t kTicksPerMinute = 600'000'000;
+  const std::int64_t local = static_cast<std::int64_t>(utc) + Fake().LocalOffsetMinutes * kTicksPerMinute;
+  return local < 0 ? 0 : static_cast<std::uint64_t>(local);
+}
+
+std::uint32_t TimerMilliseconds() {
+  return Fake().TimerMilliseconds;
+}
+TimerPeriods TimerCapabilities() {
+  return Fake().TimerPeriods;
+}
+
+const UserLocale& Locale() {
+  return Fake().Locale;
+}
+
+std::wstring FormatShortDate(int year, int month, int day) {
+  const std::wstring& separator = Fake().Locale.DateSeparator;
+  return std::to_wstring(month) + separator + std::to_wstring(day) + separator + std::to_wstring(year);
+}
+
+BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons, BoxDefault preset) {
+  Fake().Messages.push_back({text, icon, buttons, preset});
+  if (!Fake().Answers.empty()) {
+    const BoxAnswer answer = Fake().Answers.front();
+    Fake().Answers.pop_front();
+    return answer;
+  }
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return BoxAnswer::No;
+    case BoxButtons::YesNoCancel:
+      return BoxAnswer::Cancel;
+    case BoxButtons::Ok:
+      break;
+  }
+  return BoxAnswer::Ok;
+}
+
+std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
+  const auto found = Fake().Store.find({section, key});
+  return found == Fake().Store.end() ? std::nullopt : std::optional(found->second);
+}
+
+void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+  if (const auto& failure = Fake().FailStoreWrites) {
+    throw RuntimeError(FailedAction::WriteSetting, StoreName(section) + L"\\" + key, failure->Text, failure->Code);
+  }
+  Fake().Store[{section, key}] = value;
+}
+
+std::wstring StoreName(const std::wstring& section) {
+  return L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\" + section;
+}
+
+}  // namespace folivant::platform
