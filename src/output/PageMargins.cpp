@@ -1,5 +1,7 @@
 #include "output/PageMargins.h"
 
+#include "platform/RuntimeError.h"
+
 namespace folivant {
 namespace {
 
@@ -20,6 +22,25 @@ PageMargins MarginsInTwips(const GeneralSettings& general) {
 PageMargins MinimumMargins(const platform::PageArea& area, bool inches) {
   const double unit = TwipsPerUnit(inches);
   return {area.LeftOffset / unit, area.RightOffset / unit, area.TopOffset / unit, area.BottomOffset / unit};
+}
+
+PageMargins MinimumMarginsOf(const PrinterSettings& printer, bool portrait, bool inches) {
+  try {
+    return MinimumMargins(platform::PageAreaOf(PrintJobOf(printer, portrait)), inches);
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
+platform::PrintJob PrintJobOf(const PrinterSettings& printer, bool portrait) {
+  platform::PrintJob job;
+  job.PrinterName = printer.PrinterName;
+  job.Portrait = portrait;
+  job.Copies = printer.PrinterCopies;
+  job.Duplex = printer.PrinterDuplex;
+  job.Quality = printer.PrinterQuality;
+  job.PaperBin = printer.PrinterPaperBin;
+  return job;
 }
 
 }  // namespace folivant

@@ -20,5 +20,11 @@ double TwipsPerUnit(bool inches);
 PageMargins MarginsInTwips(const GeneralSettings& general);
 /// The bands that a sheet of `area` cannot carry, in inches or millimetres: no margin can be smaller.
 PageMargins MinimumMargins(const platform::PageArea& area, bool inches);
+/// The same for a sheet of that printer in that orientation; all zero when there is no such printer, so that nothing
+/// keeps a user without one from confirming the options.
+PageMargins MinimumMarginsOf(const PrinterSettings& printer, bool portrait, bool inches);
+
+/// The job that the printer settings describe, without a title.
+platform::PrintJob PrintJobOf(const PrinterSettings& printer, bool portrait);
 
 }  // namespace folivant

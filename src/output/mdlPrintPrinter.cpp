@@ -39,14 +39,8 @@ platform::PageFont HeaderFooterFont(const GeneralSettings& general) {
 }
 
 platform::PrintJob JobOf(const ListingRun& run) {
-  platform::PrintJob job;
-  job.PrinterName = run.Printer.PrinterName;
+  platform::PrintJob job = PrintJobOf(run.Printer, run.General.Portrait);
   job.Title = L"Folivant - " + run.Tree.StartPath;
-  job.Portrait = run.General.Portrait;
-  job.Copies = run.Printer.PrinterCopies;
-  job.Duplex = run.Printer.PrinterDuplex;
-  job.Quality = run.Printer.PrinterQuality;
-  job.PaperBin = run.Printer.PrinterPaperBin;
   return job;
 }
 

@@ -65,4 +65,8 @@ class PageSurface {
 /// Begins a document and its first page. Throws RuntimeError (Print) when the printer is not there or refuses.
 std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job);
 
+/// The sheet that such a job would get, without beginning one. Throws RuntimeError (Print) when the printer is not
+/// there.
+PageArea PageAreaOf(const PrintJob& job);
+
 }  // namespace folivant::platform

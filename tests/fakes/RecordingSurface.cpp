@@ -144,4 +144,13 @@ std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
   return std::make_unique<fakes::RecordingSurface>(printer, job.PrinterName);
 }
 
+PageArea PageAreaOf(const PrintJob& job) {
+  if (fakes::Printer().Failure == fakes::PrinterFailure::Open) {
+    throw RuntimeError(FailedAction::Print, job.PrinterName, L"The printer name is invalid.", 1801);
+  }
+  const PageArea area = fakes::Printer().Area;
+  return job.Portrait ? area : PageArea{area.Height,     area.Width,     area.BottomOffset,
+                                        area.LeftOffset, area.TopOffset, area.RightOffset};
+}
+
 }  // namespace folivant::platform

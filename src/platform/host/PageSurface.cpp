@@ -6,10 +6,21 @@
 #include "platform/host/Host.h"
 
 namespace folivant::platform {
+namespace {
 
-std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
+[[noreturn]] void NoPrinter(const PrintJob& job) {
   errno = ENODEV;
   throw SystemError(FailedAction::Print, job.PrinterName);
+}
+
+}  // namespace
+
+std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
+  NoPrinter(job);
+}
+
+PageArea PageAreaOf(const PrintJob& job) {
+  NoPrinter(job);
 }
 
 }  // namespace folivant::platform
