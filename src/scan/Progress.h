@@ -18,6 +18,8 @@ class Progress {
   virtual void LetEventsThrough() = 0;
   /// Whether the user has cancelled the run. Asked only at the points where a run may stop.
   virtual bool Cancelled() const = 0;
+  /// False when nobody watches, so that a wait for the user would never end.
+  virtual bool CanCancel() const { return true; }
 };
 
 class NoProgress final : public Progress {
@@ -26,6 +28,7 @@ class NoProgress final : public Progress {
   void SetProgress(std::int32_t) override {}
   void LetEventsThrough() override {}
   bool Cancelled() const override { return false; }
+  bool CanCancel() const override { return false; }
 };
 
 }  // namespace folivant
