@@ -13,5 +13,7 @@ namespace folivant {
 DateValue FileDateOf(std::uint64_t& fileTime);
 /// The same conversion without the detour over a day count, for texts.
 platform::CalendarTime FileTimeOf(std::uint64_t& fileTime);
+/// The calendar fields of a file time that is local already.
+platform::CalendarTime CalendarTimeOf(std::uint64_t localFileTime);
 
 }  // namespace folivant

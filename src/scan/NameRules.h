@@ -9,6 +9,8 @@ namespace folivant {
 /// A name all in capitals or all in small letters becomes "Capital followed by small letters", cut to 256 characters; a
 /// mixed-case name is returned as it is.
 std::wstring ProperName(std::wstring_view name);
+/// The same for a name without NULs into a buffer of at least its length; returns how many characters were written.
+std::size_t ProperNameInto(std::wstring_view name, wchar_t* out);
 
 /// A path in its two spellings.
 struct LongPath {

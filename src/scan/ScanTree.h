@@ -17,7 +17,7 @@ namespace folivant {
 struct FileRecord {
   std::wstring_view Name;     ///< re-cased by ProperName
   std::wstring_view DosName;  ///< lower case
-  std::wstring_view SortKey;  ///< empty without a sort order, and once its directory is sorted
+  std::wstring_view SortKey;  ///< in memory of its own, only until the next record is filled; empty in kept records
   std::wstring_view SizeText;
   std::wstring_view DateText;
   std::wstring_view AttrText;  ///< five characters, "darsh" or blanks
@@ -30,7 +30,7 @@ inline constexpr std::int32_t kHiddenLevel = -1;
 /// One directory of the directory view.
 struct DirNode {
   std::wstring_view Name;  ///< as on disk; the start path for node 0
-  std::wstring_view Path;  ///< as shown
+  std::wstring_view Path;  ///< as shown; filled when the node is listed
   std::int32_t Level = 0;
   std::int32_t Files = 0;
   Currency Size;
@@ -59,12 +59,13 @@ struct ScanTree {
   bool Cancelled = false;
   bool Unreadable = false;  ///< some directory could not be read; the listing itself stays silent about it
 
-  std::deque<DirNode> DirNodes;      ///< depth-first, the start directory first
-  std::deque<FileRecord> TreeList;   ///< depth-first
-  std::vector<FoundItem> FoundList;  ///< may hold one slot more than FoundCount
+  std::deque<DirNode> DirNodes;         ///< depth-first, the start directory first
+  std::deque<FileRecord> TreeRecords;   ///< the entries of tree style, directory by directory
+  std::vector<std::uint32_t> TreeList;  ///< indexes into TreeRecords, depth-first in listing order
+  std::vector<FoundItem> FoundList;     ///< may hold one slot more than FoundCount
   std::int32_t FoundCount = 0;
   std::wstring FindWindowTitle;  ///< heading of the file lists; keeps its last value between runs
-  TextArena Texts;               ///< owns the texts of DirNodes and TreeList
+  TextArena Texts;               ///< owns the texts of DirNodes and TreeRecords
 
   /// Totals and flags to zero, for the start of a run.
   void ResetTotals();
