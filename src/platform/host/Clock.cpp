@@ -1,12 +1,13 @@
 #include "platform/Clock.h"
 
+#include <algorithm>
 #include <ctime>
 
 namespace folivant::platform {
 namespace {
 
 tm LocalNow() {
-  const std::time_t now = std::time(nullptr);
+  const time_t now = time(nullptr);
   tm local{};
   localtime_r(&now, &local);
   return local;
@@ -15,14 +16,13 @@ tm LocalNow() {
 }  // namespace
 
 CalendarTime Now() {
-  const tm local = LocalNow();
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+  const tm now = LocalNow();
+  return {now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec};
 }
 
 std::uint64_t ToLocalFileTime(std::uint64_t utc) {
-  static const std::int64_t offset = std::int64_t{LocalNow().tm_gmtoff} * 10'000'000;
-  const std::int64_t local = static_cast<std::int64_t>(utc) + offset;
-  return local < 0 ? 0 : static_cast<std::uint64_t>(local);
+  static const std::int64_t offset = LocalNow().tm_gmtoff * std::int64_t{10'000'000};
+  return static_cast<std::uint64_t>(std::max<std::int64_t>(static_cast<std::int64_t>(utc) + offset, 0));
 }
 
 std::uint32_t TimerMilliseconds() {
@@ -32,7 +32,7 @@ std::uint32_t TimerMilliseconds() {
 }
 
 TimerPeriods TimerCapabilities() {
-  return {1, 1'000'000};
+  return {1, 65535};  // what Windows says of its timer
 }
 
 }  // namespace folivant::platform

@@ -1,126 +1,170 @@
 #include "platform/Files.h"
 
-#include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
 
-#include "platform/FindFiles.h"
-#include "platform/Text.h"
 #include "platform/host/Host.h"
+#include "platform/host/HostPath.h"
 
 namespace folivant::platform {
 namespace {
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-bool WriteAndFlush(const std::string& path, std::string_view bytes) {
-  File file(std::fopen(path.c_str(), "wbe"));
-  const bool written = file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
-                       std::fflush(file.get()) == 0 && fsync(fileno(file.get())) == 0;
-  return written && std::fclose(file.release()) == 0;
+Descriptor Open(const Place& place, int flags, mode_t mode = 0) {
+  return Descriptor(openat(place.Directory(), place.Name(), flags | O_CLOEXEC, mode));
 }
+
+std::optional<struct stat> StatusOf(std::wstring_view path) {
+  const Place place = Locate(path);
+  struct stat status;
+  if (fstatat(place.Directory(), place.Name(), &status, 0) != 0) {
+    return std::nullopt;
+  }
+  return status;
+}
+
+/// A new file beside `target` that is removed unless it is moved over it.
+class TemporaryFile {
+ public:
+  TemporaryFile(const Place& target, const std::wstring& path) : target_(target), path_(path) {
+    for (int i = 0; !file_; ++i) {
+      name_ = std::string(target.Name()) + ".~" + std::to_string(getpid()) + "-" + std::to_string(i);
+      file_ = Descriptor(
+          openat(target.Directory(), name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, ModeOfTarget()));
+      if (!file_ && errno != EEXIST) {
+        throw SystemError(FailedAction::WriteFile, path_);
+      }
+    }
+  }
+  ~TemporaryFile() {
+    if (!moved_) {
+      unlinkat(target_.Directory(), name_.c_str(), 0);
+    }
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  void Write(std::string_view bytes) {
+    if (!WriteAll(file_.Get(), bytes) || fsync(file_.Get()) != 0) {
+      throw SystemError(FailedAction::WriteFile, path_);
+    }
+  }
+  void MoveOverTarget() {
+    moved_ = renameat(target_.Directory(), name_.c_str(), target_.Directory(), target_.Name()) == 0;
+    if (!moved_) {
+      throw SystemError(FailedAction::WriteFile, path_);
+    }
+  }
+
+ private:
+  mode_t ModeOfTarget() const {
+    struct stat status;
+    return fstatat(target_.Directory(), target_.Name(), &status, 0) == 0 ? status.st_mode & 07777 : 0666;
+  }
+
+  const Place& target_;
+  std::wstring path_;
+  std::string name_;
+  Descriptor file_;
+  bool moved_ = false;
+};
 
 }  // namespace
 
 std::string ReadWholeFile(const std::wstring& path) {
-  const File file(std::fopen(ToNativePath(path).c_str(), "rbe"));
+  const std::wstring full = AbsolutePath(path);
+  const Descriptor file = Open(Locate(full), O_RDONLY);
   if (!file) {
-    throw SystemError(FailedAction::ReadFile, path);
+    throw SystemError(FailedAction::ReadFile, full);
   }
-  std::string bytes;
-  char block[64 * 1024];
-  while (const std::size_t count = std::fread(block, 1, sizeof block, file.get())) {
-    bytes.append(block, count);
+  std::string bytes(64 * 1024, '\0');
+  std::size_t filled = 0;
+  for (;;) {
+    const ssize_t got = read(file.Get(), bytes.data() + filled, bytes.size() - filled);
+    if (got < 0) {
+      throw SystemError(FailedAction::ReadFile, full);
+    }
+    if (got == 0) {
+      break;
+    }
+    filled += static_cast<std::size_t>(got);
+    if (filled == bytes.size()) {
+      bytes.resize(2 * filled);
+    }
   }
-  if (std::ferror(file.get()) != 0) {
-    throw SystemError(FailedAction::ReadFile, path);
-  }
+  bytes.resize(filled);
   return bytes;
 }
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
-  const std::string native = ToNativePath(path);
-  const std::string temporary = native + ".new" + std::to_string(getpid());
-  if (WriteAndFlush(temporary, bytes) && rename(temporary.c_str(), native.c_str()) == 0) {
-    return;
-  }
-  const RuntimeError error = SystemError(FailedAction::WriteFile, path);
-  unlink(temporary.c_str());
-  throw error;
+  const std::wstring full = AbsolutePath(path);
+  const Place target = Locate(full);
+  TemporaryFile file(target, full);
+  file.Write(bytes);
+  file.MoveOverTarget();
 }
 
 bool TruncateFile(const std::wstring& path) {
-  return File(std::fopen(ToNativePath(path).c_str(), "wbe")) != nullptr;
+  return static_cast<bool>(Open(Locate(path), O_WRONLY | O_CREAT | O_TRUNC, 0666));
 }
 
 bool RemoveFile(const std::wstring& path) {
-  return unlink(ToNativePath(path).c_str()) == 0;
+  const Place place = Locate(path);
+  return unlinkat(place.Directory(), place.Name(), 0) == 0;
 }
 
 bool PathExists(std::wstring_view path) {
-  struct stat status {};
-  return stat(ToNativePath(path).c_str(), &status) == 0;
+  return StatusOf(path).has_value();
 }
 
 bool IsDirectory(std::wstring_view path) {
-  struct stat status {};
-  return stat(ToNativePath(path).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  const auto status = StatusOf(path);
+  return status && S_ISDIR(status->st_mode);
 }
 
 std::wstring CurrentDirectory() {
-  char path[PATH_MAX];
-  return FromNativePath(getcwd(path, sizeof path) == nullptr ? "/" : path);
+  const std::unique_ptr<char, void (*)(void*)> directory(getcwd(nullptr, 0), std::free);
+  return directory ? FromNativePath(directory.get()) : L"Z:\\";
 }
 
 std::wstring AbsolutePath(const std::wstring& path) {
-  if (path.starts_with(L"\\\\") || (path.size() >= 2 && path[1] == L':')) {
+  const bool absolute = path.starts_with(L"\\\\") || (path.size() >= 3 && path.compare(1, 2, L":\\") == 0);
+  if (absolute || path.empty()) {
     return path;
   }
-  if (path.starts_with(L'\\')) {
-    return L"Z:" + path;
+  const std::string bytes = HostBytes(path);
+  if (bytes.empty()) {
+    return path;
   }
-  const std::wstring current = CurrentDirectory();
-  return current + (current.ends_with(L'\\') ? L"" : L"\\") + path;
+  std::string full = bytes.front() == '/' ? bytes : HostBytes(CurrentDirectory()) + "/" + bytes;
+  full = std::filesystem::path(full).lexically_normal();
+  return FromNativePath(full);
 }
 
 std::wstring TemporaryDirectory() {
-  const char* const folder = std::getenv("TMPDIR");
-  return FromNativePath(folder != nullptr && *folder != 0 ? folder : "/tmp");
+  const char* named = std::getenv("TMPDIR");
+  return FromNativePath(named != nullptr && named[0] == '/' ? named : "/tmp");
 }
 
 std::wstring ProgramFolder() {
-  char path[PATH_MAX];
-  const ssize_t length = readlink("/proc/self/exe", path, sizeof path);
-  const std::string program(path, length < 0 ? 0 : static_cast<std::size_t>(length));
-  return FromNativePath(program.substr(0, program.rfind('/')));
+  std::string file(PATH_MAX, '\0');
+  const ssize_t length = readlink("/proc/self/exe", file.data(), file.size());
+  file.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+  return FromNativePath(file.substr(0, file.rfind('/')));
 }
 
 std::optional<std::wstring> SendToFolder() {
-  const char* const folder = std::getenv("FOLIVANT_SENDTO");
-  return folder == nullptr ? std::nullopt : std::optional(FromNativePath(folder));
-}
-
-std::vector<std::wstring> FindNames(const std::wstring& folder, const std::wstring& pattern) {
-  const std::wstring extension = ToLower(pattern.substr(1));  // every pattern of this program is "*.something"
-  std::vector<std::wstring> names;
-  FindFiles files(folder, ShortNames::Skip);
-  for (FindData data; files.Opened() && files.Next(data);) {
-    if (!data.IsDirectory() && ToLower(data.Name).ends_with(extension)) {
-      names.emplace_back(data.Name);
-    }
+  const char* folder = std::getenv("FOLIVANT_SENDTO");
+  if (folder == nullptr || folder[0] == '\0') {
+    return std::nullopt;
   }
-  return names;
+  return folder[0] == '/' ? FromNativePath(folder) : FromUtf8(folder);
 }
 
 std::wstring VolumeLabel(const std::wstring&) {
@@ -128,11 +172,13 @@ std::wstring VolumeLabel(const std::wstring&) {
 }
 
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
-  struct statvfs status {};
-  if (statvfs(ToNativePath(directory).c_str(), &status) != 0) {
+  const Place place = Locate(directory);
+  const Descriptor opened(openat(place.Directory(), place.Name(), O_PATH | O_CLOEXEC));
+  struct statvfs status;
+  if (!opened || fstatvfs(opened.Get(), &status) != 0) {
     return std::nullopt;
   }
-  return DiskSpace{std::uint64_t{status.f_bavail} * status.f_frsize, std::uint64_t{status.f_blocks} * status.f_frsize};
+  return DiskSpace{std::uint64_t{status.f_bfree} * status.f_frsize, std::uint64_t{status.f_blocks} * status.f_frsize};
 }
 
 }  // namespace folivant::platform

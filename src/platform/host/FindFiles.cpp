@@ -1,95 +1,40 @@
 #include "platform/FindFiles.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <unistd.h>
 
-#include <algorithm>
 #include <array>
-#include <cstddef>
+#include <cerrno>
 #include <cstring>
-#include <utility>
+#include <vector>
 
 #include "platform/host/Host.h"
+#include "platform/host/HostPath.h"
 
 namespace folivant::platform {
 namespace {
 
-/// Owns a file descriptor.
-class Descriptor {
- public:
-  explicit Descriptor(int number = -1) : number_(number) {}
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor& operator=(Descriptor other) noexcept {
-    std::swap(number_, other.number_);
-    return *this;
-  }
-  ~Descriptor() {
-    if (number_ >= 0) {
-      close(number_);
-    }
-  }
-  int Get() const { return number_; }
-  bool IsOpen() const { return number_ >= 0; }
+constexpr std::size_t kBlockBytes = 64 * 1024;
+constexpr std::size_t kLongestName = 1024;  ///< bytes; this system allows 255, foreign volumes some more
 
- private:
-  int number_;
-};
+using Block = std::vector<char>;
 
-constexpr int kOpenDirectory = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-
-/// Opens a directory by a path of any length: what exceeds one system call's limit is opened piece by piece.
-Descriptor OpenDirectory(const std::string& path) {
-  constexpr std::size_t kPiece = 4000;
-  if (path.size() <= kPiece) {
-    return Descriptor(open(path.c_str(), kOpenDirectory));
-  }
-  Descriptor current(open("/", kOpenDirectory));
-  for (std::size_t start = path.find_first_not_of('/'); start != path.npos && current.IsOpen();) {
-    std::size_t end = path.size();
-    if (end - start > kPiece) {
-      end = path.rfind('/', start + kPiece);
-      if (end == path.npos || end <= start) {
-        return Descriptor();
-      }
-    }
-    const std::string piece = path.substr(start, end - start);
-    current = Descriptor(openat(current.Get(), piece.c_str(), kOpenDirectory));
-    start = path.find_first_not_of('/', end);
-  }
-  return current;
+/// Enumerations follow each other by the thousand: the last one's buffer serves the next.
+Block& SpareBlock() {
+  static Block block;
+  return block;
 }
 
-constexpr std::uint64_t kTicksPerSecond = 10'000'000;
-constexpr std::int64_t kSecondsFrom1601 = 11'644'473'600;
-
-std::uint64_t ToFileTime(const timespec& time) {
-  const std::int64_t seconds = static_cast<std::int64_t>(time.tv_sec) + kSecondsFrom1601;
-  return seconds < 0
-             ? 0
-             : static_cast<std::uint64_t>(seconds) * kTicksPerSecond + static_cast<std::uint64_t>(time.tv_nsec) / 100;
+Block TakeBlock() {
+  Block block = std::move(SpareBlock());
+  SpareBlock().clear();
+  block.resize(kBlockBytes);
+  return block;
 }
 
-/// Attributes as Wine derives them from a file's name and mode.
-void FillFromStatus(const struct stat& status, bool dotName, bool link, FindData& data) {
-  const bool directory = S_ISDIR(status.st_mode);
-  data.Attributes = directory ? kDirectory | (link ? kLink : 0) : kArchive;
-  if ((status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) {
-    data.Attributes |= kReadOnly;
-  }
-  if (dotName) {
-    data.Attributes |= kHidden;
-  }
-  data.LastWrite = ToFileTime(status.st_mtim);
-  const std::uint64_t size = directory ? 0 : static_cast<std::uint64_t>(status.st_size);
-  data.SizeHigh = static_cast<std::uint32_t>(size >> 32);
-  data.SizeLow = static_cast<std::uint32_t>(size);
-}
-
-/// One record of getdents64.
-struct DirectoryRecord {
+/// The layout of the kernel's directory records.
+struct Record {
   std::uint64_t Inode;
   std::int64_t Offset;
   std::uint16_t Length;
@@ -97,85 +42,121 @@ struct DirectoryRecord {
   char Name[1];
 };
 
+bool IsDots(const char* name) {
+  return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+}
+
+std::uint64_t FileTime(const timespec& time) {
+  constexpr std::int64_t kSecondsTo1970 = 11'644'473'600;
+  return static_cast<std::uint64_t>((time.tv_sec + kSecondsTo1970) * 10'000'000 + time.tv_nsec / 100);
+}
+
+bool IsWritable(const struct stat& status) {
+  return (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+}
+
+/// As Wine reports the entries of this system, from the status that a link leads to: links to directories and volumes
+/// mounted in the folder are reparse points.
+void Fill(const struct stat& status, const char* name, bool link, dev_t parentDevice, FindData& data) {
+  const bool directory = S_ISDIR(status.st_mode);
+  data.Attributes = directory ? kDirectory : kArchive;
+  if (!IsWritable(status)) {
+    data.Attributes |= kReadOnly;
+  }
+  if (name[0] == '.') {
+    data.Attributes |= kHidden;
+  }
+  if (directory && (link || status.st_dev != parentDevice)) {
+    data.Attributes |= kLink;
+  }
+  const std::uint64_t size = directory ? 0 : static_cast<std::uint64_t>(status.st_size);
+  data.SizeHigh = static_cast<std::uint32_t>(size >> 32);
+  data.SizeLow = static_cast<std::uint32_t>(size);
+  data.LastWrite = FileTime(status.st_mtim);
+}
+
+bool IsLinkEntry(int directory, const char* name, unsigned type) {
+  struct stat status;
+  return type == DT_LNK ||
+         (type == DT_UNKNOWN && fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode));
+}
+
+Descriptor OpenDirectory(std::wstring_view path, int flags) {
+  flags |= O_DIRECTORY | O_CLOEXEC;
+  const std::string bytes = HostBytes(path);
+  Descriptor directory(open(bytes.c_str(), flags));
+  if (!directory && (errno == ENOENT || errno == ENAMETOOLONG)) {
+    const Place place = Locate(path);
+    directory = Descriptor(openat(place.Directory(), place.Name(), flags));
+  }
+  return directory;
+}
+
 }  // namespace
 
 struct FindFiles::State {
   Descriptor Directory;
+  dev_t Device = 0;
   bool Failed = false;
-  std::size_t Filled = 0;    // bytes in Buffer
-  std::size_t Position = 0;  // of the next record in Buffer
-  alignas(DirectoryRecord) std::array<char, 64 * 1024> Buffer;
-  std::array<wchar_t, 256> Name;
+  Block Records;
+  std::size_t At = 0;
+  std::size_t End = 0;
+  std::array<wchar_t, kLongestName> Name;
 
-  const DirectoryRecord* NextRecord() {
-    if (Position >= Filled) {
-      const long count = syscall(SYS_getdents64, Directory.Get(), Buffer.data(), Buffer.size());
-      Failed = count < 0;
-      if (count <= 0) {
-        return nullptr;
-      }
-      Filled = static_cast<std::size_t>(count);
-      Position = 0;
+  const Record* NextRecord() {
+    if (At == End && !ReadBlock()) {
+      return nullptr;
     }
-    const auto* record = reinterpret_cast<const DirectoryRecord*>(Buffer.data() + Position);
-    Position += record->Length;
+    const Record* record = reinterpret_cast<const Record*>(Records.data() + At);
+    At += record->Length;
     return record;
+  }
+  bool ReadBlock() {
+    const long read = syscall(SYS_getdents64, Directory.Get(), Records.data(), Records.size());
+    Failed = read < 0;
+    At = 0;
+    End = read > 0 ? static_cast<std::size_t>(read) : 0;
+    return read > 0;
   }
 };
 
-namespace {
-
-/// One buffer is kept between directories: a fresh one costs page faults for every directory of a walk.
-template <class State>
-std::unique_ptr<State>& SpareState() {
-  thread_local std::unique_ptr<State> spare;
-  return spare;
-}
-
-bool IsDotEntry(const char* name) {
-  return name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0));
-}
-
-}  // namespace
-
-FindFiles::FindFiles(std::wstring_view directory, ShortNames) : state_(std::move(SpareState<State>())) {
-  if (!state_) {
-    state_.reset(new State);  // not make_unique: it would clear the buffer
+FindFiles::FindFiles(std::wstring_view directory, ShortNames) : state_(new State) {
+  state_->Directory = OpenDirectory(directory, O_RDONLY);
+  struct stat status;
+  if (state_->Directory && fstat(state_->Directory.Get(), &status) == 0) {
+    state_->Device = status.st_dev;
+    state_->Records = TakeBlock();
   }
-  state_->Directory = OpenDirectory(ToNativePath(directory));
-  state_->Failed = false;
-  state_->Filled = state_->Position = 0;
 }
 
 FindFiles::~FindFiles() {
-  state_->Directory = Descriptor();
-  SpareState<State>() = std::move(state_);
+  SpareBlock() = std::move(state_->Records);
 }
 
 bool FindFiles::Opened() const {
-  return state_->Directory.IsOpen();
+  return static_cast<bool>(state_->Directory);
 }
+
 bool FindFiles::Failed() const {
   return state_->Failed;
 }
 
 bool FindFiles::Next(FindData& data) {
-  while (const DirectoryRecord* record = state_->NextRecord()) {
-    const char* const name = record->Name;
-    if (IsDotEntry(name)) {
+  State& state = *state_;
+  if (!state.Directory || state.Failed) {
+    return false;
+  }
+  while (const Record* record = state.NextRecord()) {
+    const char* name = record->Name;
+    struct stat status;
+    // a name that is gone by now and a link that leads nowhere are not seen
+    if (IsDots(name) || fstatat(state.Directory.Get(), name, &status, 0) != 0) {
       continue;
     }
-    struct stat status;
-    bool link = record->Type == DT_LNK;
-    if (record->Type == DT_UNKNOWN && fstatat(state_->Directory.Get(), name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
-      link = S_ISLNK(status.st_mode);
-    }
-    if (fstatat(state_->Directory.Get(), name, &status, 0) != 0) {
-      continue;  // a broken link, or an entry that vanished meanwhile
-    }
-    FillFromStatus(status, name[0] == '.', link, data);
-    const std::size_t length = FromUtf8Into({name, std::strlen(name)}, state_->Name.data());
-    data.Name = {state_->Name.data(), length};
+    const bool link = S_ISDIR(status.st_mode) && IsLinkEntry(state.Directory.Get(), name, record->Type);
+    Fill(status, name, link, state.Device, data);
+    const std::string_view bytes = std::string_view(name).substr(0, kLongestName);
+    data.Name = std::wstring_view(state.Name.data(), FromUtf8Into(bytes, state.Name.data()));
     data.AlternateName = {};
     return true;
   }
@@ -183,24 +164,32 @@ bool FindFiles::Next(FindData& data) {
 }
 
 std::optional<FoundEntry> FindEntry(std::wstring_view path) {
-  const std::string native = ToNativePath(path);
-  const std::string name = native.substr(native.rfind('/') + 1);
-  struct stat status {};
-  if (name.empty() || name == "." || name == ".." || stat(native.c_str(), &status) != 0) {
+  const std::wstring_view last = path.substr(path.find_last_of(L"\\/:") + 1);
+  if (last.empty() || last == L"." || last == L"..") {
     return std::nullopt;
   }
-  struct stat self {};
-  const bool link = lstat(native.c_str(), &self) == 0 && S_ISLNK(self.st_mode);
-  FoundEntry found;
-  FillFromStatus(status, name[0] == '.', link, found.Data);
-  found.Name = FromUtf8(name);
-  return found;
+  const Place place = Locate(path);
+  struct stat status;
+  struct stat itself;
+  if (fstatat(place.Directory(), place.Name(), &status, 0) != 0 ||
+      fstatat(place.Directory(), place.Name(), &itself, AT_SYMLINK_NOFOLLOW) != 0) {
+    return std::nullopt;
+  }
+  const std::string whole = place.Name();
+  const std::size_t start = whole.rfind('/') + 1;
+  const std::string parent = whole.substr(0, start) + ".";
+  struct stat parentStatus = status;
+  fstatat(place.Directory(), parent.c_str(), &parentStatus, 0);
+  FoundEntry entry;
+  Fill(status, whole.c_str() + start, S_ISLNK(itself.st_mode), parentStatus.st_dev, entry.Data);
+  entry.Name = FromUtf8(std::string_view(whole).substr(start));
+  return entry;
 }
 
 std::optional<FileIdentity> IdentityOf(std::wstring_view directory) {
-  const Descriptor opened = OpenDirectory(ToNativePath(directory));
-  struct stat status {};
-  if (!opened.IsOpen() || fstat(opened.Get(), &status) != 0) {
+  const Descriptor opened = OpenDirectory(directory, O_PATH);
+  struct stat status;
+  if (!opened || fstat(opened.Get(), &status) != 0) {
     return std::nullopt;
   }
   return FileIdentity{status.st_dev, status.st_ino};

@@ -1,87 +1,73 @@
 #include "platform/OutputFile.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
+#include <algorithm>
 #include <cerrno>
+#include <utility>
 
+#include "platform/Files.h"
 #include "platform/Text.h"
 #include "platform/host/Host.h"
+#include "platform/host/HostPath.h"
 
 namespace folivant::platform {
-
-struct OutputFile::State {
-  int File = -1;
-  std::wstring Path;
-  std::string Bytes;  // converted, not yet written
-};
-
 namespace {
 
-constexpr std::size_t kBlock = 256 * 1024;
-
-bool WriteAll(int file, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = write(file, bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) {
-      return false;
-    }
-    bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-  }
-  return true;
-}
+constexpr std::size_t kBlock = 64 * 1024;  ///< bytes
 
 }  // namespace
 
-OutputFile::OutputFile() : state_(std::make_unique<State>()) {}
+struct OutputFile::State {
+  Descriptor File;
+  std::wstring Path;
+  std::string Bytes;
 
-OutputFile::~OutputFile() {
-  if (IsOpen()) {
-    close(state_->File);
+  void Flush() {
+    if (!WriteAll(File.Get(), Bytes)) {
+      throw SystemError(FailedAction::WriteFile, Path);
+    }
+    Bytes.clear();
   }
+};
+
+OutputFile::OutputFile() : state_(std::make_unique<State>()) {}
+OutputFile::~OutputFile() = default;
+
+void OutputFile::Open(const std::wstring& path) {
+  state_ = std::make_unique<State>();
+  const std::wstring full = AbsolutePath(path);
+  const Place place = Locate(full);
+  Descriptor file(openat(place.Directory(), place.Name(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  if (!file) {
+    throw SystemError(FailedAction::CreateFile, full);
+  }
+  state_->File = std::move(file);
+  state_->Path = full;
+  state_->Bytes.reserve(kBlock);
 }
 
 bool OutputFile::IsOpen() const {
-  return state_->File >= 0;
-}
-
-void OutputFile::Open(const std::wstring& path) {
-  if (IsOpen()) {
-    close(state_->File);
-  }
-  state_->Path = path;
-  state_->Bytes.clear();
-  state_->Bytes.reserve(kBlock + kBlock / 4);
-  state_->File = open(ToNativePath(path).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-  if (!IsOpen()) {
-    throw SystemError(FailedAction::CreateFile, path);
-  }
+  return static_cast<bool>(state_->File);
 }
 
 void OutputFile::Write(std::wstring_view text) {
-  AppendAnsi(text, state_->Bytes);
-  if (state_->Bytes.size() >= kBlock) {
-    if (!WriteAll(state_->File, state_->Bytes)) {
-      throw SystemError(FailedAction::WriteFile, state_->Path);
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.size(), kBlock - state_->Bytes.size());
+    AppendAnsi(text.substr(0, length), state_->Bytes);
+    text.remove_prefix(length);
+    if (state_->Bytes.size() >= kBlock) {
+      state_->Flush();
     }
-    state_->Bytes.clear();
   }
 }
 
 void OutputFile::Close() {
-  if (!IsOpen()) {
+  const std::unique_ptr<State> closing = std::exchange(state_, std::make_unique<State>());
+  if (!closing->File) {
     return;
   }
-  const bool written = WriteAll(state_->File, state_->Bytes);
-  RuntimeError writeError = SystemError(FailedAction::WriteFile, state_->Path);
-  const bool closed = close(state_->File) == 0;
-  state_->File = -1;
-  state_->Bytes.clear();
-  if (!written) {
-    throw writeError;
-  }
-  if (!closed) {
-    throw SystemError(FailedAction::WriteFile, state_->Path);
+  closing->Flush();
+  if (close(closing->File.Release()) != 0) {
+    throw SystemError(FailedAction::WriteFile, closing->Path);
   }
 }
 

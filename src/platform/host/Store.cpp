@@ -3,58 +3,91 @@
 #include <sys/stat.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "platform/Files.h"
 #include "platform/ProfileText.h"
+#include "platform/RuntimeError.h"
 #include "platform/host/Host.h"
+#include "platform/host/HostPath.h"
 
 namespace folivant::platform {
 namespace {
 
-std::string StoreFolder() {
-  const char* const configuration = std::getenv("XDG_CONFIG_HOME");
-  if (configuration != nullptr && *configuration != 0) {
-    return std::string(configuration) + "/Folivant 3.0";
+std::string Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+std::string ConfigurationFolder() {
+  const std::string named = Environment("XDG_CONFIG_HOME");
+  return named.starts_with('/') ? named : Environment("HOME") + "/.config";
+}
+
+std::wstring StorePath() {
+  return FromNativePath(ConfigurationFolder() + "/Folivant 3.0/settings.ini");
+}
+
+/// What tells one state of a file from the next.
+struct FileState {
+  dev_t Device = 0;
+  ino_t Inode = 0;  ///< each replacement brings a new one
+  off_t Size = 0;
+  timespec Changed{};
+  bool operator==(const FileState& other) const {
+    return Device == other.Device && Inode == other.Inode && Size == other.Size &&
+           Changed.tv_sec == other.Changed.tv_sec && Changed.tv_nsec == other.Changed.tv_nsec;
   }
-  const char* const home = std::getenv("HOME");
-  return std::string(home == nullptr ? "" : home) + "/.config/Folivant 3.0";
-}
+};
 
-std::wstring StoreFile() {
-  return FromNativePath(StoreFolder() + "/settings.ini");
-}
-
-ProfileText ReadStoreFile() {
-  return PathExists(StoreFile()) ? ProfileText(ReadWholeFile(StoreFile())) : ProfileText();
-}
-
-/// The store as this process knows it: the file is read once.
-ProfileText& Store() {
-  static ProfileText store = ReadStoreFile();
-  return store;
-}
-
-void MakeFolders(const std::string& path) {
-  for (std::size_t end = path.find('/', 1); end != path.npos; end = path.find('/', end + 1)) {
-    mkdir(path.substr(0, end).c_str(), 0777);
+FileState StateOf(const std::wstring& path) {
+  struct stat status;
+  if (stat(HostBytes(path).c_str(), &status) != 0) {
+    return {};
   }
-  mkdir(path.c_str(), 0700);
+  return {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
+}
+
+/// The store's text, read again only after somebody changed the file: a start asks for some hundred values.
+ProfileText& Text() {
+  static ProfileText text;
+  static FileState known;
+  const std::wstring path = StorePath();
+  if (const FileState now = StateOf(path); now != known) {
+    text = now == FileState() ? ProfileText() : ProfileText(ReadWholeFile(path));
+    known = now;
+  }
+  return text;
 }
 
 }  // namespace
 
 std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
-  return Store().Read(section, key);
+  try {
+    return Text().Read(section, key);
+  } catch (const RuntimeError&) {  // a store that cannot be read holds nothing, as a registry key without access
+    return std::nullopt;
+  }
 }
 
 void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
-  Store().Write(section, key, value);
-  MakeFolders(StoreFolder());
-  ReplaceFile(StoreFile(), Store().Bytes());
+  const std::wstring path = StorePath();
+  try {
+    std::error_code ignored;  // the write then says what is wrong
+    std::filesystem::create_directories(std::filesystem::path(HostBytes(path)).parent_path(), ignored);
+    ProfileText text = Text();
+    if (text.Read(section, key) != value) {
+      text.Write(section, key, value);
+      ReplaceFile(path, text.Bytes());
+    }
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(FailedAction::WriteSetting, StoreName(section) + L"\\" + section + L"\\" + key,
+                       error.SystemText(), error.SystemCode());
+  }
 }
 
 std::wstring StoreName(const std::wstring&) {
-  return StoreFile();
+  return StorePath();
 }
 
 }  // namespace folivant::platform

@@ -1,14 +1,17 @@
 #include "platform/Text.h"
 
+#include <wctype.h>
+
+#include <algorithm>
+#include <array>
 #include <clocale>
-#include <cwctype>
 
 #include "platform/host/Host.h"
 
 namespace folivant::platform {
 namespace {
 
-/// Case mapping of the whole of Unicode, whatever locale the process runs in.
+/// Letter case must not depend on what the user's environment names.
 locale_t CaseLocale() {
   static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
   return locale;
@@ -16,72 +19,72 @@ locale_t CaseLocale() {
 
 wchar_t Lower(wchar_t c) {
   if (c < 0x80) {
-    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + 32) : c;
+    return c >= L'A' && c <= L'Z' ? c + 0x20 : c;
   }
   return static_cast<wchar_t>(towlower_l(static_cast<wint_t>(c), CaseLocale()));
 }
 
 wchar_t Upper(wchar_t c) {
   if (c < 0x80) {
-    return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - 32) : c;
+    return c >= L'a' && c <= L'z' ? c - 0x20 : c;
   }
   return static_cast<wchar_t>(towupper_l(static_cast<wint_t>(c), CaseLocale()));
 }
 
-/// Characters 0x80 to 0x9F of code page 1252; 0 where it has none.
-constexpr wchar_t kWestern[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-                                  0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+/// Code page 1252 from 80 to 9F; the other bytes are their own characters.
+constexpr std::array<wchar_t, 32> kCodePage = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                               0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                               0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                               0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-char ToWestern(wchar_t c) {
-  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
+char AnsiOf(wchar_t c) {
+  if ((c >= 0 && c < 0x80) || (c >= 0xA0 && c <= 0xFF)) {
     return static_cast<char>(c);
   }
-  for (std::size_t i = 0; i < std::size(kWestern); ++i) {
-    if (kWestern[i] == c) {
-      return static_cast<char>(0x80 + i);
-    }
-  }
-  // The code points that the code page leaves open stand for themselves, as in the system's table.
-  const bool open = c == 0x81 || c == 0x8D || c == 0x8F || c == 0x90 || c == 0x9D;
-  return open ? static_cast<char>(c) : '?';
+  const auto found = std::find(kCodePage.begin(), kCodePage.end(), c);
+  return found == kCodePage.end() ? '?' : static_cast<char>(0x80 + (found - kCodePage.begin()));
 }
 
-wchar_t FromWestern(char byte) {
-  const unsigned char c = static_cast<unsigned char>(byte);
-  const bool special = c >= 0x80 && c <= 0x9F && kWestern[c - 0x80] != 0;
-  return special ? kWestern[c - 0x80] : static_cast<wchar_t>(c);
+constexpr wchar_t kFirstSupplementary = 0x10000;
+
+constexpr bool IsHighHalf(wchar_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+
+constexpr bool IsLowHalf(wchar_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+void AppendUnit(unsigned unit, std::string& bytes) {
+  bytes += static_cast<char>(unit & 0xFF);
+  bytes += static_cast<char>(unit >> 8);
 }
 
 }  // namespace
 
 void LowerInto(std::wstring_view text, wchar_t* out) {
-  for (const wchar_t c : text) {
-    *out++ = Lower(c);
-  }
+  std::transform(text.begin(), text.end(), out, Lower);
 }
 
 void UpperInto(std::wstring_view text, wchar_t* out) {
-  for (const wchar_t c : text) {
-    *out++ = Upper(c);
-  }
+  std::transform(text.begin(), text.end(), out, Upper);
 }
 
 std::wstring ToLower(std::wstring_view text) {
-  std::wstring result(text.size(), L'\0');
-  LowerInto(text, result.data());
-  return result;
+  std::wstring lower(text.size(), L'\0');
+  LowerInto(text, lower.data());
+  return lower;
 }
 
 std::wstring ToUpper(std::wstring_view text) {
-  std::wstring result(text.size(), L'\0');
-  UpperInto(text, result.data());
-  return result;
+  std::wstring upper(text.size(), L'\0');
+  UpperInto(text, upper.data());
+  return upper;
 }
 
 int CompareText(std::wstring_view a, std::wstring_view b) {
-  for (std::size_t i = 0; i < a.size() && i < b.size(); ++i) {
+  const std::size_t shared = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < shared; ++i) {
     const wchar_t left = Lower(a[i]);
     const wchar_t right = Lower(b[i]);
     if (left != right) {
@@ -91,73 +94,78 @@ int CompareText(std::wstring_view a, std::wstring_view b) {
   return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
 }
 
+// UTF-8 sorts by its bytes as its characters do.
 void AppendSortKey(std::wstring_view text, std::string& keys) {
-  // UTF-8 orders as its code points do.
+  const std::size_t start = keys.size();
+  keys.resize(start + text.size());
+  char* out = keys.data() + start;
+  wchar_t seen = 0;
   for (const wchar_t c : text) {
-    const wchar_t lower = Lower(c);
-    if (lower < 0x80) {
-      keys.push_back(static_cast<char>(lower));
-    } else {
-      keys += ToUtf8({&lower, 1});
-    }
+    seen |= c;
+    *out++ = static_cast<char>(c >= L'A' && c <= L'Z' ? c + 0x20 : c);
+  }
+  if (seen >= 0x80) {
+    keys.resize(start);
+    keys += ToUtf8(ToLower(text));
   }
 }
 
 std::wstring FromAnsi(std::string_view bytes) {
-  std::wstring result(bytes.size(), L'\0');
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    result[i] = FromWestern(bytes[i]);
-  }
-  return result;
+  std::wstring text(bytes.size(), L'\0');
+  std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) {
+    const unsigned char code = static_cast<unsigned char>(byte);
+    return code >= 0x80 && code < 0xA0 ? kCodePage[code - 0x80U] : static_cast<wchar_t>(code);
+  });
+  return text;
+}
+
+std::string ToAnsi(std::wstring_view text) {
+  std::string bytes;
+  AppendAnsi(text, bytes);
+  return bytes;
 }
 
 void AppendAnsi(std::wstring_view text, std::string& bytes) {
   const std::size_t start = bytes.size();
   bytes.resize(start + text.size());
   char* out = bytes.data() + start;
+  wchar_t seen = 0;
   for (const wchar_t c : text) {
-    *out++ = c < 0x80 ? static_cast<char>(c) : ToWestern(c);
+    seen |= c;
+    *out++ = static_cast<char>(c);
   }
-}
-
-std::string ToAnsi(std::wstring_view text) {
-  std::string result;
-  AppendAnsi(text, result);
-  return result;
+  if (seen >= 0x80) {
+    std::transform(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(start), AnsiOf);
+  }
 }
 
 std::wstring FromUtf16(std::string_view bytes) {
-  const auto unit = [&](std::size_t i) {
-    return static_cast<char32_t>(static_cast<unsigned char>(bytes[i]) | static_cast<unsigned char>(bytes[i + 1]) << 8);
-  };
-  std::wstring result;
+  std::wstring text;
+  text.reserve(bytes.size() / 2);
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    char32_t c = unit(i);
-    if (c >= 0xD800 && c < 0xDC00 && i + 3 < bytes.size() && (unit(i + 2) & 0xFC00) == 0xDC00) {
-      c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
-      i += 2;
+    const wchar_t unit = static_cast<unsigned char>(bytes[i]) | static_cast<unsigned char>(bytes[i + 1]) << 8;
+    if (IsLowHalf(unit) && !text.empty() && IsHighHalf(text.back())) {
+      text.back() = kFirstSupplementary + ((text.back() - 0xD800) << 10) + (unit - 0xDC00);
+    } else {
+      text += unit;
     }
-    result.push_back(static_cast<wchar_t>(c));
   }
-  return result;
+  return text;
 }
 
 std::string ToUtf16(std::wstring_view text) {
-  std::string result;
-  const auto add = [&](char32_t unit) {
-    result.push_back(static_cast<char>(unit & 0xFF));
-    result.push_back(static_cast<char>(unit >> 8));
-  };
-  for (const wchar_t wide : text) {
-    const char32_t c = static_cast<char32_t>(wide);
-    if (c >= 0x10000) {
-      add(0xD800 + ((c - 0x10000) >> 10));
-      add(0xDC00 + ((c - 0x10000) & 0x3FF));
+  std::string bytes;
+  bytes.reserve(2 * text.size());
+  for (const wchar_t c : text) {
+    const unsigned code = static_cast<unsigned>(c);
+    if (c < kFirstSupplementary) {
+      AppendUnit(code, bytes);
     } else {
-      add(c);
+      AppendUnit(0xD800 + ((code - 0x10000) >> 10), bytes);
+      AppendUnit(0xDC00 + (code & 0x3FF), bytes);
     }
   }
-  return result;
+  return bytes;
 }
 
 }  // namespace folivant::platform

@@ -2,145 +2,214 @@
 
 #include <shlobj.h>
 
+#include <algorithm>
+#include <array>
+
+#include "platform/win32/NativePath.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
 namespace {
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+/// An empty drive must not ask for a disk in a box of the system.
+class QuietDrives {
+ public:
+  QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_); }
+  ~QuietDrives() { SetThreadErrorMode(before_, nullptr); }
+  QuietDrives(const QuietDrives&) = delete;
+  QuietDrives& operator=(const QuietDrives&) = delete;
 
-bool WriteAndFlush(const std::wstring& path, std::string_view bytes) {
-  const OwnedFile file(
-      CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-  DWORD written = 0;
-  return file.IsOpen() &&
-         WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != 0 &&
-         written == bytes.size() && FlushFileBuffers(file.Get()) != 0;
+ private:
+  DWORD before_ = 0;
+};
+
+std::wstring WithBackslash(std::wstring_view path) {
+  return std::wstring(path) + (path.ends_with(L'\\') ? L"" : L"\\");
 }
+
+DWORD AttributesOf(std::wstring_view path) {
+  const QuietDrives quiet;
+  return GetFileAttributesW(NativePath(path).c_str());
+}
+
+/// Calls `fill(buffer, size)`, which answers the length that it wrote or the larger size that it needs.
+template <class Fill>
+std::wstring Filled(Fill fill) {
+  std::wstring text(MAX_PATH, L'\0');
+  DWORD length = fill(text.data(), static_cast<DWORD>(text.size()));
+  while (length >= text.size()) {
+    text.resize(length + std::size_t{1});
+    length = fill(text.data(), static_cast<DWORD>(text.size()));
+  }
+  text.resize(length);
+  return text;
+}
+
+void WriteAll(HANDLE file, std::string_view bytes, const std::wstring& path) {
+  while (!bytes.empty()) {
+    const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 20));
+    DWORD written = 0;
+    if (!::WriteFile(file, bytes.data(), wanted, &written, nullptr)) {
+      throw SystemError(FailedAction::WriteFile, path, GetLastError());
+    }
+    bytes.remove_prefix(written);
+  }
+}
+
+/// A new file beside `path` that deletes itself unless it is moved over it.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::wstring& path) : path_(path) {
+    for (int i = 0; !file_.IsOpen(); ++i) {
+      name_ = path + L".~" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(i);
+      file_ = OwnedFile(CreateFileW(NativePath(name_).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+      const DWORD error = GetLastError();
+      if (!file_.IsOpen() && error != ERROR_FILE_EXISTS) {
+        throw SystemError(FailedAction::WriteFile, path_, error);
+      }
+    }
+  }
+  ~TemporaryFile() {
+    if (!moved_) {
+      file_ = OwnedFile();
+      DeleteFileW(NativePath(name_).c_str());
+    }
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  void Write(std::string_view bytes) {
+    WriteAll(file_.Get(), bytes, path_);
+    if (!FlushFileBuffers(file_.Get())) {
+      throw SystemError(FailedAction::WriteFile, path_, GetLastError());
+    }
+  }
+  void MoveOverTarget() {
+    file_ = OwnedFile();
+    moved_ = MoveFileExW(NativePath(name_).c_str(), NativePath(path_).c_str(),
+                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    if (!moved_) {
+      throw SystemError(FailedAction::WriteFile, path_, GetLastError());
+    }
+  }
+
+ private:
+  std::wstring path_;
+  std::wstring name_;
+  OwnedFile file_;
+  bool moved_ = false;
+};
 
 }  // namespace
 
 std::string ReadWholeFile(const std::wstring& path) {
-  const OwnedFile file(CreateFileW(LongSpelling(path).c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+  const std::wstring full = AbsolutePath(path);
+  const OwnedFile file(CreateFileW(NativePath(full).c_str(), GENERIC_READ,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  DWORD error = GetLastError();
   if (!file.IsOpen()) {
-    throw SystemError(FailedAction::ReadFile, path, error);
+    throw SystemError(FailedAction::ReadFile, full, GetLastError());
   }
-  std::string bytes;
-  LARGE_INTEGER size;
-  if (GetFileSizeEx(file.Get(), &size) != 0) {
-    bytes.reserve(static_cast<std::size_t>(size.QuadPart));
-  }
-  std::string block(64 * 1024, '\0');
+  LARGE_INTEGER size{};
+  GetFileSizeEx(file.Get(), &size);  // what it says is a first guess: the file may be a device or may grow
+  std::string bytes(static_cast<std::size_t>(size.QuadPart) + 1, '\0');
+  std::size_t filled = 0;
   for (;;) {
-    DWORD count = 0;
-    const BOOL done = ReadFile(file.Get(), block.data(), static_cast<DWORD>(block.size()), &count, nullptr);
-    error = GetLastError();
-    if (done == 0) {
-      throw SystemError(FailedAction::ReadFile, path, error);
+    const DWORD room = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - filled, 1U << 30));
+    DWORD read = 0;
+    if (!::ReadFile(file.Get(), bytes.data() + filled, room, &read, nullptr)) {
+      throw SystemError(FailedAction::ReadFile, full, GetLastError());
     }
-    if (count == 0) {
-      return bytes;
+    if (read == 0) {
+      break;
     }
-    bytes.append(block, 0, count);
+    filled += read;
+    if (filled == bytes.size()) {
+      bytes.resize(2 * filled);
+    }
   }
+  bytes.resize(filled);
+  return bytes;
 }
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
-  const std::wstring target = LongSpelling(AbsolutePath(path));
-  const std::wstring temporary = target + L".new" + std::to_wstring(GetCurrentProcessId());
-  if (WriteAndFlush(temporary, bytes) &&
-      MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) {
-    return;
-  }
-  const DWORD error = GetLastError();
-  DeleteFileW(temporary.c_str());
-  throw SystemError(FailedAction::WriteFile, path, error);
+  TemporaryFile file(AbsolutePath(path));
+  file.Write(bytes);
+  file.MoveOverTarget();
 }
 
 bool TruncateFile(const std::wstring& path) {
-  return OwnedFile(CreateFileW(LongSpelling(path).c_str(), GENERIC_WRITE, kShareAll, nullptr, CREATE_ALWAYS,
-                               FILE_ATTRIBUTE_NORMAL, nullptr))
-      .IsOpen();
+  // CREATE_ALWAYS would refuse a hidden file
+  const OwnedFile file(CreateFileW(NativePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file.IsOpen() && SetEndOfFile(file.Get());
 }
 
 bool RemoveFile(const std::wstring& path) {
-  return DeleteFileW(LongSpelling(path).c_str()) != 0;
+  return DeleteFileW(NativePath(path).c_str()) != 0;
 }
 
 bool PathExists(std::wstring_view path) {
-  return GetFileAttributesW(LongSpelling(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+  return AttributesOf(path) != INVALID_FILE_ATTRIBUTES;
 }
 
 bool IsDirectory(std::wstring_view path) {
-  const DWORD attributes = GetFileAttributesW(LongSpelling(path).c_str());
+  const DWORD attributes = AttributesOf(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 std::wstring CurrentDirectory() {
-  std::wstring path(GetCurrentDirectoryW(0, nullptr), L'\0');
-  path.resize(GetCurrentDirectoryW(static_cast<DWORD>(path.size()), path.data()));
-  return path;
+  std::wstring directory = Filled([](wchar_t* text, DWORD size) { return GetCurrentDirectoryW(size, text); });
+  if (directory.size() > 3 && directory.ends_with(L'\\')) {
+    directory.pop_back();
+  }
+  return directory;
 }
 
 std::wstring AbsolutePath(const std::wstring& path) {
-  std::wstring full(GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
-  full.resize(GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-  return full.empty() ? path : full;
+  const bool absolute = path.starts_with(L"\\\\") || (path.size() >= 3 && path.compare(1, 2, L":\\") == 0);
+  if (absolute || path.empty()) {
+    return path;
+  }
+  return Filled([&](wchar_t* text, DWORD size) { return GetFullPathNameW(path.c_str(), size, text, nullptr); });
 }
 
 std::wstring TemporaryDirectory() {
-  wchar_t path[MAX_PATH + 1];
-  return {path, GetTempPathW(static_cast<DWORD>(std::size(path)), path)};
+  return Filled([](wchar_t* text, DWORD size) { return GetTempPathW(size, text); });
 }
 
 std::wstring ProgramFolder() {
-  std::wstring path(MAX_PATH, L'\0');
-  DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-  while (length == path.size()) {
-    path.resize(path.size() * 2);
-    length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  std::wstring file(MAX_PATH, L'\0');
+  DWORD length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
+  while (length == file.size()) {  // cut off: the function does not say how much it needs
+    file.resize(2 * file.size());
+    length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
   }
-  path.resize(length);
-  return path.substr(0, path.rfind(L'\\'));
+  file.resize(length);
+  return file.substr(0, file.rfind(L'\\'));
 }
 
 std::optional<std::wstring> SendToFolder() {
-  wchar_t path[MAX_PATH];
-  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_SENDTO, nullptr, SHGFP_TYPE_CURRENT, path))) {
-    return std::nullopt;
-  }
-  return path;
-}
-
-std::vector<std::wstring> FindNames(const std::wstring& folder, const std::wstring& pattern) {
-  std::vector<std::wstring> names;
-  WIN32_FIND_DATAW found;
-  const OwnedFind handle(FindFirstFileW(LongSpelling(folder + L'\\' + pattern).c_str(), &found));
-  if (handle.IsOpen()) {
-    do {
-      if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-        names.emplace_back(found.cFileName);
-      }
-    } while (FindNextFileW(handle.Get(), &found) != 0);
-  }
-  return names;
+  std::array<wchar_t, MAX_PATH> folder;
+  const bool known = SHGetFolderPathW(nullptr, CSIDL_SENDTO, nullptr, SHGFP_TYPE_CURRENT, folder.data()) == S_OK;
+  return known ? std::optional<std::wstring>(folder.data()) : std::nullopt;
 }
 
 std::wstring VolumeLabel(const std::wstring& root) {
-  wchar_t label[MAX_PATH + 1] = L"";
-  const BOOL known = GetVolumeInformationW(root.c_str(), label, static_cast<DWORD>(std::size(label)), nullptr, nullptr,
-                                           nullptr, nullptr, 0);
-  return known != 0 ? label : L"";
+  const QuietDrives quiet;
+  std::array<wchar_t, MAX_PATH + 1> label;
+  const bool known = GetVolumeInformationW(WithBackslash(root).c_str(), label.data(), static_cast<DWORD>(label.size()),
+                                           nullptr, nullptr, nullptr, nullptr, 0) != 0;
+  return known ? label.data() : L"";
 }
 
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
-  ULARGE_INTEGER available;
+  const QuietDrives quiet;
   ULARGE_INTEGER total;
   ULARGE_INTEGER totalFree;
-  if (GetDiskFreeSpaceExW(LongSpelling(directory).c_str(), &available, &total, &totalFree) == 0) {
+  if (!GetDiskFreeSpaceExW(WithBackslash(NativePath(directory)).c_str(), nullptr, &total, &totalFree)) {
     return std::nullopt;
   }
   return DiskSpace{totalFree.QuadPart, total.QuadPart};

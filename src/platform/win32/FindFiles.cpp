@@ -1,15 +1,13 @@
 #include "platform/FindFiles.h"
 
-#include <cwchar>
-
+#include "platform/win32/NativePath.h"
 #include "platform/win32/Owned.h"
-#include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
 namespace {
 
-bool IsDotEntry(const wchar_t* name) {
-  return name[0] == L'.' && (name[1] == 0 || (name[1] == L'.' && name[2] == 0));
+FINDEX_INFO_LEVELS Level(ShortNames shortNames) {
+  return shortNames == ShortNames::Read ? FindExInfoStandard : FindExInfoBasic;
 }
 
 void Fill(const WIN32_FIND_DATAW& found, FindData& data) {
@@ -20,65 +18,83 @@ void Fill(const WIN32_FIND_DATAW& found, FindData& data) {
   data.SizeLow = directory ? 0 : found.nFileSizeLow;
 }
 
+bool IsDots(const wchar_t* name) {
+  return name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'));
+}
+
+/// The root of an empty volume has not even "." and "..", and says "not found".
+bool IsEmptyRoot(const std::wstring& directory, DWORD error) {
+  const DWORD attributes = error == ERROR_FILE_NOT_FOUND || error == ERROR_NO_MORE_FILES
+                               ? GetFileAttributesW(directory.c_str())
+                               : INVALID_FILE_ATTRIBUTES;
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 }  // namespace
 
 struct FindFiles::State {
-  WIN32_FIND_DATAW Found;
   OwnedFind Handle;
-  bool Empty = false;    // opened, but nothing in it: the root of an empty drive
-  bool Pending = false;  // Found holds an entry that Next has not given out
+  WIN32_FIND_DATAW Found;
+  bool Waiting = false;  ///< `Found` holds an entry that was not handed out yet
+  bool Opened = false;
   bool Failed = false;
 };
 
-FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state_(new State) {
-  std::wstring pattern(directory);
+FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state_(std::make_unique<State>()) {
+  std::wstring pattern = NativePath(directory);
   if (!pattern.ends_with(L'\\')) {
     pattern += L'\\';
   }
-  pattern += L"*.*";
-  // The basic level leaves the 8.3 names out; the large fetch (Windows 7 and later) halves the calls.
-  const FINDEX_INFO_LEVELS level = shortNames == ShortNames::Skip ? FindExInfoBasic : FindExInfoStandard;
-  state_->Handle = OwnedFind(FindFirstFileExW(LongSpelling(pattern).c_str(), level, &state_->Found,
-                                              FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
+  pattern += L'*';
+  state_->Handle = OwnedFind(FindFirstFileExW(pattern.c_str(), Level(shortNames), &state_->Found, FindExSearchNameMatch,
+                                              nullptr, FIND_FIRST_EX_LARGE_FETCH));
   const DWORD error = GetLastError();
-  state_->Pending = state_->Handle.IsOpen();
-  state_->Empty = !state_->Pending && error == ERROR_FILE_NOT_FOUND && IdentityOf(directory).has_value();
+  state_->Waiting = state_->Handle.IsOpen();
+  pattern.pop_back();
+  state_->Opened = state_->Waiting || IsEmptyRoot(pattern, error);
 }
 
 FindFiles::~FindFiles() = default;
 
 bool FindFiles::Opened() const {
-  return state_->Handle.IsOpen() || state_->Empty;
+  return state_->Opened;
 }
+
 bool FindFiles::Failed() const {
   return state_->Failed;
 }
 
 bool FindFiles::Next(FindData& data) {
-  while (state_->Handle.IsOpen()) {
-    if (!state_->Pending && FindNextFileW(state_->Handle.Get(), &state_->Found) == 0) {
-      state_->Failed = GetLastError() != ERROR_NO_MORE_FILES;
+  State& state = *state_;
+  do {
+    if (!state.Handle.IsOpen()) {
       return false;
     }
-    state_->Pending = false;
-    const WIN32_FIND_DATAW& found = state_->Found;
-    if (!IsDotEntry(found.cFileName)) {
-      Fill(found, data);
-      data.Name = found.cFileName;
-      data.AlternateName = found.cAlternateFileName;
-      return true;
+    if (!state.Waiting && !FindNextFileW(state.Handle.Get(), &state.Found)) {
+      state.Failed = GetLastError() != ERROR_NO_MORE_FILES;
+      state.Handle = OwnedFind();
+      return false;
     }
-  }
-  return false;
+    state.Waiting = false;
+  } while (IsDots(state.Found.cFileName));
+  Fill(state.Found, data);
+  data.Name = state.Found.cFileName;
+  data.AlternateName = state.Found.cAlternateFileName;
+  return true;
 }
 
 std::optional<FoundEntry> FindEntry(std::wstring_view path) {
-  if (path.empty() || path.ends_with(L'\\') || path.find_first_of(L"*?") != path.npos) {
+  const std::wstring_view name = path.substr(path.find_last_of(L"\\/:") + 1);
+  if (name.empty() || name == L"." || name == L".." || name.find_first_of(L"*?<>\"") != name.npos) {
     return std::nullopt;
   }
   WIN32_FIND_DATAW found;
-  const OwnedFind handle(
-      FindFirstFileExW(LongSpelling(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
+  OwnedFind handle(
+      FindFirstFileExW(NativePath(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
+  if (!handle.IsOpen()) {  // typed with a dot or blank at its end that the name on disk has not
+    handle = OwnedFind(
+        FindFirstFileExW(std::wstring(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
+  }
   if (!handle.IsOpen()) {
     return std::nullopt;
   }
@@ -89,11 +105,11 @@ std::optional<FoundEntry> FindEntry(std::wstring_view path) {
 }
 
 std::optional<FileIdentity> IdentityOf(std::wstring_view directory) {
-  const OwnedFile opened(CreateFileW(LongSpelling(directory).c_str(), FILE_READ_ATTRIBUTES,
-                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  const OwnedFile file(CreateFileW(NativePath(directory).c_str(), FILE_READ_ATTRIBUTES,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                   FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   BY_HANDLE_FILE_INFORMATION information;
-  if (!opened.IsOpen() || GetFileInformationByHandle(opened.Get(), &information) == 0) {
+  if (!file.IsOpen() || !GetFileInformationByHandle(file.Get(), &information)) {
     return std::nullopt;
   }
   return FileIdentity{information.dwVolumeSerialNumber,

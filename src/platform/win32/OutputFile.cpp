@@ -1,76 +1,95 @@
 #include "platform/OutputFile.h"
 
+#include <algorithm>
+
+#include "platform/Files.h"
 #include "platform/Text.h"
+#include "platform/win32/NativePath.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
-
-struct OutputFile::State {
-  OwnedFile File;
-  std::wstring Path;
-  std::wstring Text;  // not yet converted
-  std::string Bytes;  // kept between blocks for its memory
-};
-
 namespace {
 
-constexpr std::size_t kBlock = 128 * 1024;  // characters
+constexpr std::size_t kBlock = 64 * 1024;  ///< characters
 
-bool IsLeadSurrogate(wchar_t c) {
-  return (c & 0xFC00) == 0xD800;
-}
-
-void WriteAll(HANDLE file, std::string_view bytes, const std::wstring& path) {
-  DWORD written = 0;
-  const BOOL done = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+OwnedFile Create(const std::wstring& path) {
+  const std::wstring native = NativePath(path);
+  const auto create = [&](DWORD disposition) {
+    return OwnedFile(CreateFileW(native.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
+                                 FILE_ATTRIBUTE_NORMAL | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  };
+  OwnedFile file = create(CREATE_ALWAYS);
   const DWORD error = GetLastError();
-  if (done == 0 || written != bytes.size()) {
-    throw SystemError(FailedAction::WriteFile, path, done == 0 ? error : ERROR_DISK_FULL);
+  if (!file.IsOpen() && error == ERROR_ACCESS_DENIED) {
+    file = create(TRUNCATE_EXISTING);  // an existing hidden or system file
   }
+  if (!file.IsOpen()) {
+    throw SystemError(FailedAction::CreateFile, path, error);
+  }
+  return file;
 }
 
 }  // namespace
 
+struct OutputFile::State {
+  OwnedFile File;
+  std::wstring Path;
+  std::wstring Text;  ///< waits for the end of its block
+  std::string Bytes;
+
+  /// Converts and writes what waits. The first half of a surrogate pair stays until its other half has come.
+  void Flush(bool last) {
+    const bool split = !last && !Text.empty() && IS_HIGH_SURROGATE(Text.back());
+    const std::size_t length = Text.size() - (split ? 1 : 0);
+    Bytes.clear();
+    AppendAnsi(std::wstring_view(Text).substr(0, length), Bytes);
+    Text.erase(0, length);
+    std::string_view rest = Bytes;
+    while (!rest.empty()) {
+      DWORD written = 0;
+      if (!::WriteFile(File.Get(), rest.data(), static_cast<DWORD>(rest.size()), &written, nullptr)) {
+        throw SystemError(FailedAction::WriteFile, Path, GetLastError());
+      }
+      rest.remove_prefix(written);
+    }
+  }
+};
+
 OutputFile::OutputFile() : state_(std::make_unique<State>()) {}
 OutputFile::~OutputFile() = default;
+
+void OutputFile::Open(const std::wstring& path) {
+  state_ = std::make_unique<State>();
+  state_->Path = AbsolutePath(path);
+  state_->File = Create(state_->Path);
+  state_->Text.reserve(kBlock);
+}
 
 bool OutputFile::IsOpen() const {
   return state_->File.IsOpen();
 }
 
-void OutputFile::Open(const std::wstring& path) {
-  state_->Path = path;
-  state_->Text.clear();
-  state_->Text.reserve(kBlock + kBlock / 4);
-  state_->File = OwnedFile(CreateFileW(LongSpelling(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                       CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  const DWORD error = GetLastError();
-  if (!IsOpen()) {
-    throw SystemError(FailedAction::CreateFile, path, error);
-  }
-}
-
 void OutputFile::Write(std::wstring_view text) {
-  state_->Text += text;
-  if (state_->Text.size() < kBlock) {
-    return;
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.size(), kBlock - state_->Text.size());
+    state_->Text.append(text.substr(0, length));
+    text.remove_prefix(length);
+    if (state_->Text.size() == kBlock) {
+      state_->Flush(false);
+    }
   }
-  // The first half of a surrogate pair waits for its second half.
-  const std::size_t kept = IsLeadSurrogate(state_->Text.back()) ? 1 : 0;
-  const std::size_t count = state_->Text.size() - kept;
-  state_->Bytes.clear();
-  AppendAnsi(std::wstring_view(state_->Text).substr(0, count), state_->Bytes);
-  state_->Text.erase(0, count);
-  WriteAll(state_->File.Get(), state_->Bytes, state_->Path);
 }
 
 void OutputFile::Close() {
-  if (!IsOpen()) {
+  const std::unique_ptr<State> closing = std::exchange(state_, std::make_unique<State>());
+  if (!closing->File.IsOpen()) {
     return;
   }
-  const OwnedFile closing(state_->File.Release());
-  WriteAll(closing.Get(), ToAnsi(state_->Text), state_->Path);
+  closing->Flush(true);
+  if (!CloseHandle(closing->File.Release())) {  // a network drive may report the full disk only here
+    throw SystemError(FailedAction::WriteFile, closing->Path, GetLastError());
+  }
 }
 
 }  // namespace folivant::platform

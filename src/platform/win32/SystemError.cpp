@@ -16,12 +16,4 @@ RuntimeError SystemError(FailedAction action, const std::wstring& object, DWORD 
   return {action, object, SystemText(code), code};
 }
 
-std::wstring LongSpelling(std::wstring_view path) {
-  constexpr std::size_t kShortEnough = 240;  // leaves room for an 8.3 name, the limit of directories
-  if (path.size() <= kShortEnough || path.starts_with(L"\\\\?\\")) {
-    return std::wstring(path);
-  }
-  return path.starts_with(L"\\\\") ? L"\\\\?\\UNC\\" + std::wstring(path.substr(2)) : L"\\\\?\\" + std::wstring(path);
-}
-
 }  // namespace folivant::platform

@@ -17,4 +17,13 @@
 #define STRICT
 #endif
 
+#ifndef _WIN32_WINNT
+#define _WIN32_WINNT 0x0601  // Windows 7
+#endif
+
 #include <windows.h>
+
+// Only the W functions are called, by their own names; these words are ours.
+#undef CreateFile
+#undef DeleteFile
+#undef ReplaceFile

@@ -1,0 +1,61 @@
+#include "platform/win32/NativePath.h"
+
+#include "platform/win32/Win32.h"
+
+namespace folivant::platform {
+namespace {
+
+constexpr std::wstring_view kVerbatim = L"\\\\?\\";
+constexpr std::size_t kPlainLimit = MAX_PATH - 12;  // a directory must leave room for an 8.3 name
+
+bool IsDriveOrServer(std::wstring_view path) {
+  return path.starts_with(L"\\\\") || (path.size() >= 3 && path.substr(1, 2) == L":\\");
+}
+
+/// A component such as "name." that the file functions would take for "name".
+bool LosesDotsOrBlanks(std::wstring_view path) {
+  for (std::size_t i = 1; i < path.size(); ++i) {
+    const bool atEnd = i + 1 == path.size() || path[i + 1] == L'\\';
+    if (atEnd && (path[i] == L'.' || path[i] == L' ') && path[i - 1] != L'\\' && path[i - 1] != L'.') {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool HasDotComponents(std::wstring_view path) {
+  return path.find(L"\\.\\") != path.npos || path.find(L"\\..\\") != path.npos || path.ends_with(L"\\.") ||
+         path.ends_with(L"\\..") || path.find(L'/') != path.npos;
+}
+
+std::wstring FullPath(std::wstring_view path) {
+  const std::wstring text(path);
+  std::wstring full(text.size() + MAX_PATH, L'\0');
+  DWORD length = GetFullPathNameW(text.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  if (length > full.size()) {
+    full.resize(length);
+    length = GetFullPathNameW(text.c_str(), length, full.data(), nullptr);
+  }
+  full.resize(length);
+  return full;
+}
+
+std::wstring Verbatim(std::wstring_view path) {
+  const std::wstring full = IsDriveOrServer(path) && !HasDotComponents(path) ? std::wstring(path) : FullPath(path);
+  if (full.starts_with(L"\\\\")) {
+    return std::wstring(kVerbatim) + L"UNC" + full.substr(1);
+  }
+  return std::wstring(kVerbatim) + full;
+}
+
+}  // namespace
+
+std::wstring NativePath(std::wstring_view path) {
+  if (path.starts_with(kVerbatim) || path.starts_with(L"\\\\.\\")) {
+    return std::wstring(path);
+  }
+  const bool trimmed = IsDriveOrServer(path) && LosesDotsOrBlanks(path) && !HasDotComponents(path);
+  return trimmed || path.size() >= kPlainLimit ? Verbatim(path) : std::wstring(path);
+}
+
+}  // namespace folivant::platform
