@@ -43,7 +43,14 @@ enum class Text : int {
   DosNameCaption = 33,
   DateCaption = 35,
 
+  // Options, further texts
+  LanguageLabel = 40,
+  RestartNote = 41,  ///< a new language is used from the next start
   Cancel = 42,
+  ProgramFiles = 43,  ///< file type of the viewer dialog
+  TextPage = 44,
+  Placeholders = 45,
+  NotANumber = 46,   ///< %1 is the name of the field
   Kilobytes = 47,    ///< unit of the size limit
   BrowseTitle = 64,  ///< title of the folder browser
 
@@ -110,6 +117,96 @@ enum class Text : int {
   CannotReadWindow = 168,
   OverwriteFirstLine = 169,  ///< "The file"
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
+
+  // Titles of windows
+  FilterTitle = 200,
+  FormatTitle = 201,
+  ColumnsTitle = 202,
+  ProgressTitle = 203,
+  OptionsTitle = 204,
+  PrinterTitle = 205,
+  FindTitle = 206,
+
+  // Filter
+  FilterByName = 210,
+  FilterBySize = 211,
+  FilterByDate = 212,
+  FilterByAttributes = 213,
+  AtLeast = 214,
+  AtMost = 215,
+  Between = 216,
+  And = 217,
+  AttributeArchive = 218,
+  AttributeReadOnly = 219,
+  AttributeHidden = 220,
+  AttributeSystem = 221,
+  AttributeDirectory = 222,
+  MustHave = 223,  ///< heads of the three attribute columns
+  DoNotCare = 224,
+  MustNotHave = 225,
+  OrderByLabel = 226,
+  OrderName = 227,
+  OrderExtension = 228,  ///< "Extention" in English, on purpose
+  OrderDosName = 229,
+  OrderSize = 230,
+  OrderDate = 231,
+  Ascending = 232,
+  Descending = 233,
+
+  // Format and columns
+  Columns = 234,
+  Style = 235,
+  FileView = 240,
+  DirectoryViewFrame = 241,
+  ColumnName = 242,
+  ColumnDosName = 243,
+  ColumnSize = 244,
+  ColumnDate = 245,
+  ColumnAttributes = 246,
+  ColumnFiles = 247,
+  ColumnDirectorySize = 248,
+  ColumnTotalFiles = 249,
+  ColumnTotalSize = 250,
+  MaxLevel = 251,
+  AllLevels = 252,
+
+  // Options: captions of the five pages, then their controls
+  PageGeneral = 255,
+  PagePrinter = 256,
+  PageFont = 257,
+  PageHeaderFooter = 258,
+  PageLanguage = 259,
+  Viewer = 260,
+  Width = 261,
+  Characters = 262,
+  Height = 263,
+  Lines = 264,
+  DateFormat = 265,
+  ExitAfterPrinting = 266,
+  FilesBeforeDirs = 267,
+  PrintEmptyDirs = 268,
+  MarginsUnit = 269,
+  Inches = 270,
+  Millimeter = 271,
+  Margins = 272,
+  MarginLeft = 273,
+  MarginTop = 274,
+  MarginRight = 275,
+  MarginBottom = 276,
+  UnitInches = 277,
+  UnitMillimeter = 278,
+  Orientation = 279,
+  Portrait = 280,
+  Landscape = 281,
+  Copies = 282,
+  PrinterButton = 283,
+  ChooseFont = 284,
+  HeaderFooter80 = 285,
+  ChooseHeaderFooterFont = 286,
+  ListingsFont = 287,
+  HeaderFooterFont = 288,
+  HeaderLabel = 289,
+  FooterLabel = 290,
 };
 
 }  // namespace folivant

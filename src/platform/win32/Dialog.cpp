@@ -1,0 +1,532 @@
+#include "platform/win32/Dialog.h"
+
+#include <commctrl.h>
+#include <ole2.h>
+#include <uxtheme.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/win32/DialogFit.h"
+
+namespace folivant::platform {
+namespace {
+
+constexpr int kOrdinaryDpi = 96;
+constexpr int kLongestTip = 400;  // dots at 96 per inch; a longer tip wraps
+
+std::vector<HWND>& ModelessWindows() {
+  static std::vector<HWND> windows;
+  return windows;
+}
+
+HINSTANCE Program() {
+  return GetModuleHandleW(nullptr);
+}
+
+LOGFONTW MessageFont() {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+  return metrics.lfMessageFont;
+}
+
+int SystemDpi() {
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+  ReleaseDC(nullptr, screen);
+  return dpi;
+}
+
+// The fixed beginning of an extended dialog template.
+#pragma pack(push, 1)
+struct TemplateHead {
+  WORD version, signature;
+  DWORD helpId, exStyle, style;
+  WORD items;
+  short x, y, width, height;
+};
+#pragma pack(pop)
+
+const WORD* AfterName(const WORD* at) {
+  if (*at == 0xFFFF) {
+    return at + 2;
+  }
+  while (*at != 0) {
+    ++at;
+  }
+  return at + 1;
+}
+
+/// A dialog template with the system's message font in place of its own, so that dialog units follow that font.
+std::vector<DWORD> TemplateWithSystemFont(int resource) {
+  const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(resource), RT_DIALOG);
+  if (found == nullptr) {
+    throw std::exception();
+  }
+  const auto* bytes = static_cast<const BYTE*>(LockResource(LoadResource(nullptr, found)));
+  const std::size_t size = SizeofResource(nullptr, found);
+
+  const auto* names = reinterpret_cast<const WORD*>(bytes + sizeof(TemplateHead));
+  const WORD* fontStart = AfterName(AfterName(AfterName(names)));  // menu, class, title
+  const WORD* oldItems = AfterName(fontStart + 3);                 // size, weight, italic and character set
+  const auto aligned = [](std::size_t offset) { return (offset + 3) & ~std::size_t{3}; };
+  const std::size_t fontAt = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(fontStart) - bytes);
+  const std::size_t itemsAt = aligned(static_cast<std::size_t>(reinterpret_cast<const BYTE*>(oldItems) - bytes));
+
+  const LOGFONTW font = MessageFont();
+  std::vector<WORD> fontWords = {static_cast<WORD>(MulDiv(std::abs(font.lfHeight), 72, SystemDpi())),
+                                 static_cast<WORD>(font.lfWeight),
+                                 static_cast<WORD>(font.lfItalic | (DEFAULT_CHARSET << 8))};
+  for (const wchar_t* letter = font.lfFaceName; *letter != 0; ++letter) {
+    fontWords.push_back(*letter);
+  }
+  fontWords.push_back(0);
+
+  const std::size_t newItemsAt = aligned(fontAt + fontWords.size() * sizeof(WORD));
+  std::vector<DWORD> made((newItemsAt + size - itemsAt + 3) / 4);
+  auto* out = reinterpret_cast<BYTE*>(made.data());
+  std::memcpy(out, bytes, fontAt);
+  std::memcpy(out + fontAt, fontWords.data(), fontWords.size() * sizeof(WORD));
+  std::memcpy(out + newItemsAt, bytes + itemsAt, size - itemsAt);
+  return made;
+}
+
+const DLGTEMPLATE* AsTemplate(const std::vector<DWORD>& made) {
+  return reinterpret_cast<const DLGTEMPLATE*>(made.data());
+}
+
+bool IsEdit(HWND control) {
+  wchar_t name[16] = {};
+  GetClassNameW(control, name, 16);
+  return lstrcmpiW(name, L"Edit") == 0;
+}
+
+struct BitmapCloser {
+  void operator()(HBITMAP bitmap) const { DeleteObject(bitmap); }
+};
+using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapCloser>;
+
+SIZE SizeOfBitmap(HBITMAP bitmap) {
+  BITMAP data{};
+  GetObjectW(bitmap, sizeof(data), &data);
+  return {data.bmWidth, data.bmHeight};
+}
+
+OwnedBitmap Stretched(HBITMAP source, SIZE wanted) {
+  const SIZE size = SizeOfBitmap(source);
+  const HDC screen = GetDC(nullptr);
+  const HDC from = CreateCompatibleDC(screen);
+  const HDC to = CreateCompatibleDC(screen);
+  OwnedBitmap made(CreateCompatibleBitmap(screen, wanted.cx, wanted.cy));
+  const HGDIOBJ oldFrom = SelectObject(from, source);
+  const HGDIOBJ oldTo = SelectObject(to, made.get());
+  SetStretchBltMode(to, HALFTONE);
+  SetBrushOrgEx(to, 0, 0, nullptr);
+  StretchBlt(to, 0, 0, wanted.cx, wanted.cy, from, 0, 0, size.cx, size.cy, SRCCOPY);
+  SelectObject(from, oldFrom);
+  SelectObject(to, oldTo);
+  DeleteDC(from);
+  DeleteDC(to);
+  ReleaseDC(nullptr, screen);
+  return made;
+}
+
+/// The picture for `dpi` dots per inch: drawn for it, or made smaller from the next larger drawing.
+OwnedBitmap LoadPicture(int resource, int dpi) {
+  const int drawnFor = dpi <= 96 ? 96 : dpi <= 144 ? 144 : 192;
+  const int number = resource + (drawnFor == 96 ? 0 : drawnFor == 144 ? 1000 : 2000);
+  OwnedBitmap drawn(
+      static_cast<HBITMAP>(LoadImageW(Program(), MAKEINTRESOURCEW(number), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  if (!drawn || dpi == drawnFor) {
+    return drawn;
+  }
+  const SIZE size = SizeOfBitmap(drawn.get());
+  return Stretched(drawn.get(), {MulDiv(size.cx, dpi, drawnFor), MulDiv(size.cy, dpi, drawnFor)});
+}
+
+}  // namespace
+
+struct Dialog::Picture {
+  int Resource = 0;
+  OwnedBitmap Bitmap;
+};
+
+/// The window of a page; everything that its controls report goes to the dialog.
+class Dialog::Page {
+ public:
+  Page(Dialog& dialog, int resource) : dialog_(dialog) {
+    const std::vector<DWORD> made = TemplateWithSystemFont(resource);
+    window_ = CreateDialogIndirectParamW(Program(), AsTemplate(made), dialog.window_, Procedure,
+                                         reinterpret_cast<LPARAM>(this));
+  }
+  HWND Window() const { return window_; }
+
+ private:
+  static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+      SetWindowLongPtrW(window, DWLP_USER, lParam);
+      EnableThemeDialogTexture(window, ETDT_ENABLETAB);
+      return FALSE;
+    }
+    const auto* page = reinterpret_cast<const Page*>(GetWindowLongPtrW(window, DWLP_USER));
+    if (page != nullptr && (message == WM_COMMAND || message == WM_NOTIFY)) {
+      return page->dialog_.Dispatch(message, wParam, lParam);
+    }
+    return FALSE;
+  }
+
+  Dialog& dialog_;
+  HWND window_ = nullptr;
+};
+
+Dialog::Dialog(int resource) : resource_(resource) {}
+
+Dialog::~Dialog() {
+  if (window_ != nullptr) {
+    SetWindowLongPtrW(window_, DWLP_USER, 0);
+    DestroyWindow(window_);
+    Remove();
+  }
+}
+
+int Dialog::ShowModal(HWND owner) {
+  PrepareWindows();
+  modal_ = true;
+  const std::vector<DWORD> made = TemplateWithSystemFont(resource_);
+  return static_cast<int>(
+      DialogBoxIndirectParamW(Program(), AsTemplate(made), owner, Procedure, reinterpret_cast<LPARAM>(this)));
+}
+
+void Dialog::Create(HWND owner) {
+  PrepareWindows();
+  modal_ = false;
+  const std::vector<DWORD> made = TemplateWithSystemFont(resource_);
+  CreateDialogIndirectParamW(Program(), AsTemplate(made), owner, Procedure, reinterpret_cast<LPARAM>(this));
+  if (window_ != nullptr) {
+    ModelessWindows().push_back(window_);
+  }
+}
+
+void Dialog::Close(int result) {
+  if (modal_) {
+    EndDialog(window_, result);
+  } else if (window_ != nullptr) {
+    DestroyWindow(window_);
+  }
+}
+
+void Dialog::Remove() {
+  std::erase(ModelessWindows(), window_);
+  window_ = nullptr;
+  toolTips_ = nullptr;
+  filled_ = false;
+  handlers_.clear();
+  pages_.clear();
+  pictures_.clear();
+}
+
+HWND Dialog::Item(int control) const {
+  if (const HWND own = GetDlgItem(window_, control); own != nullptr) {
+    return own;
+  }
+  for (const auto& page : pages_) {
+    if (const HWND onPage = GetDlgItem(page->Window(), control); onPage != nullptr) {
+      return onPage;
+    }
+  }
+  return nullptr;
+}
+
+bool Dialog::Has(int control) const {
+  return Item(control) != nullptr;
+}
+
+std::wstring Dialog::TextOf(int control) const {
+  const HWND item = Item(control);
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)), L'\0');
+  const int copied = GetWindowTextW(item, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(copied));
+  return text;
+}
+
+void Dialog::SetText(int control, const std::wstring& text) {
+  SetWindowTextW(Item(control), text.c_str());
+}
+
+bool Dialog::Checked(int control) const {
+  return Send(control, BM_GETCHECK) == BST_CHECKED;
+}
+
+void Dialog::SetChecked(int control, bool checked) {
+  Send(control, BM_SETCHECK, checked ? WPARAM{BST_CHECKED} : WPARAM{BST_UNCHECKED});
+}
+
+void Dialog::Enable(int control, bool enabled) {
+  EnableWindow(Item(control), enabled);
+}
+
+void Dialog::SetFocusTo(int control) {
+  SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(control)), TRUE);
+}
+
+LRESULT Dialog::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {
+  return SendMessageW(Item(control), message, wParam, lParam);
+}
+
+int Dialog::ChosenOf(std::initializer_list<int> buttons) const {
+  const auto* chosen = std::find_if(buttons.begin(), buttons.end(), [this](int button) { return Checked(button); });
+  return chosen == buttons.end() ? 0 : *chosen;
+}
+
+void Dialog::Choose(std::initializer_list<int> buttons, int button) {
+  for (const int each : buttons) {
+    SetChecked(each, each == button);
+    // Arrow keys and Tab enter a group at its chosen button.
+    const HWND item = Item(each);
+    const LONG_PTR style = GetWindowLongPtrW(item, GWL_STYLE);
+    SetWindowLongPtrW(item, GWL_STYLE, each == button ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});
+  }
+}
+
+void Dialog::SetToolTip(int control, const std::wstring& text) {
+  if (toolTips_ == nullptr) {
+    toolTips_ =
+        CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT,
+                        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window_, nullptr, Program(), nullptr);
+    SendMessageW(toolTips_, TTM_SETMAXTIPWIDTH, 0, Scaled(kLongestTip));
+  }
+  std::wstring shown = text;
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof(tool);
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = window_;
+  tool.uId = reinterpret_cast<UINT_PTR>(Item(control));
+  tool.lpszText = shown.data();
+  SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void Dialog::SetPicture(int control, int resource) {
+  auto& picture = pictures_[control];
+  if (!picture) {
+    picture = std::make_unique<Picture>();
+  }
+  picture->Resource = resource;
+  ShowPicture(control, *picture);
+}
+
+void Dialog::ShowPicture(int control, Picture& picture) {
+  OwnedBitmap loaded = LoadPicture(picture.Resource, DpiOf(window_));
+  Send(control, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(loaded.get()));
+  picture.Bitmap = std::move(loaded);
+}
+
+void Dialog::AddItem(int control, const std::wstring& text) {
+  wchar_t name[16] = {};
+  GetClassNameW(Item(control), name, 16);
+  const UINT add = lstrcmpiW(name, L"ListBox") == 0 ? UINT{LB_ADDSTRING} : UINT{CB_ADDSTRING};
+  Send(control, add, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+int Dialog::Scaled(int length) const {
+  return MulDiv(length, DpiOf(window_), kOrdinaryDpi);
+}
+
+int Dialog::WidthOfText(const std::wstring& text) const {
+  return WidthOfCaption(window_, text);
+}
+
+void Dialog::On(int control, int code, Handler handler) {
+  handlers_[{control, code}] = std::move(handler);
+}
+
+HWND Dialog::AddPage(int resource) {
+  pages_.push_back(std::make_unique<Page>(*this, resource));
+  return pages_.back()->Window();
+}
+
+void Dialog::FitToTexts() {
+  const SIZE grown = FitChildren(window_);
+  RECT frame{};
+  GetWindowRect(window_, &frame);
+  Resize(frame.right - frame.left + grown.cx, frame.bottom - frame.top + grown.cy);
+}
+
+SIZE Dialog::FitPageToTexts(HWND page) {
+  const SIZE grown = FitChildren(page);
+  RECT client{};
+  GetClientRect(page, &client);
+  return {client.right + grown.cx, client.bottom + grown.cy};
+}
+
+void Dialog::Centre() {
+  RECT frame{};
+  GetWindowRect(window_, &frame);
+  const HWND owner = GetWindow(window_, GW_OWNER);
+  MONITORINFO screen{};
+  screen.cbSize = sizeof(screen);
+  GetMonitorInfoW(MonitorFromWindow(owner != nullptr ? owner : window_, MONITOR_DEFAULTTONEAREST), &screen);
+  RECT around = screen.rcWork;
+  if (owner != nullptr && IsWindowVisible(owner)) {
+    GetWindowRect(owner, &around);
+  }
+  const LONG width = frame.right - frame.left;
+  const LONG height = frame.bottom - frame.top;
+  const RECT& work = screen.rcWork;
+  const LONG x = (around.left + around.right - width) / 2;
+  const LONG y = (around.top + around.bottom - height) / 2;
+  SetWindowPos(window_, nullptr, static_cast<int>(std::max(work.left, std::min(x, work.right - width))),
+               static_cast<int>(std::max(work.top, std::min(y, work.bottom - height))), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Dialog::Resize(int width, int height) {
+  SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    auto* created = reinterpret_cast<Dialog*>(lParam);
+    created->window_ = window;
+    SetWindowLongPtrW(window, DWLP_USER, lParam);
+    created->Load();
+    return TRUE;
+  }
+  auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, DWLP_USER));
+  if (dialog == nullptr) {
+    return FALSE;
+  }
+  if (message == WM_NCDESTROY) {
+    dialog->Remove();
+    return FALSE;
+  }
+  return dialog->Dispatch(message, wParam, lParam);
+}
+
+void Dialog::Load() {
+  try {
+    Form_Load();
+    if (pages_.empty()) {
+      FitToTexts();
+    }
+    Centre();
+    filled_ = true;
+  } catch (const std::exception& problem) {
+    ShowProblem(problem);
+    PostMessageW(window_, WM_CLOSE, 0, 0);
+  }
+}
+
+INT_PTR Dialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+  try {
+    LRESULT result = 0;
+    if (filled_ && Form_Message(message, wParam, lParam, result)) {
+      SetWindowLongPtrW(window_, DWLP_MSGRESULT, result);
+      return TRUE;
+    }
+    switch (message) {
+      case WM_COMMAND:
+        return Notify(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+      case WM_NOTIFY: {
+        const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+        Notify(static_cast<int>(header->idFrom), static_cast<int>(header->code), header->hwndFrom);
+        return FALSE;
+      }
+      case WM_TIMER:
+        Form_Timer(wParam);
+        return TRUE;
+      case WM_HELP:
+        ShowHelp();
+        return TRUE;
+      case WM_CLOSE:
+        Form_QueryClose();
+        return TRUE;
+      case WM_DPICHANGED:
+        // The system scales window and controls after this; pictures follow then.
+        PostMessageW(window_, WM_APP, 0, 0);
+        return FALSE;
+      case WM_APP:
+        for (auto& [control, picture] : pictures_) {
+          ShowPicture(control, *picture);
+        }
+        Form_DpiChanged();
+        return TRUE;
+      default:
+        return FALSE;
+    }
+  } catch (const std::exception& problem) {
+    ShowProblem(problem);
+    return TRUE;
+  }
+}
+
+bool Dialog::Notify(int control, int code, HWND sender) {
+  if (code == EN_SETFOCUS && sender != nullptr && IsEdit(sender)) {
+    // Posted, because a mouse click places the caret after this notification.
+    PostMessageW(sender, EM_SETSEL, 0, -1);
+  }
+  if (!filled_ || (sender != nullptr && !IsWindowEnabled(sender))) {
+    return false;
+  }
+  if (const auto found = handlers_.find({control, code}); found != handlers_.end()) {
+    const Handler handler = found->second;  // a copy: the handler may end the window and with it the table
+    handler();
+    return true;
+  }
+  if (control == IDCANCEL && code == BN_CLICKED) {
+    Form_QueryClose();
+    return true;
+  }
+  return false;
+}
+
+void LetWindowEventsThrough() {
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    const auto& windows = ModelessWindows();
+    if (std::none_of(windows.begin(), windows.end(),
+                     [&](HWND each) { return IsDialogMessageW(each, &message) != 0; })) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+  }
+}
+
+void RunUntilClosed(const Dialog& window) {
+  while (window.Window() != nullptr && WaitMessage() != 0) {
+    LetWindowEventsThrough();
+  }
+}
+
+FARPROC NewerFunction(const wchar_t* module, const char* name) {
+  const HMODULE library = GetModuleHandleW(module);
+  return library == nullptr ? nullptr : GetProcAddress(library, name);
+}
+
+int DpiOf(HWND window) {
+  using GetDpi = UINT(WINAPI*)(HWND);
+  using Plain = void (*)();
+  static const auto getDpi =
+      reinterpret_cast<GetDpi>(reinterpret_cast<Plain>(NewerFunction(L"user32.dll", "GetDpiForWindow")));
+  const int dpi = getDpi != nullptr && window != nullptr ? static_cast<int>(getDpi(window)) : 0;
+  return dpi > 0 ? dpi : SystemDpi();
+}
+
+void PrepareWindows() {
+  static const bool prepared = [] {
+    INITCOMMONCONTROLSEX classes{};
+    classes.dwSize = sizeof(classes);
+    classes.dwICC = ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_USEREX_CLASSES | ICC_STANDARD_CLASSES;
+    InitCommonControlsEx(&classes);
+    OleInitialize(nullptr);
+    return true;
+  }();
+  static_cast<void>(prepared);
+}
+
+}  // namespace folivant::platform

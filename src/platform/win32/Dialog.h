@@ -1,0 +1,128 @@
+// The base of every window: one dialog procedure that finds its object and calls what the window registered for a
+// control, an edge that no exception crosses, and the care that each window would otherwise repeat (system font, sizes
+// that fit the texts, pictures for the screen's resolution, selection on focus, F1). Texts, records and the wording of
+// errors belong to ui/frmBase.h.
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/win32/Win32.h"
+
+namespace folivant::platform {
+
+class Dialog {
+ public:
+  /// `resource` is the number of a dialog template.
+  explicit Dialog(int resource);
+  virtual ~Dialog();
+  Dialog(const Dialog&) = delete;
+  Dialog& operator=(const Dialog&) = delete;
+
+  HWND Window() const { return window_; }
+
+  /// Runs the window until Close; `owner` is disabled meanwhile. Returns what Close was given.
+  int ShowModal(HWND owner);
+  /// Makes the window, hidden or visible as its template says, and returns at once.
+  void Create(HWND owner);
+  /// Ends either kind of window. A modeless one is destroyed; its object lives on.
+  void Close(int result = 0);
+
+  // Controls are named by their id and looked for in the window and in its pages.
+  HWND Item(int control) const;
+  bool Has(int control) const;
+  std::wstring TextOf(int control) const;
+  void SetText(int control, const std::wstring& text);
+  bool Checked(int control) const;
+  void SetChecked(int control, bool checked);
+  void Enable(int control, bool enabled);
+  void SetFocusTo(int control);
+  LRESULT Send(int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  /// The id of the checked button among `buttons`, 0 when none is.
+  int ChosenOf(std::initializer_list<int> buttons) const;
+  /// Checks `button` alone among `buttons`.
+  void Choose(std::initializer_list<int> buttons, int button);
+  void SetToolTip(int control, const std::wstring& text);
+  /// Shows a bitmap resource; the numbers 1000 and 2000 above it hold the same picture for 150 and 200 percent.
+  void SetPicture(int control, int resource);
+  /// Adds an item to a combo or list box.
+  void AddItem(int control, const std::wstring& text);
+  /// A length given for 96 dots per inch, in dots of this window's screen.
+  int Scaled(int length) const;
+  /// The width of `text` in this window's font, in dots; "&" is not shown.
+  int WidthOfText(const std::wstring& text) const;
+
+ protected:
+  using Handler = std::function<void()>;
+
+  /// Fills the controls. Notifications before and during it are ignored.
+  virtual void Form_Load() = 0;
+  /// The close box, Alt+F4 or Escape without a cancel button.
+  virtual void Form_QueryClose() { Close(); }
+  virtual void Form_Timer(UINT_PTR) {}
+  /// The screen's resolution changed; called after the system has scaled the controls.
+  virtual void Form_DpiChanged() {}
+  /// Messages that the base does not know. True when handled, with the answer in `result`.
+  virtual bool Form_Message(UINT, WPARAM, LPARAM, LRESULT&) { return false; }
+  /// F1.
+  virtual void ShowHelp() = 0;
+  /// Tells the user about an error of a handler; called inside a catch clause with that exception. Must not throw.
+  virtual void ShowProblem(const std::exception& problem) noexcept = 0;
+
+  /// Calls `handler` when `control` reports `code` (BN_CLICKED, CBN_SELCHANGE, EN_CHANGE ... or, as negative numbers,
+  /// the codes of WM_NOTIFY).
+  void On(int control, int code, Handler handler);
+  void OnClick(int control, Handler handler) { On(control, BN_CLICKED, std::move(handler)); }
+  void OnDoubleClick(int control, Handler handler) { On(control, BN_DOUBLECLICKED, std::move(handler)); }
+
+  /// A child dialog whose controls count as this window's own: a page of a tab strip. Hidden at first. Called in
+  /// Form_Load before the controls are filled.
+  HWND AddPage(int resource);
+  /// Widens controls, and the window with them, until every caption fits. Done after Form_Load anyway; a window that
+  /// needs its final sizes earlier calls it itself. The design keeps its columns: everything to the right of a widened
+  /// control moves.
+  void FitToTexts();
+  /// The same for one page; returns its size in dots.
+  SIZE FitPageToTexts(HWND page);
+  /// Moves the window into the middle of its owner, or of the screen without one.
+  void Centre();
+  void Resize(int width, int height);
+
+ private:
+  class Page;
+  struct Picture;
+  static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
+  void Load();
+  void Remove();
+  bool Notify(int control, int code, HWND sender);
+  void ShowPicture(int control, Picture& picture);
+
+  int resource_;
+  HWND window_ = nullptr;
+  HWND toolTips_ = nullptr;
+  bool modal_ = false;
+  bool filled_ = false;
+  std::map<std::pair<int, int>, Handler> handlers_;
+  std::vector<std::unique_ptr<Page>> pages_;
+  std::map<int, std::unique_ptr<Picture>> pictures_;
+};
+
+/// Lets pending events of all windows run and returns when none is left.
+void LetWindowEventsThrough();
+/// Runs events until `window` is destroyed.
+void RunUntilClosed(const Dialog& window);
+/// Calls a function of a newer Windows when it is there; nullptr before.
+FARPROC NewerFunction(const wchar_t* module, const char* name);
+/// Dots per inch of the screen that shows `window`.
+int DpiOf(HWND window);
+/// Common controls, OLE; once per process, before the first window.
+void PrepareWindows();
+
+}  // namespace folivant::platform

@@ -1,0 +1,78 @@
+#include "ui/frmBase.h"
+
+#include <limits>
+
+#include "app/mdlVars.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "platform/RuntimeError.h"
+#include "platform/win32/Shell.h"
+#include "ui/ErrorText.h"
+#include "ui/Help.h"
+#include "ui/Language.h"
+
+namespace folivant {
+namespace {
+
+std::wstring Widened(const char* text) {
+  return std::wstring(text, text + std::char_traits<char>::length(text));
+}
+
+}  // namespace
+
+std::int32_t frmBase::WholeNumberOf(int control) const {
+  const auto number = ParseWholeNumber(TextOf(control));
+  if (!number) {
+    throw FieldError(control);
+  }
+  return *number;
+}
+
+float frmBase::SingleOf(int control) const {
+  const auto number = ParseSingle(TextOf(control));
+  if (!number) {
+    throw FieldError(control);
+  }
+  return *number;
+}
+
+void frmBase::ReadField(int control, std::int16_t& value) const {
+  const std::int32_t number = WholeNumberOf(control);
+  if (number < std::numeric_limits<std::int16_t>::min() || number > std::numeric_limits<std::int16_t>::max()) {
+    throw FieldError(control);
+  }
+  value = static_cast<std::int16_t>(number);
+}
+
+void frmBase::SetCaption(int control, Text caption) {
+  SetText(Has(LABEL_OF(control)) ? LABEL_OF(control) : control, mdlVars::Texts[caption]);
+}
+
+void frmBase::ShowHelp() {
+  if (platform::PathExists(mdlVars::HelpFile)) {
+    platform::OpenHelpFile(Window(), mdlVars::HelpFile);
+  } else {
+    platform::OpenDocument(Window(), ManualFile(platform::ProgramFolder(), mdlVars::General.Language));
+  }
+}
+
+void frmBase::ShowProblem(const std::exception& problem) noexcept {
+  try {
+    if (const auto* field = dynamic_cast<const FieldError*>(&problem)) {
+      const int control = field->Control();
+      const int named = Has(LABEL_OF(control)) ? LABEL_OF(control) : control;
+      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::NotANumber], FieldName(TextOf(named))),
+                            platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+      ShowField(control);
+      SetFocusTo(control);
+    } else if (const auto* error = dynamic_cast<const RuntimeError*>(&problem)) {
+      ShowError(*error, mdlVars::Texts);
+    } else {
+      platform::ShowMessage(Widened(problem.what()), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    }
+  } catch (const std::exception&) {
+    // Out of memory while telling so: the window stays, which is all that can be done.
+  }
+}
+
+}  // namespace folivant

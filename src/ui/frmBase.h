@@ -1,0 +1,128 @@
+// What all dialogs of the program share on top of platform/win32/Dialog.h: captions from the language's texts, a table
+// that binds each control to its caption and its field, errors shown as sentences, and help. For frm*.cpp files only.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <variant>
+
+#include "platform/win32/Dialog.h"
+#include "res/Controls.h"
+#include "ui/FieldText.h"
+#include "ui/Text.h"
+
+namespace folivant {
+
+/// A whole number of which only the beginning has to be one: "80 characters" is 80, "wide" is 0.
+template <class Record>
+struct LeadingNumber {
+  std::int32_t Record::*Member;
+};
+
+/// What a control edits: nothing, a check box or option button's flag, or a text box's content.
+template <class Record>
+using Field = std::variant<std::monostate, bool Record::*, std::wstring Record::*, std::int16_t Record::*,
+                           std::int32_t Record::*, float Record::*, LeadingNumber<Record>>;
+
+/// A control's id, the text that names it, and the field that it edits. The caption goes to the control's label where
+/// there is one (the control with the id LABEL_OF(control)), otherwise to the control itself.
+template <class Record>
+struct Binding {
+  int Control;
+  Text Caption = kNoCaption;
+  Field<Record> Edits = {};
+
+  static constexpr Text kNoCaption = static_cast<Text>(-1);
+};
+
+/// For windows whose tables only set captions.
+struct NoRecord {};
+
+/// What was typed into a control does not convert.
+class FieldError final : public std::exception {
+ public:
+  explicit FieldError(int control) : control_(control) {}
+  int Control() const { return control_; }
+
+ private:
+  int control_;
+};
+
+/// A dialog that speaks the user's language.
+class frmBase : public platform::Dialog {
+ public:
+  using Dialog::Dialog;
+
+ protected:
+  template <class Record>
+  void SetCaptions(std::span<const Binding<Record>> table);
+  template <class Record>
+  void Fill(std::span<const Binding<Record>> table, const Record& record);
+  /// Throws FieldError, with `record` partly read: read into a copy.
+  template <class Record>
+  void Read(std::span<const Binding<Record>> table, Record& record) const;
+
+  /// The number typed into `control`. Throws FieldError.
+  std::int32_t WholeNumberOf(int control) const;
+  float SingleOf(int control) const;
+  void SetCaption(int control, Text caption);
+  /// Brings a field into view before it gets the focus; for windows with pages.
+  virtual void ShowField(int) {}
+
+  void ShowHelp() override;
+  /// A FieldError names the field and moves the focus to it; everything else is shown as its sentence.
+  void ShowProblem(const std::exception& problem) noexcept override;
+
+ private:
+  void FillField(int control, bool value) { SetChecked(control, value); }
+  void FillField(int control, const std::wstring& value) { SetText(control, value); }
+  void FillField(int control, std::int32_t value) { SetText(control, std::to_wstring(value)); }
+  void FillField(int control, float value) { SetText(control, SingleText(value)); }
+  void ReadField(int control, bool& value) const { value = Checked(control); }
+  void ReadField(int control, std::wstring& value) const { value = TextOf(control); }
+  void ReadField(int control, std::int32_t& value) const { value = WholeNumberOf(control); }
+  void ReadField(int control, std::int16_t& value) const;
+  void ReadField(int control, float& value) const { value = SingleOf(control); }
+};
+
+template <class Record>
+void frmBase::SetCaptions(std::span<const Binding<Record>> table) {
+  for (const Binding<Record>& row : table) {
+    if (row.Caption != Binding<Record>::kNoCaption) {
+      SetCaption(row.Control, row.Caption);
+    }
+  }
+}
+
+template <class Record>
+void frmBase::Fill(std::span<const Binding<Record>> table, const Record& record) {
+  for (const Binding<Record>& row : table) {
+    std::visit(
+        [&](auto edits) {
+          if constexpr (std::is_same_v<decltype(edits), LeadingNumber<Record>>) {
+            FillField(row.Control, record.*edits.Member);
+          } else if constexpr (!std::is_same_v<decltype(edits), std::monostate>) {
+            FillField(row.Control, record.*edits);
+          }
+        },
+        row.Edits);
+  }
+}
+
+template <class Record>
+void frmBase::Read(std::span<const Binding<Record>> table, Record& record) const {
+  for (const Binding<Record>& row : table) {
+    std::visit(
+        [&](auto edits) {
+          if constexpr (std::is_same_v<decltype(edits), LeadingNumber<Record>>) {
+            record.*edits.Member = LeadingWholeNumber(TextOf(row.Control));
+          } else if constexpr (!std::is_same_v<decltype(edits), std::monostate>) {
+            ReadField(row.Control, record.*edits);
+          }
+        },
+        row.Edits);
+  }
+}
+
+}  // namespace folivant
