@@ -1,0 +1,37 @@
+#!/bin/bash
+# Builds Folivant.exe and lists a folder with it:  ./run.sh [FOLDER] [KIND] [STYLE]
+#   KIND   text (default), tab, csv, html, xml
+#   STYLE  files, subdirectories (default), tree, directories, paths
+set -euo pipefail
+usage() {
+  sed -n '2,4s/^# \{0,1\}//p' "$0" >&2
+  exit 1
+}
+cd_back=$PWD
+cd "$(dirname "$0")"
+folder=$PWD kind=t style=1
+if [ $# -gt 0 ]; then
+  folder=$(cd "$cd_back" && cd "$1" && pwd) || usage
+  shift
+fi
+for word in "$@"; do
+  case $word in
+    text) kind=t ;; tab) kind=a ;; csv) kind=c ;; html) kind=h ;; xml) kind=x ;;
+    files) style=0 ;; subdirectories) style=1 ;; tree) style=2 ;; directories) style=3 ;; paths) style=4 ;;
+    *) usage ;;
+  esac
+done
+
+scripts/install.sh
+cmake --preset windows >/dev/null
+cmake --build --preset windows -j "$(nproc)" --target Folivant >&2
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+printf '[Folivant 3.5]\r\nFormat=%s\r\n' "$style" >"$work/run.fvf"
+windows() { printf 'Z:%s' "$1" | tr / '\\'; }
+status=0
+FOLIVANT_NO_DISPLAY=1 FOLIVANT_PREFIX=$PWD/build/wine tests/env/with-wine.sh tests/env/run-windows.sh build/windows/Folivant.exe \
+  /f "$(windows "$work/run.fvf")" /d "$(windows "$folder")" /t "$kind" /o "$(windows "$work/listing.out")" /g || status=$?
+[ -f "$work/listing.out" ] && iconv -f CP1252 -t UTF-8 "$work/listing.out" | tr -d '\r'
+exit $status

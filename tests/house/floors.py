@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""Holds the floors of the house: a file includes headers of its own floor or of those below it, <windows.h> and its kin come
+in through the platform seam and the frm files alone, and every header compiles by itself.
+
+    tests/house/floors.py SOURCE_FOLDER [COMPILER]
+"""
+import re
+import subprocess
+import sys
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+SEAM, HELPERS, ENGINE, RUN, WINDOWS, STARTUP = range(6)
+
+# The first pattern that fits a path below src/ tells its floor. Plain records hold no logic; every floor may name them.
+FLOORS = [
+    (r'platform/(win32|host)/(main|MainWindow)\.cpp', STARTUP),
+    (r'platform/', SEAM),
+    (r'ui/(Messages|Text)\.h|app/GeneralSettings\.h|scan/(FilterSettings|ListingFormat)\.h|output/OutputKind\.h', HELPERS),
+    (r'app/(StartUp|CommandLine|frmMain|MainWindow)', STARTUP),
+    (r'.*/frm', WINDOWS),
+    (r'app/(mdlVars|Settings)\.', RUN),
+    (r'scan/mdlScan|output/mdlPrint\.|shell/', RUN),
+    (r'app/', HELPERS),
+    (r'ui/', HELPERS),
+    (r'(scan|output)/', ENGINE),
+]
+SYSTEM_HEADER = re.compile(r'<(windows|winsock2?|commctrl|commdlg|shlobj|shellapi|shobjidl|winspool|mmsystem|ole2|unistd|sys/)[^>]*>')
+
+
+def floor_of(path):
+    return next(floor for pattern, floor in FLOORS if re.match(pattern, path))
+
+
+def complaints_about(source, path):
+    for number, line in enumerate((source / path).read_text().splitlines(), 1):
+        included = re.match(r'\s*#include\s+(?:"([^"]+)"|(<[^>]+>))', line)
+        if not included:
+            continue
+        own, system = included.groups()
+        if own and (source / own).exists() and floor_of(own) > floor_of(path):
+            yield f'{path}:{number}: includes {own} from a floor above'
+        if system and SYSTEM_HEADER.match(system) and not re.match(r'platform/(win32|host)/|.*/frm', path):
+            yield f'{path}:{number}: {system} outside the seam'
+
+
+def compile_alone(source, path, compiler):
+    done = subprocess.run([compiler, '-std=c++20', '-fsyntax-only', '-x', 'c++', '-I', source, '-'],
+                          input=f'#include "{path}"\n', text=True, capture_output=True)
+    return [] if done.returncode == 0 else [f'{path}: does not compile alone\n{done.stderr}']
+
+
+def main():
+    source = Path(sys.argv[1])
+    paths = sorted(str(p.relative_to(source)) for p in source.rglob('*') if p.suffix in ('.h', '.cpp'))
+    complaints = [c for path in paths for c in complaints_about(source, path)]
+    if len(sys.argv) > 2:
+        headers = [p for p in paths if p.endswith('.h') and not re.match(r'platform/win32/|.*/frm', p)]
+        with ThreadPoolExecutor() as pool:
+            for found in pool.map(lambda path: compile_alone(source, path, sys.argv[2]), headers):
+                complaints += found
+    print('\n'.join(complaints) or f'{len(paths)} files keep to their floors.')
+    return 1 if complaints or not paths else 0
+
+
+sys.exit(main())
