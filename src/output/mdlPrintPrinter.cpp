@@ -261,17 +261,11 @@ void PrinterWriter::FoundLine(const FoundItem& row) {
 }
 
 void PrinterWriter::EndListing() {
-  const ListingStyle style = run_.Format.ListingStyle;
-  const bool collected = style == ListingStyle::TreeStyle || style == ListingStyle::DirectoryView;
-  const bool deep = collected || style == ListingStyle::IncludeSubdirectories;
-  if (collected) {
+  if (run_.Format.IsCollected()) {
     page_->EndLine();
   }
-  if (deep) {
-    ClosingLine(TotalsLine(run_));
-  }
-  if (deep || style == ListingStyle::NoSubdirectories) {
-    ClosingLine(FreeSpaceLine(run_.Tree.StartPathOnDisk, run_.Texts));
+  for (const std::wstring& sentence : ClosingSentences(run_)) {
+    ClosingLine(sentence);
   }
   page_->EndDocument();
   page_.reset();

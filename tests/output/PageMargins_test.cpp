@@ -1,0 +1,58 @@
+#include "output/PageMargins.h"
+
+#include <gtest/gtest.h>
+
+#include "app/mdlFileRoutines.h"
+#include "fakes/RecordingSurface.h"
+
+namespace folivant {
+namespace {
+
+class Margins : public ::testing::Test {
+ protected:
+  Margins() {
+    fakes::Printer().Reset();
+    fakes::Printer().Area = {11000, 15000, 360, 480, 600, 720};
+  }
+};
+
+TEST_F(Margins, InchesAndMillimetresBecomeTwips) {
+  EXPECT_EQ(TwipsPerUnit(true), 1440);
+  EXPECT_DOUBLE_EQ(TwipsPerUnit(false) * 25.4, 1440);
+  GeneralSettings general;
+  general.MarginLeft = 1;
+  general.MarginRight = 0.5;
+  general.MarginTop = 2;
+  general.MarginBottom = 0.25;
+  general.Inches = true;
+  EXPECT_EQ(MarginsInTwips(general), (PageMargins{1440, 720, 2880, 360}));
+  general.Inches = false;
+  EXPECT_NEAR(MarginsInTwips(general).Left, 56.693, 0.001);
+}
+
+TEST_F(Margins, MinimaAreTheUnprintableBandsInTheCurrentUnit) {
+  EXPECT_EQ(MinimumMargins(fakes::Printer().Area, true), (PageMargins{0.25, 600 / 1440.0, 480 / 1440.0, 0.5}));
+  EXPECT_DOUBLE_EQ(MinimumMargins(fakes::Printer().Area, false).Left, 6.35);
+  EXPECT_DOUBLE_EQ(MinimumMargins(fakes::Printer().Area, false).Bottom, 12.7);
+}
+
+TEST_F(Margins, MinimaComeFromTheChosenPrinterInItsOrientation) {
+  const PrinterSettings printer{L"Laser", 1, 1, -2, 1};
+  EXPECT_EQ(MinimumMarginsOf(printer, true, true).Left, 0.25);
+  // Turned to the left, the sheet's lower border comes to the left.
+  EXPECT_EQ(MinimumMarginsOf(printer, false, true).Left, 0.5);
+}
+
+TEST_F(Margins, WithoutThePrinterThereIsNoMinimum) {
+  fakes::Printer().Failure = fakes::PrinterFailure::Open;
+  EXPECT_EQ(MinimumMarginsOf({L"Gone", 1, 1, -2, 1}, true, false), PageMargins{});
+}
+
+TEST_F(Margins, AMinimumIsRoundedUpToTheStepOfItsUnit) {
+  EXPECT_NEAR(RoundToStep(0.123, 0.01, Rounding::Up), 0.13, 1e-9);
+  EXPECT_NEAR(RoundToStep(4.2, 1, Rounding::Up), 5, 1e-9);
+  EXPECT_NEAR(RoundToStep(MinimumMargins(fakes::Printer().Area, false).Left, 1, Rounding::Up), 7, 1e-9);
+}
+
+}  // namespace
+}  // namespace folivant
