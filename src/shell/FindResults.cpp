@@ -39,7 +39,7 @@ std::size_t CellOf(std::int32_t slotRow, std::size_t column) {
 
 FindResults::FindResults(platform::WindowHandle listView, const std::wstring& title)
     : window_(listView, title),
-      rowCount_(static_cast<std::int32_t>(window_.Send(kGetItemCount, 0, 0))),
+      rowCount_(MaxValue(0, static_cast<std::int32_t>(window_.Send(kGetItemCount, 0, 0)))),
       block_(kBlockBytes),
       request_(L"FolivantMappingLVI", TemporaryFile(L"~fv00002.tmp"), kSharedRequestBytes),
       text_(L"FolivantMappingText", TemporaryFile(L"~fv00003.tmp"), kCellBytes) {}
