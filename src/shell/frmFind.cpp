@@ -1,0 +1,69 @@
+#include "shell/frmFind.h"
+
+namespace folivant {
+namespace {
+
+constexpr Binding<NoRecord> kCaptions[] = {
+    {lstFind, Text::SelectFindWindow},  // goes to its label
+    {cmdOK, Text::Ok},
+    {cmdCancel, Text::Cancel},
+};
+
+// The wait for the user looks at events this often, or at once when one comes.
+constexpr DWORD kRestInterval = 20;  // milliseconds
+
+}  // namespace
+
+frmFind::frmFind(FindChoice& choice, const Messages& texts) : frmBase(dlgFind), choice_(choice), texts_(texts) {}
+
+frmFind::~frmFind() {
+  Close();
+}
+
+void frmFind::Show() {
+  Create(nullptr);  // without an owner: it stands beside the program's other windows
+  Initialize();
+  ShowWindow(Window(), SW_SHOW);
+  SetForegroundWindow(Window());
+  SetFocusTo(lstFind);
+}
+
+void frmFind::LetEventsThrough() {
+  MsgWaitForMultipleObjects(0, nullptr, FALSE, kRestInterval, QS_ALLINPUT);
+  platform::LetWindowEventsThrough();
+}
+
+void frmFind::Form_Load() {
+  SetWindowTextW(Window(), texts_[Text::FindTitle].c_str());
+  SetCaptions<NoRecord>(kCaptions);
+  OnClick(cmdOK, [this] { cmdOK_Click(); });
+  OnClick(cmdCancel, [this] { cmdCancel_Click(); });
+  On(lstFind, LBN_DBLCLK, [this] { cmdOK_Click(); });
+}
+
+void frmFind::Initialize() {
+  for (const FindCandidate& candidate : choice_.Candidates) {
+    AddItem(lstFind, candidate.Title);
+  }
+  Send(lstFind, LB_SETCURSEL, 0);
+}
+
+void frmFind::cmdOK_Click() {
+  const auto row = static_cast<int>(Send(lstFind, LB_GETCURSEL));
+  if (row == LB_ERR) {
+    return;
+  }
+  choice_.Choose(row);
+  Close();
+}
+
+void frmFind::cmdCancel_Click() {
+  choice_.Cancel();
+  Close();
+}
+
+std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const Messages& texts) {
+  return std::make_unique<frmFind>(choice, texts);
+}
+
+}  // namespace folivant
