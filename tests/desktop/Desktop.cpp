@@ -1,0 +1,339 @@
+#include "desktop/Desktop.h"
+
+#include <shlobj.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+namespace folivant::desktop {
+namespace {
+
+constexpr DWORD kPollEvery = 15;
+const wchar_t* const kStore = L"Software\\Folivant 3.0";
+const wchar_t* const kSavedStore = L"Software\\Folivant 3.0 (set aside by a test)";
+
+void Send(const std::vector<INPUT>& inputs) {
+  SendInput(static_cast<UINT>(inputs.size()), const_cast<INPUT*>(inputs.data()), sizeof(INPUT));
+}
+
+INPUT Key(WORD key, DWORD flags = 0) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  return input;
+}
+
+void CopyStore(const wchar_t* from, const wchar_t* to) {
+  RegDeleteTreeW(HKEY_CURRENT_USER, to);
+  HKEY source = nullptr;
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, from, 0, KEY_READ, &source) != ERROR_SUCCESS) {
+    return;
+  }
+  const platform::OwnedKey ownedSource(source);
+  HKEY target = nullptr;
+  RegCreateKeyExW(HKEY_CURRENT_USER, to, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &target, nullptr);
+  const platform::OwnedKey ownedTarget(target);
+  RegCopyTreeW(source, nullptr, target);
+}
+
+}  // namespace
+
+bool WaitUntil(const std::function<bool()>& done, DWORD milliseconds) {
+  const ULONGLONG end = GetTickCount64() + milliseconds;
+  while (!done()) {
+    if (GetTickCount64() > end) {
+      return false;
+    }
+    Sleep(kPollEvery);
+  }
+  return true;
+}
+
+Scratch::Scratch() {
+  static int number = 0;
+  wchar_t temporary[MAX_PATH + 1];
+  GetTempPathW(MAX_PATH, temporary);
+  wchar_t longer[MAX_PATH + 1];
+  GetLongPathNameW(temporary, longer, MAX_PATH);
+  path_ =
+      std::wstring(longer) + L"Folivant" + std::to_wstring(GetCurrentProcessId()) + L"x" + std::to_wstring(++number);
+  std::filesystem::create_directories(path_);
+}
+
+Scratch::~Scratch() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+std::wstring Scratch::File(std::wstring_view name, std::string_view bytes, std::optional<SYSTEMTIME> written) const {
+  const std::wstring path = *this / name;
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+  std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
+  if (written) {
+    FILETIME time;
+    SystemTimeToFileTime(&*written, &time);
+    const platform::OwnedFile file(CreateFileW(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
+                                               FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    SetFileTime(file.Get(), nullptr, nullptr, &time);
+  }
+  return path;
+}
+
+std::wstring Scratch::Dir(std::wstring_view name) const {
+  const std::wstring path = *this / name;
+  std::filesystem::create_directories(path);
+  return path;
+}
+
+std::wstring Scratch::FilterFile(std::wstring_view name, const std::vector<std::string>& lines) const {
+  std::string text = "[Folivant 3.5]\r\n";
+  for (const std::string& line : lines) {
+    text += line + "\r\n";
+  }
+  return File(name, text);
+}
+
+std::string ReadBytes(const std::wstring& path) {
+  std::ifstream file(std::filesystem::path(path), std::ios::binary);
+  EXPECT_TRUE(file.is_open());
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool Exists(const std::wstring& path) {
+  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::wstring Window::Text() const {
+  std::wstring text(static_cast<std::size_t>(SendMessageW(handle_, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
+  text.resize(
+      static_cast<std::size_t>(SendMessageW(handle_, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+  return text;
+}
+
+std::wstring Window::ClassName() const {
+  wchar_t name[256];
+  return {name, static_cast<std::size_t>(GetClassNameW(handle_, name, 256))};
+}
+
+RECT Window::Rectangle() const {
+  RECT rectangle{};
+  GetWindowRect(handle_, &rectangle);
+  return rectangle;
+}
+
+void Window::SetText(int id, std::wstring_view text) const {
+  SendMessageW(Control(id).Handle(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
+}
+
+bool Window::IsChecked(int id) const {
+  return SendMessageW(Control(id).Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+void Window::Press(int id) const {
+  PostMessageW(Control(id).Handle(), BM_CLICK, 0, 0);
+}
+
+void Window::Click(int id) const {
+  SendMessageW(Control(id).Handle(), BM_CLICK, 0, 0);
+}
+
+void Window::Choose(int id, int index) const {
+  SendMessageW(Control(id).Handle(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+  for (const WORD notification : {CBN_SELENDOK, CBN_SELCHANGE}) {  // common dialogs listen to the first alone
+    SendMessageW(handle_, WM_COMMAND, MAKEWPARAM(id, notification), reinterpret_cast<LPARAM>(Control(id).Handle()));
+  }
+}
+
+bool Window::WaitUntilGone(DWORD milliseconds) const {
+  return WaitUntil([&] { return IsWindow(handle_) == 0; }, milliseconds);
+}
+
+void Window::Activate() const {
+  SetForegroundWindow(handle_);
+  WaitUntil([&] { return GetForegroundWindow() == handle_; }, 2'000);
+}
+
+int Window::DefaultButton() const {
+  for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    const bool isButton = Window(child).ClassName() == L"Button";
+    if (isButton && (GetWindowLongPtrW(child, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON) {
+      return GetDlgCtrlID(child);
+    }
+  }
+  return 0;
+}
+
+void Window::Answer(int id) const {
+  Press(id);
+  EXPECT_TRUE(WaitUntilGone());
+}
+
+void PressKey(WORD key, bool alt, bool shift, bool control) {
+  std::vector<INPUT> inputs;
+  const auto held = [&](bool wanted, WORD modifier, DWORD flags) {
+    if (wanted) {
+      inputs.push_back(Key(modifier, flags));
+    }
+  };
+  held(control, VK_CONTROL, 0);
+  held(shift, VK_SHIFT, 0);
+  held(alt, VK_MENU, 0);
+  inputs.push_back(Key(key));
+  inputs.push_back(Key(key, KEYEVENTF_KEYUP));
+  held(alt, VK_MENU, KEYEVENTF_KEYUP);
+  held(shift, VK_SHIFT, KEYEVENTF_KEYUP);
+  held(control, VK_CONTROL, KEYEVENTF_KEYUP);
+  Send(inputs);
+}
+
+void TypeText(std::wstring_view text) {
+  for (const wchar_t c : text) {
+    INPUT down{};
+    down.type = INPUT_KEYBOARD;
+    down.ki.wScan = c;
+    down.ki.dwFlags = KEYEVENTF_UNICODE;
+    INPUT up = down;
+    up.ki.dwFlags |= KEYEVENTF_KEYUP;
+    Send({down, up});
+  }
+}
+
+void ClickAt(POINT screen) {
+  SetCursorPos(screen.x, screen.y);
+  INPUT down{};
+  down.type = INPUT_MOUSE;
+  down.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+  INPUT up = down;
+  up.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  Send({down, up});
+}
+
+Program::Program(const std::wstring& arguments, const std::wstring& folder, const std::wstring& executable) {
+  std::wstring line = L'"' + (executable.empty() ? ProgramPath() : executable) + L'"';
+  if (!arguments.empty()) {
+    line += L' ' + arguments;
+  }
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION started{};
+  const BOOL done = CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                   folder.empty() ? nullptr : folder.c_str(), &startup, &started);
+  EXPECT_NE(done, 0) << "the program does not start";
+  if (done != 0) {
+    CloseHandle(started.hThread);
+    process_ = platform::OwnedKernel(started.hProcess);
+    id_ = started.dwProcessId;
+  }
+}
+
+Program::~Program() {
+  if (IsRunning()) {
+    TerminateProcess(process_.Get(), 99);
+    WaitForSingleObject(process_.Get(), kPatience);
+  }
+}
+
+bool Program::IsRunning() const {
+  return process_.IsOpen() && WaitForSingleObject(process_.Get(), 0) == WAIT_TIMEOUT;
+}
+
+std::optional<DWORD> Program::WaitForExit(DWORD milliseconds) const {
+  if (WaitForSingleObject(process_.Get(), milliseconds) != WAIT_OBJECT_0) {
+    ADD_FAILURE() << "the program is still running";
+    return std::nullopt;
+  }
+  DWORD status = 0;
+  GetExitCodeProcess(process_.Get(), &status);
+  return status;
+}
+
+std::vector<Window> Program::Windows() const {
+  std::vector<Window> found;
+  for (HWND window = GetTopWindow(nullptr); window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    if (owner == id_ && IsWindowVisible(window) != 0) {
+      found.emplace_back(window);
+    }
+  }
+  return found;
+}
+
+Window Program::WaitForWindow(std::wstring_view title, Window besides, DWORD milliseconds) const {
+  Window found;
+  const bool came = WaitUntil(
+      [&] {
+        for (const Window& window : Windows()) {
+          if (window.Handle() != besides.Handle() && window.IsEnabled() && (title.empty() || window.Text() == title)) {
+            found = window;
+            return true;
+          }
+        }
+        return !IsRunning();
+      },
+      milliseconds);
+  EXPECT_TRUE(came && found) << "no such window";
+  return found;
+}
+
+Window Program::WaitForBox(Window owner, DWORD milliseconds) const {
+  Window found;
+  const bool came = WaitUntil(
+      [&] {
+        for (const Window& window : Windows()) {
+          if (window.ClassName() == L"#32770" && GetWindow(window.Handle(), GW_OWNER) == owner.Handle() &&
+              window.Handle() != owner.Handle()) {
+            found = window;
+            return true;
+          }
+        }
+        return !IsRunning();
+      },
+      milliseconds);
+  EXPECT_TRUE(came && found) << "no such box";
+  return found;
+}
+
+std::wstring ProgramPath() {
+  wchar_t path[MAX_PATH];
+  GetModuleFileNameW(nullptr, path, MAX_PATH);
+  return std::filesystem::path(path).parent_path() / L"Folivant.exe";
+}
+
+std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
+  wchar_t value[1024];
+  DWORD bytes = sizeof value;
+  const std::wstring path = std::wstring(kStore) + L'\\' + section;
+  if (RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr, value, &bytes) !=
+      ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  return value;
+}
+
+void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+  const std::wstring path = std::wstring(kStore) + L'\\' + section;
+  RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), REG_SZ, value.c_str(),
+                  static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
+}
+
+std::wstring SendToFolder() {
+  wchar_t path[MAX_PATH] = L"";
+  SHGetFolderPathW(nullptr, CSIDL_SENDTO, nullptr, SHGFP_TYPE_CURRENT, path);
+  return path;
+}
+
+DesktopTest::DesktopTest() {
+  CopyStore(kStore, kSavedStore);
+  RegDeleteTreeW(HKEY_CURRENT_USER, kStore);
+}
+
+DesktopTest::~DesktopTest() {
+  CopyStore(kSavedStore, kStore);
+  RegDeleteTreeW(HKEY_CURRENT_USER, kSavedStore);
+}
+
+}  // namespace folivant::desktop
