@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 namespace folivant::desktop {
 namespace {
@@ -71,12 +70,13 @@ Scratch::~Scratch() {
 std::wstring Scratch::File(std::wstring_view name, std::string_view bytes, std::optional<SYSTEMTIME> written) const {
   const std::wstring path = *this / name;
   std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-  std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
+  const platform::OwnedFile file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  EXPECT_TRUE(file.IsOpen());
+  DWORD count = 0;
+  WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
   if (written) {
     FILETIME time;
     SystemTimeToFileTime(&*written, &time);
-    const platform::OwnedFile file(CreateFileW(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
-                                               FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     SetFileTime(file.Get(), nullptr, nullptr, &time);
   }
   return path;
@@ -97,9 +97,16 @@ std::wstring Scratch::FilterFile(std::wstring_view name, const std::vector<std::
 }
 
 std::string ReadBytes(const std::wstring& path) {
-  std::ifstream file(std::filesystem::path(path), std::ios::binary);
-  EXPECT_TRUE(file.is_open());
-  return {std::istreambuf_iterator<char>(file), {}};
+  const platform::OwnedFile file(
+      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
+  EXPECT_TRUE(file.IsOpen());
+  LARGE_INTEGER size{};
+  GetFileSizeEx(file.Get(), &size);
+  std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+  DWORD count = 0;
+  ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+  bytes.resize(count);
+  return bytes;
 }
 
 bool Exists(const std::wstring& path) {
@@ -142,7 +149,7 @@ void Window::Click(int id) const {
 
 void Window::Choose(int id, int index) const {
   SendMessageW(Control(id).Handle(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-  for (const WORD notification : {CBN_SELENDOK, CBN_SELCHANGE}) {  // common dialogs listen to the first alone
+  for (const int notification : {CBN_SELENDOK, CBN_SELCHANGE}) {  // common dialogs listen to the first alone
     SendMessageW(handle_, WM_COMMAND, MAKEWPARAM(id, notification), reinterpret_cast<LPARAM>(Control(id).Handle()));
   }
 }
