@@ -1,6 +1,5 @@
 #include "platform/win32/Dialog.h"
 
-#include <commctrl.h>
 #include <ole2.h>
 #include <uxtheme.h>
 

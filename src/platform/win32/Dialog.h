@@ -15,6 +15,8 @@
 
 #include "platform/win32/Win32.h"
 
+#include <commctrl.h>
+
 namespace folivant::platform {
 
 class Dialog {

@@ -73,7 +73,8 @@ std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& titl
 }
 
 bool AskForSaveName(HWND owner, FileDialog& dialog) {
-  return Ask(owner, dialog, OFN_PATHMUSTEXIST, GetSaveFileNameW);
+  const DWORD question = dialog.AskBeforeOverwriting ? OFN_OVERWRITEPROMPT : 0;
+  return Ask(owner, dialog, OFN_PATHMUSTEXIST | question, GetSaveFileNameW);
 }
 
 bool AskForOpenName(HWND owner, FileDialog& dialog) {

@@ -20,8 +20,9 @@ struct FileDialog {
   int TypeIndex = 1;      ///< one-based, likewise
   std::wstring Folder;    ///< where it opens; empty lets the system choose
   std::wstring DefaultExtension;
+  bool AskBeforeOverwriting = false;
 };
-/// False when the user cancels; `dialog` is unchanged then. No question about overwriting is asked.
+/// False when the user cancels; `dialog` is unchanged then.
 bool AskForSaveName(HWND owner, FileDialog& dialog);
 /// The chosen file exists.
 bool AskForOpenName(HWND owner, FileDialog& dialog);

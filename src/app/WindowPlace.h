@@ -1,0 +1,25 @@
+// Where the main window stood when it was closed, as a stored text.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace folivant {
+
+inline constexpr wchar_t kPlaceSection[] = L"Settings";
+inline constexpr wchar_t kPlaceKey[] = L"WindowPlace";
+
+struct WindowPlace {
+  std::int32_t Left = 0;  ///< screen coordinates
+  std::int32_t Top = 0;
+  bool operator==(const WindowPlace&) const = default;
+};
+
+/// "120,-40"
+std::wstring WindowPlaceText(WindowPlace place);
+/// Nothing when the text is not exactly two numbers with a comma between them.
+std::optional<WindowPlace> ParseWindowPlace(std::wstring_view text);
+
+}  // namespace folivant

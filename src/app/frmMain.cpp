@@ -1,0 +1,370 @@
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/MainWindow.h"
+#include "app/Settings.h"
+#include "app/StartUp.h"
+#include "app/WindowPlace.h"
+#include "app/mdlVars.h"
+#include "output/EntryFormatting.h"
+#include "output/mdlPrint.h"
+#include "platform/Files.h"
+#include "platform/Store.h"
+#include "platform/win32/Shell.h"
+#include "scan/NameRules.h"
+#include "scan/frmFilter.h"
+#include "scan/frmFormat.h"
+#include "scan/frmProgress.h"
+#include "scan/mdlScan.h"
+#include "ui/frmBase.h"
+#include "ui/frmOptions.h"
+
+namespace folivant {
+namespace {
+
+constexpr Binding<NoRecord> kCaptions[] = {
+    {Label1, Text::Directory},       {Label3, Text::Filter},
+    {Label2, Text::OutputFormat},    {fraTo, Text::OutputTo},
+    {cmdBrowse, Text::Browse},       {cmdFilter, Text::FilterButton},
+    {cmdFormat, Text::FormatButton}, {optPrinter, Text::ToPrinter},
+    {optFile, Text::ToFile},         {optScreen, Text::ToScreen},
+    {cmdLoad, Text::LoadFilters},    {cmdSave, Text::SaveFilters},
+    {cmdOptions, Text::Options},     {cmdOK, Text::Ok},
+    {cmdCancel, Text::Close},        {cmdHelp, Text::Help},
+};
+
+constexpr Text kStyleTexts[] = {Text::NoSubdirectories, Text::IncludeSubdirectories, Text::TreeStyle,
+                                Text::DirectoryView,    Text::FullPathList,          Text::FindWindowStyle,
+                                Text::PathListStyle};
+
+/// The types of the save dialog; their order is that of the file kinds. The last two are the same in every language.
+std::wstring OutputTypes(const Messages& texts) {
+  return texts[Text::TypeText] + L"|*.txt|" + texts[Text::TypeTabDelimited] + L"|*.txt|" + texts[Text::TypeHtml] +
+         L"|*.htm*|CSV-file|*.csv|XML file|*.xml";
+}
+
+/// The save dialog of the common dialogs, opened on the process's current directory.
+class CDTextfile final : public DestinationChooser {
+ public:
+  explicit CDTextfile(HWND owner) : owner_(owner) {}
+  std::optional<Choice> AskForFile(const Choice& preset) override {
+    platform::FileDialog dialog;
+    dialog.Types = OutputTypes(mdlVars::Texts);
+    dialog.FileName = preset.FileName;
+    dialog.TypeIndex = preset.Kind == OutputKind::Printer ? 1 : static_cast<int>(preset.Kind) + 1;
+    dialog.Folder = platform::CurrentDirectory();
+    if (!platform::AskForSaveName(owner_, dialog)) {
+      return std::nullopt;
+    }
+    return Choice{dialog.FileName, static_cast<OutputKind>(dialog.TypeIndex - 1)};
+  }
+
+ private:
+  HWND owner_;
+};
+
+class frmMain final : public frmBase, private TextMeasure {
+ public:
+  frmMain() : frmBase(dlgMain), driver_(mdlVars::Run()) {}
+
+  int Run() {
+    Create(nullptr);
+    RestorePlace();
+    ShowWindow(Window(), SW_SHOWDEFAULT);
+    platform::RunUntilClosed(*this);
+    return kExitDone;
+  }
+
+ private:
+  /// Makes the window inert, with the wait cursor and the progress window over it, for as long as it lives.
+  class RunGuard;
+
+  void Form_Load() override;
+  void Form_QueryClose() override;
+  bool Form_Message(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+
+  void MakeFilterLabel();
+  void MakeFormatLabel();
+  void MakePathLabel();
+  void SetOutputTo(OutputTarget target);
+  OutputTarget GetOutputTo() const;
+  void ShowEverything();
+
+  void cmdBrowse_Click();
+  void cmdLoad_Click();
+  void cmdSave_Click();
+  void cmdOK_Click();
+  void lblPath_Drop(const std::wstring& path);
+
+  bool ChooseDestination();
+  void FinishRun();
+  void Unload();
+  void RestorePlace();
+  void SavePlace();
+  double WidthOf(std::wstring_view text) const override { return WidthOfText(std::wstring(text)); }
+
+  OutputDriver driver_;
+  DestinationChooser::Choice file_;  ///< what the save dialog shows next
+  std::unique_ptr<platform::DropTarget> drop_;
+  bool running_ = false;
+};
+
+class frmMain::RunGuard {
+ public:
+  explicit RunGuard(frmMain& window) : window_(window) {
+    window_.running_ = true;
+    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    EnableWindow(window_.Window(), FALSE);
+    progress_ = OpenProgressWindow(window_);
+  }
+  ~RunGuard() {
+    // Enabled first: otherwise another program's window would come to the front when the progress window goes.
+    EnableWindow(window_.Window(), TRUE);
+    progress_.reset();
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+    window_.running_ = false;
+  }
+  RunGuard(const RunGuard&) = delete;
+  RunGuard& operator=(const RunGuard&) = delete;
+  folivant::Progress& Progress() { return *progress_; }
+
+ private:
+  frmMain& window_;
+  std::unique_ptr<folivant::Progress> progress_;
+};
+
+void frmMain::Form_Load() {
+  const HINSTANCE program = GetModuleHandleW(nullptr);
+  for (const auto& [size, metric] : {std::pair(ICON_BIG, SM_CXICON), std::pair(ICON_SMALL, SM_CXSMICON)}) {
+    const int side = GetSystemMetrics(metric);
+    const HANDLE icon = LoadImageW(program, MAKEINTRESOURCEW(icoFolivant), IMAGE_ICON, side, side, LR_SHARED);
+    SendMessageW(Window(), WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
+  }
+  SetCaptions<NoRecord>(kCaptions);
+  FitToTexts();
+  ShowEverything();
+  file_ = {mdlVars::OutputFile, mdlVars::OutputKind};
+
+  OnClick(cmdBrowse, [this] { cmdBrowse_Click(); });
+  OnClick(cmdFilter, [this] {
+    ShowFilterDialog(*this);
+    MakeFilterLabel();
+  });
+  OnClick(cmdFormat, [this] {
+    ShowFormatDialog(*this);
+    MakeFormatLabel();
+    MakePathLabel();
+  });
+  OnClick(cmdOptions, [this] { ShowOptionsDialog(*this); });
+  OnClick(cmdLoad, [this] { cmdLoad_Click(); });
+  OnClick(cmdSave, [this] { cmdSave_Click(); });
+  OnClick(cmdOK, [this] { cmdOK_Click(); });
+  OnClick(cmdCancel, [this] { Unload(); });
+  OnClick(cmdHelp, [this] { ShowHelp(); });
+  for (const int destination : {optPrinter, optScreen, optFile}) {
+    OnClick(destination, [this] { mdlVars::OutputTo = GetOutputTo(); });
+  }
+  drop_ = std::make_unique<platform::DropTarget>(Item(lblPath), [this](const auto& path) { lblPath_Drop(path); });
+  SetFocusTo(cmdOK);
+}
+
+void frmMain::Form_QueryClose() {
+  if (!running_) {
+    Unload();
+  }
+}
+
+bool frmMain::Form_Message(UINT message, WPARAM, LPARAM, LRESULT& result) {
+  if (message == WM_SETCURSOR && running_) {
+    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    result = TRUE;
+    return true;
+  }
+  return false;
+}
+
+void frmMain::MakeFilterLabel() {
+  const std::wstring description = FilterDescription(mdlVars::Filter, mdlVars::Texts);
+  SetText(lblFilter, description);
+  SetToolTip(lblFilter, description);
+}
+
+void frmMain::MakeFormatLabel() {
+  const auto style = static_cast<std::size_t>(mdlVars::Format.ListingStyle);
+  if (style < std::size(kStyleTexts)) {
+    SetText(lblFormat, mdlVars::Texts[kStyleTexts[style]]);
+  }
+}
+
+void frmMain::MakePathLabel() {
+  if (mdlVars::Format.ListingStyle == ListingStyle::PathListFile) {
+    SetText(lblPath, mdlVars::Texts[Text::PathListStyle]);
+    return;
+  }
+  RECT label{};
+  GetClientRect(Item(lblPath), &label);
+  SetText(lblPath, FitPathToWidth(mdlVars::Tree.StartPath, static_cast<double>(label.right), *this));
+  SetToolTip(lblPath, mdlVars::Tree.StartPath);
+}
+
+void frmMain::SetOutputTo(OutputTarget target) {
+  const auto button = target == OutputTarget::Printer  ? optPrinter
+                      : target == OutputTarget::File   ? optFile
+                      : target == OutputTarget::Screen ? optScreen
+                                                       : 0;
+  if (button != 0) {
+    Choose({optPrinter, optScreen, optFile}, button);
+  }
+}
+
+OutputTarget frmMain::GetOutputTo() const {
+  return Checked(optPrinter) ? OutputTarget::Printer : Checked(optFile) ? OutputTarget::File : OutputTarget::Screen;
+}
+
+void frmMain::ShowEverything() {
+  MakePathLabel();
+  MakeFilterLabel();
+  MakeFormatLabel();
+  SetOutputTo(mdlVars::OutputTo);
+  // A file that was sent to the program names what to list: folder, filter and style do not apply.
+  for (const int button : {cmdBrowse, cmdFilter, cmdFormat}) {
+    Enable(button, mdlVars::Format.ListingStyle != ListingStyle::PathListFile);
+  }
+}
+
+void frmMain::cmdBrowse_Click() {
+  const auto folder =
+      platform::BrowseForFolder(Window(), mdlVars::Texts[Text::BrowseTitle], mdlVars::Tree.StartPathOnDisk);
+  if (folder && SetStartPath(*folder)) {
+    ShowEverything();
+  }
+}
+
+void frmMain::lblPath_Drop(const std::wstring& path) {
+  SetStartPath(path);
+  ShowEverything();
+}
+
+void frmMain::cmdLoad_Click() {
+  platform::FileDialog dialog;
+  dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.FileName = mdlVars::FilterFile;
+  if (platform::AskForOpenName(Window(), dialog)) {
+    LoadFilterFile(dialog.FileName);
+    ShowEverything();
+  }
+}
+
+void frmMain::cmdSave_Click() {
+  platform::FileDialog dialog;
+  dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.FileName = mdlVars::FilterFile;
+  dialog.DefaultExtension = L"fvf";
+  dialog.AskBeforeOverwriting = true;
+  if (platform::AskForSaveName(Window(), dialog)) {
+    mdlVars::OutputTo = GetOutputTo();
+    SaveFilterFile(dialog.FileName);
+  }
+}
+
+/// False when the user cancels.
+bool frmMain::ChooseDestination() {
+  switch (GetOutputTo()) {
+    case OutputTarget::Printer:
+      ResolvePrinterName();
+      mdlVars::OutputKind = OutputKind::Printer;
+      return true;
+    case OutputTarget::File: {
+      CDTextfile dialog(Window());
+      if (!ChooseOutputFile(dialog, mdlVars::Texts, file_)) {
+        return false;
+      }
+      mdlVars::OutputFile = file_.FileName;
+      mdlVars::OutputKind = file_.Kind;
+      return true;
+    }
+    case OutputTarget::Screen:
+      mdlVars::OutputFile = ScreenFileName();
+      mdlVars::OutputKind = OutputKind::Text;
+      return true;
+  }
+  return false;
+}
+
+void frmMain::cmdOK_Click() {
+  if (running_ || !ChooseDestination()) {
+    return;
+  }
+  {
+    RunGuard guard(*this);
+    RunListing(driver_, guard.Progress());
+  }
+  if (!mdlVars::Tree.Cancelled) {
+    FinishRun();
+  }
+}
+
+void frmMain::FinishRun() {
+  if (GetOutputTo() == OutputTarget::Screen) {
+    platform::OpenInProgram(Window(), mdlVars::General.TextViewer, mdlVars::OutputFile);
+  } else if (mdlVars::General.ExitWhenDone) {
+    Unload();
+  }
+}
+
+/// Saves everything and ends the program, also when something could not be saved.
+void frmMain::Unload() {
+  try {
+    mdlVars::OutputTo = GetOutputTo();
+    SavePlace();
+    SaveSettings();
+  } catch (const std::exception& problem) {
+    ShowProblem(problem);
+  }
+  drop_.reset();
+  Close();
+}
+
+void frmMain::RestorePlace() {
+  const auto place = ParseWindowPlace(platform::ReadStore(kPlaceSection, kPlaceKey).value_or(L""));
+  RECT frame{};
+  GetWindowRect(Window(), &frame);
+  if (!place) {
+    return;
+  }
+  OffsetRect(&frame, place->Left - frame.left, place->Top - frame.top);
+  // Only where the title bar can be reached with the mouse.
+  const RECT title{frame.left, frame.top, frame.right, frame.top + GetSystemMetrics(SM_CYCAPTION)};
+  if (MonitorFromRect(&title, MONITOR_DEFAULTTONULL) != nullptr) {
+    SetWindowPos(Window(), nullptr, frame.left, frame.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+}
+
+void frmMain::SavePlace() {
+  RECT frame{};
+  if (IsIconic(Window()) == FALSE && GetWindowRect(Window(), &frame) != FALSE) {
+    platform::WriteStore(kPlaceSection, kPlaceKey, WindowPlaceText({frame.left, frame.top}));
+  }
+}
+
+}  // namespace
+
+int ShowMainWindow() {
+  frmMain window;
+  return window.Run();
+}
+
+bool AskForOutputFile() {
+  platform::PrepareWindows();
+  CDTextfile dialog(nullptr);
+  DestinationChooser::Choice choice{mdlVars::OutputFile, mdlVars::OutputKind};
+  if (!ChooseOutputFile(dialog, mdlVars::Texts, choice)) {
+    return false;
+  }
+  mdlVars::OutputFile = choice.FileName;
+  mdlVars::OutputKind = choice.Kind;
+  return true;
+}
+
+}  // namespace folivant
