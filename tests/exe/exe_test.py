@@ -1,0 +1,243 @@
+#!/usr/bin/env python3
+"""The real Folivant.exe and the native folivant-host on real trees: the same bytes, and what only a Unix file system can
+set up (links, unreadable folders, a full disk, odd names, no display). Run inside tests/env/with-wine.sh.
+
+    tests/exe/exe_test.py EXE HOST [unittest arguments]
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+EXE, HOST = (Path(p).resolve() for p in sys.argv[1:3])
+RUN_WINDOWS = Path(__file__).resolve().parent.parent / 'env' / 'run-windows.sh'
+STYLES = {'files': 0, 'subdirectories': 1, 'tree': 2, 'directories': 3, 'paths': 4}
+KINDS = {'text': 't', 'tab': 'a', 'csv': 'c', 'html': 'h', 'xml': 'x'}
+SEVEN_IN_THE_MORNING = 981183900  # 2001-02-03 07:05 UTC
+
+
+def windows_path(path):
+    return 'Z:' + str(path).replace('/', '\\')
+
+
+class ExeTest(unittest.TestCase):
+    def setUp(self):
+        self.work = Path(tempfile.mkdtemp(prefix='exe'))
+        self.addCleanup(shutil.rmtree, self.work, ignore_errors=True)
+        self.tree = self.work / 'Tree'
+        self.tree.mkdir()
+
+    def file(self, name, size=0, when=SEVEN_IN_THE_MORNING):
+        path = self.tree / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        with open(path, 'wb') as made:
+            made.truncate(size)
+        os.utime(path, (when, when))
+        return path
+
+    def filter_file(self, *lines):
+        path = self.work / 'set.fvf'
+        path.write_text('\r\n'.join(['[Folivant 3.5]', 'Header=Listing', *lines, '']))
+        return path
+
+    def run_program(self, *lines, kind='t', native=False, output=None, tree=None, environment=None, prefix=()):
+        """One /g run; returns its status, what it said on stderr, and the listing (None when there is none)."""
+        output = output or self.work / ('native.out' if native else 'exe.out')
+        arguments = ['/f', windows_path(self.filter_file(*lines)), '/d', windows_path(tree or self.tree), '/t', kind,
+                     '/o', windows_path(output), '/g']
+        command = [*prefix, *([HOST] if native else [RUN_WINDOWS, EXE]), *arguments]
+        done = subprocess.run(command, capture_output=True, timeout=120, env=environment)
+        listing = output.read_bytes() if output.is_file() else None
+        return done.returncode, done.stderr, listing
+
+    def paths(self, **options):
+        """The lines of a full-path list, without the tree's own path."""
+        status, errors, listing = self.run_program('Format=4', **options)
+        self.assertEqual(status, 0, errors)
+        start = len(windows_path(self.tree)) + 1
+        return [line[start:] for line in listing.decode('cp1252').splitlines()]
+
+
+class SameBytes(ExeTest):
+    def make_tree(self):
+        for directory in ['', 'Alpha', 'Alpha/Deep', 'Beta', 'Beta/Deeper/Deepest', 'EMPTY']:
+            (self.tree / directory).mkdir(parents=True, exist_ok=True)
+            for number, size in enumerate([0, 1, 1023, 1024, 9999, 10000, 12345, 10241000]):
+                if directory != 'EMPTY':
+                    self.file(f'{directory}/{chr(97 + number)}File{number}.{["txt", "doc", "htm"][number % 3]}', size,
+                              SEVEN_IN_THE_MORNING + number * 86000)
+        for directory in sorted(self.tree.rglob('*'), reverse=True):
+            if directory.is_dir():
+                os.utime(directory, (SEVEN_IN_THE_MORNING, SEVEN_IN_THE_MORNING))
+
+    def test_every_style_and_kind(self):
+        self.make_tree()
+        for style, code in STYLES.items():
+            for kind, letter in KINDS.items():
+                if kind == 'xml':  # holds the time of day: both runs must fall into one minute
+                    while time.gmtime().tm_sec > 50:
+                        time.sleep(1)
+                with self.subTest(style=style, kind=kind):
+                    lines = [f'Format={code}', 'FShow=10111', 'Filter=1001', 'Attr=22222']
+                    native = self.run_program(*lines, kind=letter, native=True)
+                    windows = self.run_program(*lines, kind=letter)
+                    self.assertEqual(native[0], 0, native[1])
+                    self.assertEqual(windows[0], 0, windows[1])
+                    self.assertGreater(len(windows[2]), 100)
+                    self.assertEqual(self.without_free_space(native[2]), self.without_free_space(windows[2]))
+
+    def test_every_order(self):
+        self.make_tree()
+        for order in [0, 1, 3, 4, 5]:
+            for ascending in ['True', 'False']:
+                with self.subTest(order=order, ascending=ascending):
+                    lines = ['Format=2', f'OrderBy={order}', f'OrderAZ={ascending}']
+                    native = self.run_program(*lines, native=True)
+                    windows = self.run_program(*lines)
+                    self.assertEqual(self.without_free_space(native[2]), self.without_free_space(windows[2]))
+
+    def without_free_space(self, listing):
+        """The free-space sentence may change between two runs of a busy machine; everything else may not."""
+        return b'\r\n'.join(line for line in listing.split(b'\r\n') if b' free of ' not in line)
+
+
+class OddTrees(ExeTest):
+    def test_link_to_an_ancestor_is_listed_but_not_entered(self):
+        self.file('Real/Inside.txt')
+        (self.tree / 'Real' / 'Back').symlink_to(self.tree)
+        for native in [False, True]:
+            with self.subTest(native=native):
+                status, errors, listing = self.run_program('Format=2', 'FShow=10000', native=native)
+                self.assertEqual(status, 0, errors)
+                rows = [line.rstrip() for line in listing.decode().splitlines()]
+                self.assertIn('   Back', rows)
+                self.assertEqual(rows.count('   Inside.txt'), 1)
+                self.assertEqual(rows.count('Real'), 1)
+
+    def test_other_links_are_entered(self):
+        (self.work / 'Elsewhere').mkdir()
+        (self.work / 'Elsewhere' / 'Far.txt').touch()
+        (self.tree / 'Link').symlink_to(self.work / 'Elsewhere')
+        for native in [False, True]:
+            with self.subTest(native=native):
+                self.assertIn('Link\\Far.txt', self.paths(native=native))
+
+    def test_two_links_that_lead_into_each_other(self):
+        (self.tree / 'One').mkdir()
+        (self.tree / 'Two').mkdir()
+        (self.tree / 'One' / 'ToTwo').symlink_to(self.tree / 'Two')
+        (self.tree / 'Two' / 'ToOne').symlink_to(self.tree / 'One')
+        self.file('Two/End.txt')
+        for native in [False, True]:
+            with self.subTest(native=native):
+                self.assertIn('One\\ToTwo\\End.txt', self.paths(native=native))
+
+    def test_broken_link_is_not_seen(self):
+        (self.tree / 'Nowhere').symlink_to(self.tree / 'Missing')
+        self.file('Here.txt')
+        for native in [False, True]:
+            with self.subTest(native=native):
+                self.assertEqual(self.paths(native=native), ['Here.txt'])
+
+    def test_paths_longer_than_260_characters(self):
+        names = ['D%02d' % number + 'x' * 40 for number in range(12)]
+        self.file('/'.join(names) + '/Bottom.txt')
+        for native in [False, True]:
+            with self.subTest(native=native):
+                self.assertEqual(self.paths(native=native)[-1], '\\'.join(names) + '\\Bottom.txt')
+
+    def test_names_that_the_code_page_cannot_hold(self):
+        self.file('Caf\u00e9.txt')
+        self.file('\u0416.txt')
+        self.file('Nul\U0001F600.txt')
+        os.close(os.open(os.fsencode(self.tree) + b'/Bad\xff.txt', os.O_CREAT | os.O_WRONLY))
+        for native in [False, True]:
+            with self.subTest(native=native):
+                status, errors, listing = self.run_program('Format=4', native=native)
+                self.assertEqual(status, 0, errors)
+                lines = listing.splitlines()
+                self.assertEqual(len(lines), 4)
+                self.assertTrue(any(line.endswith(b'Caf\xe9.txt') for line in lines))
+                self.assertTrue(any(line.endswith(b'\\?.txt') for line in lines))
+
+    def test_dot_files_are_hidden_and_unwritable_ones_read_only(self):
+        self.file('.secret')
+        self.file('Plain.txt')
+        self.file('Fixed.txt').chmod(0o444)
+        for native in [False, True]:
+            with self.subTest(native=native):
+                status, errors, listing = self.run_program('Format=0', 'FShow=10001', native=native)
+                self.assertEqual(status, 0, errors)
+                rows = {line.split()[0]: line[-5:] for line in listing.decode().splitlines() if line.endswith((' ', 'h'))
+                        and '.' in line[:60]}
+                self.assertEqual(rows['.secret'], ' a  h')
+                self.assertEqual(rows['Plain.txt'], ' a   ')
+                self.assertEqual(rows['Fixed.txt'], ' ar  ')
+
+
+class Failures(ExeTest):
+    def setUp(self):
+        super().setUp()
+        self.file('A.txt')
+
+    def test_unreadable_directory_gives_status_2_and_the_rest(self):
+        self.file('Closed/Hidden.txt')
+        (self.tree / 'Closed').chmod(0)
+        self.addCleanup((self.tree / 'Closed').chmod, 0o755)
+        nobody = ['setpriv', '--reuid=65534', '--regid=65534', '--clear-groups']
+        self.work.chmod(0o777)
+        shared = Path(tempfile.mkdtemp(prefix='nobody', dir='/tmp'))
+        self.addCleanup(shutil.rmtree, shared, ignore_errors=True)
+        shutil.copytree(HOST.parent, shared / 'program', ignore=lambda folder, names: [
+            n for n in names if n not in ('folivant-host', 'english.ini')])
+        shared.chmod(0o777)
+        shutil.copytree(self.tree, shared / 'Tree', ignore=shutil.ignore_patterns('Closed'))
+        (shared / 'Tree' / 'Closed').mkdir()
+        (shared / 'Tree' / 'Closed').chmod(0)
+        self.addCleanup((shared / 'Tree' / 'Closed').chmod, 0o755)
+        (shared / 'set.fvf').write_text('[Folivant 3.5]\r\nFormat=4\r\n')
+        (shared / 'set.fvf').chmod(0o644)
+        done = subprocess.run([*nobody, shared / 'program' / 'folivant-host', '/f', windows_path(shared / 'set.fvf'), '/d',
+                               windows_path(shared / 'Tree'), '/t', 't', '/o', windows_path(shared / 'list.txt'), '/g'],
+                              capture_output=True, env={**os.environ, 'HOME': str(shared)}, timeout=60)
+        self.assertEqual(done.returncode, 2, done.stderr)
+        self.assertEqual([line.rsplit(b'\\', 1)[1] for line in (shared / 'list.txt').read_bytes().splitlines()],
+                         [b'Closed', b'A.txt'])
+
+    def test_full_disk_natively(self):
+        for number in range(300):
+            self.file(f'File{number:03}.txt')
+        status, errors, _ = self.run_program('Format=4', native=True, output=Path('/dev/full'))
+        self.assertEqual(status, 1)
+        self.assertIn(b'Z:\\dev\\full', errors)
+        self.assertIn(b'No space left on device', errors)
+        self.assertIn(b'(28)', errors)
+
+    def test_output_file_that_cannot_be_created_natively(self):
+        status, errors, listing = self.run_program('Format=4', native=True, output=self.work / 'No' / 'list.txt')
+        self.assertEqual(status, 1)
+        self.assertIn(b'\\No\\list.txt', errors)
+        self.assertIn(b'(2)', errors)
+        self.assertIsNone(listing)
+
+    def test_vanished_start_directory_gives_status_2(self):
+        lines = [f'Path={windows_path(self.work / "Gone")}', 'Format=4']
+        for native in [False, True]:
+            with self.subTest(native=native):
+                status, _, listing = self.run_program(*lines, native=native, tree=self.work / 'Gone')
+                self.assertEqual(status, 2)
+                self.assertEqual(listing, b'')
+
+    def test_no_display_is_needed(self):
+        environment = {name: value for name, value in os.environ.items() if name != 'DISPLAY'}
+        status, errors, listing = self.run_program('Format=4', environment=environment)
+        self.assertEqual(status, 0, errors)
+        self.assertTrue(listing.endswith(b'\\A.txt\r\n'))
+
+
+if __name__ == '__main__':
+    unittest.main(argv=[sys.argv[0], *sys.argv[3:]], verbosity=2)
