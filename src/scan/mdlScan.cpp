@@ -55,7 +55,8 @@ void ListDirectoryView(const WalkSettings& settings, ListingWriter& output, Prog
 
 void ListTree(const WalkSettings& settings, ListingWriter& output, Progress& progress) {
   output.BeginTree(Tree.StartPath);
-  DirectoryWalk(settings, Tree, output, progress).ScanDirectory();
+  DirectoryWalk walk(settings, Tree, output, progress);  // owns the size text that the directories' records share
+  walk.ScanDirectory();
   for (const std::uint32_t index : Tree.TreeList) {  // does not look at the cancel flag, on purpose
     const FileRecord& record = Tree.TreeRecords[index];
     if (record.Level > kHiddenLevel) {
