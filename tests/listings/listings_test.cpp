@@ -1,0 +1,271 @@
+// Whole runs compared byte for byte with expectations that were worked out by hand. A folder holds a tree (tree.txt)
+// and, for each run below, one file for every kind of output, whose ending tells the kind. Expectations are UTF-8 with
+// plain line ends; lengths, blanks at the ends of lines included, are exact.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "app/mdlVars.h"
+#include "listings/TreeFile.h"
+#include "output/TestTexts.h"
+#include "output/mdlPrint.h"
+#include "scan/mdlScan.h"
+
+namespace folivant::listings {
+namespace {
+
+using mdlVars::Filter;
+using mdlVars::Format;
+using mdlVars::General;
+
+const std::wstring kOutput = L"C:\\Out\\list";
+
+/// Cancels the run when a directory is shown.
+class CancelAt final : public Progress {
+ public:
+  explicit CancelAt(std::wstring_view directory) : directory_(directory) {}
+  void ShowDirectory(std::wstring_view path) override { cancelled_ = cancelled_ || path == directory_; }
+  void SetProgress(std::int32_t) override {}
+  void LetEventsThrough() override {}
+  bool Cancelled() const override { return cancelled_; }
+
+ private:
+  std::wstring_view directory_;
+  bool cancelled_ = false;
+};
+
+struct Step {
+  void (*Configure)();
+  std::wstring_view CancelledAt;  ///< empty for a run that nobody cancels
+};
+
+struct ListedRun {
+  const char* Tree;
+  const char* Name;
+  const char* Kinds;  ///< endings of the expectations
+  std::vector<Step> Steps;
+};
+
+/// Name, size and date in lines of 44 characters: 16 for the name.
+void UsualColumns() {
+  General.TextWidth = 44;
+  General.Header = L"%p %d %t";
+  General.FontName = L"Courier New";
+  General.DateFormat = 5;
+  Filter.NameOn = true;
+  Filter.FilterName = L"*.*";
+  Format.Files = {.Name = true, .Size = true, .Date = true};
+  Format.Directories = {true, true, true, true};
+}
+
+void NamesOnly() {
+  UsualColumns();
+  General.TextWidth = 20;
+  General.Header = L"%p";
+  Filter.NameOn = false;
+  Format.Files = {.Name = true};
+  Format.Directories = {};
+}
+
+template <ListingStyle style>
+void Usual() {
+  UsualColumns();
+  Format.ListingStyle = style;
+}
+
+void UsualView() {
+  Usual<ListingStyle::DirectoryView>();
+  General.TextWidth = 70;
+}
+
+void UsualFileList() {
+  UsualColumns();
+  General.TextWidth = 80;
+}
+
+void FindWindowRows() {
+  UsualFileList();
+  Format.ListingStyle = ListingStyle::FindWindow;
+  mdlVars::Tree.FindWindowTitle = L"Find: *.txt";
+  mdlVars::Tree.FoundList = {
+      {L"Deep.txt", L"C:\\Data\\Alpha\\Beta", L"10KB", L"1/4/2026 5:06 AM"},
+      {L"a&b <c> rather long.txt", L"C:\\Data\\Some.folder with a long name here & there", L"1KB", L"1/8/2026 9:10 AM"},
+  };
+}
+
+void PathListRows() {
+  UsualFileList();
+  Format.ListingStyle = ListingStyle::PathListFile;
+  fakes::Tree().File(L"C:\\list.txt", "C:\\Data\\readme.txt\r\n\r\nc:\\data\\alpha\\one.bin\r\n");
+  mdlVars::Tree.StartPath = mdlVars::Tree.StartPathOnDisk = L"C:\\list.txt";
+}
+
+template <ListingStyle style, std::int32_t subLevel>
+void Names() {
+  NamesOnly();
+  Format.ListingStyle = style;
+  Format.SubLevel = subLevel;
+}
+
+template <ListingStyle style>
+void NoColumns() {
+  Names<style, 0>();
+  Format.Files = {};
+}
+
+template <ListingStyle style, std::int32_t subLevel>
+void NamesAndEmptyDirectories() {
+  Names<style, subLevel>();
+  General.EmptyDirs = true;
+}
+
+template <std::int32_t subLevel>
+void FilesAndTotalSize() {
+  Names<ListingStyle::DirectoryView, subLevel>();
+  General.TextWidth = 50;
+  Format.Directories = {.Files = true, .TotalSize = true};
+}
+
+template <ListingStyle style>
+void AllColumns() {
+  Usual<style>();
+  General.TextWidth = 80;
+  General.Header = L"%p [%l] %f %g p.%n";
+  Format.Files = {true, true, true, true, true};
+}
+
+template <ListingStyle style>
+void NamesAndLabel() {
+  Names<style, 0>();
+  General.Header = L"%p %l";
+}
+
+constexpr const char* kAll = "txt tab csv html xml";
+
+const std::vector<ListedRun>& Runs() {
+  using enum ListingStyle;
+  static const std::vector<ListedRun> runs = {
+      {"office", "no-subdirectories", kAll, {{Usual<NoSubdirectories>, {}}}},
+      {"office", "include-subdirectories", kAll, {{Usual<IncludeSubdirectories>, {}}}},
+      {"office", "tree-style", kAll, {{Usual<TreeStyle>, {}}}},
+      {"office", "directory-view", kAll, {{UsualView, {}}}},
+      {"office", "full-path-list", kAll, {{Usual<FullPathList>, {}}}},
+      {"office", "find-window", kAll, {{FindWindowRows, {}}}},
+      {"office", "path-list-file", kAll, {{PathListRows, {}}}},
+
+      {"office", "depth-1", "txt html xml", {{Names<IncludeSubdirectories, 1>, {}}}},
+      {"office", "depth-2-empty-listed", "txt html xml", {{NamesAndEmptyDirectories<IncludeSubdirectories, 2>, {}}}},
+      {"office", "depth-negative", "txt", {{Names<IncludeSubdirectories, -1>, {}}}},
+      {"office", "tree-depth-1", "txt html xml", {{Names<TreeStyle, 1>, {}}}},
+      {"office", "tree-depth-negative", "xml", {{Names<TreeStyle, -3>, {}}}},
+      {"office", "view-depth-1", "txt html xml", {{FilesAndTotalSize<1>, {}}}},
+      {"office", "view-depth-negative", "txt html xml", {{FilesAndTotalSize<-1>, {}}}},
+
+      {"office", "tree-no-columns", "txt html xml", {{NoColumns<TreeStyle>, {}}}},
+      {"office", "include-no-columns", "tab csv", {{NoColumns<IncludeSubdirectories>, {}}}},
+      {"office", "view-no-columns", "txt xml", {{NoColumns<DirectoryView>, {}}}},
+
+      {"office",
+       "cancelled",
+       "txt html xml",
+       {{NamesAndEmptyDirectories<IncludeSubdirectories, 1>, L"C:\\Data\\Alpha"}}},
+      {"office", "tree-cancelled", "txt html xml", {{Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}}},
+      // Breaks off in the middle of a line, so the expectation has no last line end.
+      {"office", "tree-depth-1-cancelled", "xml", {{Names<TreeStyle, 1>, L"C:\\Data\\Alpha"}}},
+      {"office",
+       "tree-after-cancelled",
+       "txt html xml",
+       {{Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}, {Names<TreeStyle, 0>, {}}}},
+      {"office",
+       "view-after-cancelled",
+       "xml",
+       {{Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}, {Names<DirectoryView, 0>, {}}}},
+
+      {"odd-names", "all-columns", kAll, {{AllColumns<IncludeSubdirectories>, {}}}},
+      {"odd-names", "tree-all-columns", "html xml", {{AllColumns<TreeStyle>, {}}}},
+
+      {"drive-root", "include-subdirectories", "txt tab csv html", {{NamesAndLabel<IncludeSubdirectories>, {}}}},
+      {"drive-root", "full-path-list", "txt html xml", {{NamesAndLabel<FullPathList>, {}}}},
+      {"drive-root", "directory-view", "txt xml", {{NamesAndLabel<DirectoryView>, {}}}},
+
+      {"nothing", "include-subdirectories", "txt html xml", {{Names<IncludeSubdirectories, 0>, {}}}},
+      {"nothing", "tree-style", "txt html xml", {{Names<TreeStyle, 0>, {}}}},
+      {"nothing", "directory-view", "xml", {{Names<DirectoryView, 0>, {}}}},
+      {"nothing", "full-path-list", "txt", {{Names<FullPathList, 0>, {}}}},
+  };
+  return runs;
+}
+
+struct Case {
+  const ListedRun* Listed;
+  std::string Ending;
+};
+
+std::string NameOf(const Case& listing) {
+  std::string name = std::string(listing.Listed->Tree) + "_" + listing.Listed->Name + "_" + listing.Ending;
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+}
+
+void PrintTo(const Case& listing, std::ostream* out) {
+  *out << NameOf(listing);
+}
+
+std::vector<Case> Cases() {
+  std::vector<Case> cases;
+  for (const ListedRun& run : Runs()) {
+    std::istringstream endings(run.Kinds);
+    for (std::string ending; endings >> ending;) {
+      cases.push_back({&run, ending});
+    }
+  }
+  return cases;
+}
+
+OutputKind KindOf(const std::string& ending) {
+  return ending == "txt"    ? OutputKind::Text
+         : ending == "tab"  ? OutputKind::TabDelimited
+         : ending == "csv"  ? OutputKind::Csv
+         : ending == "html" ? OutputKind::Html
+                            : OutputKind::Xml;
+}
+
+/// A Find window's rows are there already; every other style is a whole run.
+void RunStep(const Step& step, OutputDriver& driver) {
+  step.Configure();
+  if (Format.ListingStyle == ListingStyle::FindWindow) {
+    mdlVars::DatePattern = L"yyyy/mm/dd";
+    driver.BeginListing();
+    driver.FindList(mdlVars::Tree.FoundList);
+    driver.EndListing();
+    return;
+  }
+  CancelAt progress(step.CancelledAt);
+  RunListing(driver, progress);
+}
+
+class Listings : public testing::TestWithParam<Case> {};
+
+TEST_P(Listings, MatchTheExpectationByteForByte) {
+  const ListedRun& run = *GetParam().Listed;
+  ASSERT_TRUE(SetStartPath(MakeTree(run.Tree)));
+  mdlVars::Texts = TestTexts();
+  mdlVars::OutputKind = KindOf(GetParam().Ending);
+  mdlVars::OutputFile = kOutput;
+  OutputDriver driver(mdlVars::Run());
+
+  for (const Step& step : run.Steps) {
+    RunStep(step, driver);
+  }
+
+  const std::string expected = AsListed(ReadTestFile(std::string(run.Tree) + "/" + run.Name + "." + GetParam().Ending));
+  EXPECT_EQ(fakes::Fake().Content(kOutput), expected);
+  EXPECT_EQ(fakes::Fake().OpenOutputFiles, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Runs, Listings, testing::ValuesIn(Cases()),
+                         [](const auto& listing) { return NameOf(listing.param); });
+
+}  // namespace
+}  // namespace folivant::listings

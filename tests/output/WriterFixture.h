@@ -1,0 +1,84 @@
+// A writer under test with the records that it reads and the file that it writes.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "fakes/FakePlatform.h"
+#include "output/ListingRun.h"
+#include "output/ListingWriter.h"
+#include "output/TestTexts.h"
+
+namespace folivant {
+
+class WriterFixture : public testing::Test {
+ protected:
+  WriterFixture() {
+    fakes::Fake().Now = {2026, 11, 16, 14, 5, 0};
+    fakes::Fake().FreeSpace[L"C:\\"] = {5'000'000'000, 20'000'000'000};
+    fakes::Tree().Dir(L"C:\\Out");
+    fakes::Tree().Dir(L"C:\\Data");
+    Tree.StartPath = Tree.StartPathOnDisk = L"C:\\Data";
+    General.TextWidth = 80;
+    General.Header = L"%p";
+    General.FontName = L"Arial";
+    Format.Files = {true, true, true, true, true};
+    Format.Directories = {true, true, true, true};
+  }
+
+  void Style(ListingStyle style) { Format.ListingStyle = style; }
+  std::string Written() const { return fakes::Fake().Content(OutputFile); }
+  /// The lines written, without their CR LF. Fails the test when one ends otherwise.
+  std::vector<std::string> Lines() const {
+    std::vector<std::string> lines;
+    std::string rest = Written();
+    for (std::size_t end = rest.find("\r\n"); end != rest.npos; end = rest.find("\r\n")) {
+      lines.push_back(rest.substr(0, end));
+      rest.erase(0, end + 2);
+    }
+    EXPECT_EQ(rest, "") << "the last line has no end";
+    return lines;
+  }
+
+  static FileRecord File(std::wstring_view name) {
+    FileRecord record;
+    record.Name = name;
+    record.DosName = L"short.nam";
+    record.SizeText = L"1,234 b ";
+    record.DateText = L"2026/01/02 03:04";
+    record.AttrText = L" a   ";
+    return record;
+  }
+  static FileRecord Directory(std::wstring_view name, std::int32_t level = 0) {
+    FileRecord record = File(name);
+    record.SizeText = L"<DIR>   ";
+    record.AttrText = L"d    ";
+    record.Level = level;
+    return record;
+  }
+  /// Raises ListDirectory with `records` in the given order.
+  static void List(ListingWriter& writer, std::wstring_view path, const std::vector<FileRecord>& records,
+                   std::int32_t level = 0) {
+    std::vector<std::uint32_t> order(records.size());
+    for (std::uint32_t i = 0; i < order.size(); ++i) {
+      order[i] = i;
+    }
+    writer.ListDirectory({path, level, records, order, L"the summary"});
+  }
+
+  Messages Texts = TestTexts();
+  GeneralSettings General;
+  PrinterSettings Printer;
+  FilterSettings Filter;
+  ListingFormat Format;
+  ScanTree Tree;
+  folivant::OutputKind OutputKind = folivant::OutputKind::Text;
+  std::wstring OutputFile = L"C:\\Out\\list";
+  std::wstring DatePattern = L"yyyy/mm/dd";
+  std::int16_t PageNumber = 0;
+  ListingRun Run{Texts, General, Printer, Filter, Format, Tree, OutputKind, OutputFile, DatePattern, PageNumber};
+};
+
+}  // namespace folivant
