@@ -207,6 +207,17 @@ enum class Text : int {
   HeaderFooterFont = 288,
   HeaderLabel = 289,
   FooterLabel = 290,
+
+  // Printer
+  QualityDraft = 291,
+  QualityLow = 292,
+  QualityMedium = 293,
+  QualityHigh = 294,
+  BinUpper = 295,
+  BinLower = 296,
+  BinMiddle = 297,
+  BinManual = 298,
+  PrinterLabel = 299,  ///< before the list of printers
 };
 
 }  // namespace folivant
