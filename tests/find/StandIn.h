@@ -1,11 +1,11 @@
 // Starts and ends the stand-in for a Find window, for tests that read real windows of another process.
 #pragma once
 
-#include <windows.h>
-
 #include <filesystem>
 #include <string>
 #include <vector>
+
+#include "platform/win32/Win32.h"
 
 namespace folivant::tests {
 
