@@ -36,16 +36,20 @@ float frmBase::SingleOf(int control) const {
   return *number;
 }
 
-void frmBase::ReadField(int control, std::int16_t& value) const {
+std::int16_t frmBase::ShortNumberOf(int control) const {
   const std::int32_t number = WholeNumberOf(control);
   if (number < std::numeric_limits<std::int16_t>::min() || number > std::numeric_limits<std::int16_t>::max()) {
     throw FieldError(control);
   }
-  value = static_cast<std::int16_t>(number);
+  return static_cast<std::int16_t>(number);
 }
 
 void frmBase::SetCaption(int control, Text caption) {
   SetText(Has(LABEL_OF(control)) ? LABEL_OF(control) : control, mdlVars::Texts[caption]);
+}
+
+std::wstring frmBase::FieldNameOf(int control) const {
+  return FieldName(TextOf(Has(LABEL_OF(control)) ? LABEL_OF(control) : control));
 }
 
 void frmBase::ShowHelp() {
@@ -60,8 +64,7 @@ void frmBase::ShowProblem(const std::exception& problem) noexcept {
   try {
     if (const auto* field = dynamic_cast<const FieldError*>(&problem)) {
       const int control = field->Control();
-      const int named = Has(LABEL_OF(control)) ? LABEL_OF(control) : control;
-      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::NotANumber], FieldName(TextOf(named))),
+      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::NotANumber], FieldNameOf(control)),
                             platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
       ShowField(control);
       SetFocusTo(control);

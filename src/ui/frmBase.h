@@ -65,8 +65,11 @@ class frmBase : public platform::Dialog {
 
   /// The number typed into `control`. Throws FieldError.
   std::int32_t WholeNumberOf(int control) const;
+  std::int16_t ShortNumberOf(int control) const;
   float SingleOf(int control) const;
   void SetCaption(int control, Text caption);
+  /// How a message calls the field.
+  virtual std::wstring FieldNameOf(int control) const;
   /// Brings a field into view before it gets the focus; for windows with pages.
   virtual void ShowField(int) {}
 
@@ -82,7 +85,7 @@ class frmBase : public platform::Dialog {
   void ReadField(int control, bool& value) const { value = Checked(control); }
   void ReadField(int control, std::wstring& value) const { value = TextOf(control); }
   void ReadField(int control, std::int32_t& value) const { value = WholeNumberOf(control); }
-  void ReadField(int control, std::int16_t& value) const;
+  void ReadField(int control, std::int16_t& value) const { value = ShortNumberOf(control); }
   void ReadField(int control, float& value) const { value = SingleOf(control); }
 };
 

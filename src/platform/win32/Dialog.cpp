@@ -346,10 +346,19 @@ HWND Dialog::AddPage(int resource) {
 }
 
 void Dialog::FitToTexts() {
-  const SIZE grown = FitChildren(window_);
+  GrowWindow(FitChildren(window_));
+}
+
+void Dialog::Grow(int control, SIZE by) {
+  GrowChild(window_, Item(control), by);
+  GrowWindow(by);
+}
+
+void Dialog::GrowWindow(SIZE by) {
   RECT frame{};
   GetWindowRect(window_, &frame);
-  Resize(frame.right - frame.left + grown.cx, frame.bottom - frame.top + grown.cy);
+  SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left + by.cx, frame.bottom - frame.top + by.cy,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 SIZE Dialog::FitPageToTexts(HWND page) {
@@ -378,10 +387,6 @@ void Dialog::Centre() {
   SetWindowPos(window_, nullptr, static_cast<int>(std::max(work.left, std::min(x, work.right - width))),
                static_cast<int>(std::max(work.top, std::min(y, work.bottom - height))), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void Dialog::Resize(int width, int height) {
-  SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

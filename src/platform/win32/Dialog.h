@@ -92,9 +92,10 @@ class Dialog {
   void FitToTexts();
   /// The same for one page; returns its size in dots.
   SIZE FitPageToTexts(HWND page);
+  /// Makes a control larger by so many dots, and moves or widens everything around it.
+  void Grow(int control, SIZE by);
   /// Moves the window into the middle of its owner, or of the screen without one.
   void Centre();
-  void Resize(int width, int height);
 
  private:
   class Page;
@@ -104,6 +105,7 @@ class Dialog {
   void Load();
   void Remove();
   bool Notify(int control, int code, HWND sender);
+  void GrowWindow(SIZE by);
   void ShowPicture(int control, Picture& picture);
 
   int resource_;

@@ -53,6 +53,13 @@ Kind KindOfButton(LONG_PTR style) {
   }
 }
 
+/// A check box or option button that is hardly wider than its mark; its text is for screen readers.
+bool IsBare(HWND control) {
+  RECT box{};
+  GetClientRect(control, &box);
+  return box.right < MulDiv(kCheckPadding, DpiOf(control), 96);
+}
+
 Kind KindOfLabel(HWND control, LONG_PTR style) {
   const LONG_PTR type = style & SS_TYPEMASK;
   const bool isText = type == SS_LEFT || type == SS_CENTER || type == SS_RIGHT || type == SS_LEFTNOWORDWRAP;
@@ -66,7 +73,8 @@ Kind KindOf(HWND control) {
   const std::wstring name = ClassOf(control);
   const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
   if (name == L"Button") {
-    return KindOfButton(style);
+    const Kind kind = KindOfButton(style);
+    return kind == Kind::CheckOrOption && IsBare(control) ? Kind::Other : kind;
   }
   if (name == L"Static") {
     return KindOfLabel(control, style);
@@ -112,13 +120,57 @@ bool KeepsItsWidth(const Placed& placed) {
   return type == SS_BITMAP || type == SS_ICON;
 }
 
-void InsertRoom(std::vector<Placed>& children, LONG at, LONG room) {
+LONG WidthOf(const RECT& box) {
+  return box.right - box.left;
+}
+
+// Buttons of a row that stand no further apart than this belong together, in dots at 96 per inch.
+constexpr int kButtonGap = 16;
+
+/// Moves a button, and with it the neighbours to its left that stand close to it in the same row.
+void MoveButtonRow(std::vector<Placed>& children, Placed last, LONG room) {
+  const LONG gap = MulDiv(kButtonGap, DpiOf(last.Control), 96);
+  LONG edge = last.Box.right;
+  for (bool found = true; found;) {
+    found = false;
+    for (Placed& child : children) {
+      const bool joins = child.Box.right <= edge && child.Box.right >= edge - gap;
+      if (child.Which == Kind::PushButton && child.Box.top == last.Box.top && joins && WidthOf(child.Box) > 0) {
+        edge = child.Box.left;
+        OffsetRect(&child.Box, room, 0);
+        found = true;
+        break;
+      }
+    }
+  }
+}
+
+/// Widens by `room` at the column `at`: what lies to its right moves, what spans it grows. Only a button that needs the
+/// room makes other buttons grow; otherwise they keep their size and their place at the right edge.
+void InsertColumns(std::vector<Placed>& children, LONG at, LONG room, bool forButton) {
   for (Placed& child : children) {
     if (child.Box.left >= at) {
-      child.Box.left += room;
+      OffsetRect(&child.Box, room, 0);
+    } else if (child.Box.right >= at && !KeepsItsWidth(child) && (forButton || child.Which != Kind::PushButton)) {
       child.Box.right += room;
-    } else if (child.Box.right >= at && !KeepsItsWidth(child)) {
-      child.Box.right += room;
+    }
+  }
+  const auto isLast = [&](const Placed& child) {
+    return !forButton && child.Which == Kind::PushButton && child.Box.left < at && child.Box.right >= at;
+  };
+  for (auto last = std::find_if(children.begin(), children.end(), isLast); last != children.end();
+       last = std::find_if(last + 1, children.end(), isLast)) {
+    const Placed button = *last;
+    MoveButtonRow(children, button, room);
+  }
+}
+
+void InsertRows(std::vector<Placed>& children, LONG at, LONG room) {
+  for (Placed& child : children) {
+    if (child.Box.top >= at) {
+      OffsetRect(&child.Box, 0, room);
+    } else if (child.Box.bottom >= at && child.Which == Kind::Other && !KeepsItsWidth(child)) {
+      child.Box.bottom += room;
     }
   }
 }
@@ -131,6 +183,13 @@ LONG HeightToSet(const Placed& placed) {
   RECT dropped{};
   SendMessageW(placed.Control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
   return dropped.bottom - dropped.top;
+}
+
+void Apply(const std::vector<Placed>& children) {
+  for (const Placed& child : children) {
+    SetWindowPos(child.Control, nullptr, child.Box.left, child.Box.top, WidthOf(child.Box), HeightToSet(child),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  }
 }
 
 }  // namespace
@@ -171,17 +230,24 @@ SIZE FitChildren(HWND parent) {
   for (std::size_t i = 0; i < children.size(); ++i) {
     const LONG missing = NeededWidth(children[i].Control) - (children[i].Box.right - children[i].Box.left);
     if (missing > 0) {
-      InsertRoom(children, children[i].Box.right, missing);
+      InsertColumns(children, children[i].Box.right, missing, children[i].Which == Kind::PushButton);
       grown += missing;
     }
   }
   if (grown > 0) {
-    for (const Placed& child : children) {
-      SetWindowPos(child.Control, nullptr, child.Box.left, child.Box.top, child.Box.right - child.Box.left,
-                   HeightToSet(child), SWP_NOZORDER | SWP_NOACTIVATE);
-    }
+    Apply(children);
   }
   return {grown, 0};
+}
+
+void GrowChild(HWND parent, HWND child, SIZE by) {
+  std::vector<Placed> children = ChildrenOf(parent);
+  const auto grown =
+      std::find_if(children.begin(), children.end(), [&](const Placed& each) { return each.Control == child; });
+  const RECT box = grown->Box;
+  InsertColumns(children, box.right, by.cx, false);
+  InsertRows(children, box.bottom, by.cy);
+  Apply(children);
 }
 
 }  // namespace folivant::platform

@@ -19,4 +19,7 @@ int NeededWidth(HWND control);
 /// grow; the parent itself is not touched.
 SIZE FitChildren(HWND parent);
 
+/// Makes one child larger and moves or grows its siblings likewise.
+void GrowChild(HWND parent, HWND child, SIZE by);
+
 }  // namespace folivant::platform

@@ -1,0 +1,168 @@
+#include "scan/frmFilter.h"
+
+#include "app/Settings.h"
+#include "app/mdlVars.h"
+#include "scan/FilterChoices.h"
+#include "ui/frmBase.h"
+
+namespace folivant {
+namespace {
+
+constexpr Binding<FilterSettings> kBindings[] = {
+    {chkName, Text::FilterByName, &FilterSettings::NameOn},
+    {chkSize, Text::FilterBySize, &FilterSettings::SizeOn},
+    {chkDate, Text::FilterByDate, &FilterSettings::DateOn},
+    {chkAttr, Text::FilterByAttributes, &FilterSettings::AttrOn},
+    {txtName, Binding<FilterSettings>::kNoCaption, &FilterSettings::FilterName},
+    {txtSize, Binding<FilterSettings>::kNoCaption, &FilterSettings::FilterSize},
+    {lblKb, Text::Kilobytes},
+    {DTPickMin, Text::Between},
+    {DTPickMax, Text::And},
+    {lblYes, Text::MustHave},
+    {lblAny, Text::DoNotCare},
+    {lblNo, Text::MustNotHave},
+    {lblAttr + kAttrArchive, Text::AttributeArchive},
+    {lblAttr + kAttrReadOnly, Text::AttributeReadOnly},
+    {lblAttr + kAttrHidden, Text::AttributeHidden},
+    {lblAttr + kAttrSystem, Text::AttributeSystem},
+    {lblAttr + kAttrDirectory, Text::AttributeDirectory},
+    {fraOrder, Text::OrderByLabel},
+    {optName, Text::OrderName},
+    {optExt, Text::OrderExtension},
+    {optDOS, Text::OrderDosName},
+    {optSize, Text::OrderSize},
+    {optDate, Text::OrderDate},
+    {optAZ, Text::Ascending},
+    {optZA, Text::Descending},
+    {cmdOK, Text::Ok},
+    {cmdCancel, Text::Cancel},
+    {cmdHelp, Text::Help},
+};
+
+constexpr int kAttributes = 5;
+constexpr int kAtLeast = 0;  // position in cmbSize
+
+/// By code, from 0: the order in which AttributeChoice counts.
+constexpr int kAttributeButtons[] = {chkN, chkY, chkX};
+/// By code, from 0; no button for no order.
+constexpr int kOrderButtons[] = {0, optName, optDOS, optSize, optDate, optExt};
+
+class frmFilter final : public frmBase {
+ public:
+  frmFilter() : frmBase(dlgFilter) {}
+
+ private:
+  template <class Settings>
+  static auto& ChoiceAt(Settings& filter, int attribute) {
+    return filter.Attributes[static_cast<std::size_t>(attribute)];
+  }
+
+  void Form_Load() override {
+    SetWindowTextW(Window(), mdlVars::Texts[Text::FilterTitle].c_str());
+    SetCaptions<FilterSettings>(kBindings);
+    AddItem(cmbSize, mdlVars::Texts[Text::AtLeast]);
+    AddItem(cmbSize, mdlVars::Texts[Text::AtMost]);
+    NameAttributeButtons();
+
+    const FilterSettings& filter = mdlVars::Filter;
+    Fill<FilterSettings>(kBindings, filter);
+    Send(cmbSize, CB_SETCURSEL, filter.SizeMin ? kAtLeast : kAtLeast + 1);
+    SetDate(DTPickMin, filter.DateMin);
+    SetDate(DTPickMax, filter.DateMax);
+    for (int i = 0; i < kAttributes; ++i) {
+      Choose({chkY + i, chkX + i, chkN + i}, kAttributeButtons[static_cast<std::size_t>(ChoiceAt(filter, i))] + i);
+    }
+    Choose({optName, optExt, optDOS, optSize, optDate}, kOrderButtons[static_cast<std::size_t>(filter.OrderBy)]);
+    Choose({optAZ, optZA}, filter.OrderAZ ? optAZ : optZA);
+    EnableParts();
+
+    for (const int part : {chkName, chkSize, chkDate, chkAttr}) {
+      OnClick(part, [this] { EnableParts(); });
+    }
+    OnClick(cmdOK, [this] { cmdOK_Click(); });
+    OnClick(cmdHelp, [this] { ShowHelp(); });
+  }
+
+  /// Each part follows its check box.
+  void EnableParts() {
+    Enable(txtName, Checked(chkName));
+    for (const int control : {cmbSize, txtSize, lblKb}) {
+      Enable(control, Checked(chkSize));
+    }
+    for (const int control : {LABEL_OF(DTPickMin), DTPickMin, LABEL_OF(DTPickMax), DTPickMax}) {
+      Enable(control, Checked(chkDate));
+    }
+    for (const int control : {lblYes, lblAny, lblNo}) {
+      Enable(control, Checked(chkAttr));
+    }
+    for (int i = 0; i < kAttributes; ++i) {
+      for (const int control : {lblAttr, chkY, chkX, chkN}) {
+        Enable(control + i, Checked(chkAttr));
+      }
+    }
+  }
+
+  /// The buttons stand bare in their columns; their texts are for screen readers.
+  void NameAttributeButtons() {
+    for (int i = 0; i < kAttributes; ++i) {
+      for (const auto& [button, head] : {std::pair(chkY, lblYes), std::pair(chkX, lblAny), std::pair(chkN, lblNo)}) {
+        SetText(button + i, TextOf(lblAttr + i) + L": " + TextOf(head));
+      }
+    }
+  }
+
+  void cmdOK_Click() {
+    FilterSettings filter = mdlVars::Filter;
+    Read<FilterSettings>(kBindings, filter);
+    filter.SizeMin = Send(cmbSize, CB_GETCURSEL) == kAtLeast;
+    filter.DateMin = DateOf(DTPickMin);
+    filter.DateMax = DateOf(DTPickMax);
+    for (int i = 0; i < kAttributes; ++i) {
+      ChoiceAt(filter, i) = AttributeChoiceOf(Checked(chkN + i), Checked(chkY + i), Checked(chkX + i));
+    }
+    filter.OrderBy = OrderByOf({.Name = Checked(optName),
+                                .DosName = Checked(optDOS),
+                                .Size = Checked(optSize),
+                                .Date = Checked(optDate),
+                                .Extension = Checked(optExt)});
+    filter.OrderAZ = Checked(optAZ);
+    mdlVars::Filter = filter;
+    SaveFilterSettings();
+    Close(IDOK);
+  }
+
+  void SetDate(int picker, DateValue date) {
+    const platform::CalendarTime time = ToCalendarTime(date);
+    SYSTEMTIME shown{};
+    shown.wYear = static_cast<WORD>(time.Year);
+    shown.wMonth = static_cast<WORD>(time.Month);
+    shown.wDay = static_cast<WORD>(time.Day);
+    shown.wHour = static_cast<WORD>(time.Hour);
+    shown.wMinute = static_cast<WORD>(time.Minute);
+    shown.wSecond = static_cast<WORD>(time.Second);
+    Send(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&shown));
+  }
+
+  DateValue DateOf(int picker) const {
+    SYSTEMTIME shown{};
+    Send(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&shown));
+    return ToDateValue({shown.wYear, shown.wMonth, shown.wDay, shown.wHour, shown.wMinute, shown.wSecond});
+  }
+
+  std::wstring FieldNameOf(int control) const override {
+    return control == txtSize ? FieldName(TextOf(chkSize)) : frmBase::FieldNameOf(control);
+  }
+  /// A size that does not convert is asked for again, also when its part was switched off.
+  void ShowField(int) override {
+    SetChecked(chkSize, true);
+    EnableParts();
+  }
+};
+
+}  // namespace
+
+bool ShowFilterDialog(platform::Dialog& owner) {
+  return frmFilter().ShowModal(owner.Window()) == IDOK;
+}
+
+}  // namespace folivant
