@@ -36,14 +36,17 @@ def texts(language):
 
 
 def windows():
-    """Lists of message names that stand in one window or on one page of it."""
-    for source in sorted(ROOT.glob('src/**/frm*.cpp')):
-        code = source.read_text()
-        common = ['Help'] if 'Text::Help' in code else []
-        for table in re.findall(r'Binding<[^>]*> \w+\[\] = \{(.*?)\n\};', code, re.S):
-            names = re.findall(r'Text::(\w+)', table)
-            if names:
-                yield f'{source.stem}', sorted(set(names + common))
+    """Each window, and each page together with the dialog around it: the names of the texts that stand in it."""
+    for script in sorted((ROOT / 'src/res').glob('frm*.rc')):
+        code = ''.join(source.read_text() for source in ROOT.glob(f'src/*/{script.stem}.cpp'))
+        captions = dict(re.findall(r'\{([\w +]+), Text::(\w+)', code))
+        dialogs = {}
+        for name, body in re.findall(r'^(\w+) DIALOGEX(.*?)^END', script.read_text(), re.M | re.S):
+            dialogs[name] = [text for control, text in captions.items()
+                             if re.search(rf'\b{re.escape(control)}\b(?! \+)', body)]
+        around = [text for name, texts in dialogs.items() if 'Page' not in name for text in texts]
+        for name, found in dialogs.items():
+            yield name, sorted(set(found + (around if 'Page' in name else [])))
 
 
 def mnemonic(text):
@@ -84,7 +87,7 @@ def main():
     found = [c for language in LANGUAGES for c in complaints(language, used, english)]
     tables = list(windows())
     print('\n'.join(found) or f'{len(LANGUAGES)} languages, {len(used)} texts, {len(tables)} windows and pages.')
-    return 1 if found or len(tables) < 8 else 0
+    return 1 if found or len(tables) < 12 or not all(names for _, names in tables) else 0
 
 
 sys.exit(main())
