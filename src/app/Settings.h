@@ -4,12 +4,23 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace folivant {
 
+/// A stored value that does not convert.
+struct BadSetting {
+  std::wstring Place;  ///< the filter file, or the store's name
+  std::wstring Key;
+  std::wstring Value;
+};
+
 /// Everything, in the order general, printer, filter, style, columns, path, destination. A value that does not convert
-/// is reported once each in a message box and takes its default; nothing is overwritten by reading.
-void LoadSettings();
+/// is returned and takes its default; nothing is overwritten by reading. Shows no message: the texts of messages
+/// depend on a setting. Throws RuntimeError (ReadFile).
+[[nodiscard]] std::vector<BadSetting> LoadSettings();
+/// One message box for each.
+void ReportBadSettings(const std::vector<BadSetting>& bad);
 /// Everything, in the same order; Ex rows only into a filter file. Throws RuntimeError (WriteSetting, WriteFile).
 void SaveSettings();
 
@@ -21,7 +32,8 @@ void SaveFilterSettings();
 void SaveListingStyle();
 void SaveFormatSettings();
 
-/// LoadSettings and SaveSettings with the filter file named `path` in place of the store.
+/// LoadSettings with its report, and SaveSettings, with the filter file named `path` in place of the store. A file that
+/// is not there gives the defaults. Saving replaces the file in one step and keeps what else it holds.
 void LoadFilterFile(const std::wstring& path);
 void SaveFilterFile(const std::wstring& path);
 

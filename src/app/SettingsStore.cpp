@@ -1,0 +1,51 @@
+#include "app/SettingsStore.h"
+
+#include "platform/Store.h"
+
+namespace folivant {
+namespace {
+
+constexpr wchar_t kFilterFileSection[] = L"Folivant 3.5";
+constexpr std::size_t kLongestFileValue = 259;
+
+}  // namespace
+
+SettingsStore::SettingsStore(const std::wstring& filterFile) : file_(filterFile) {}
+
+std::wstring SettingsStore::GetSettingEx(const std::wstring& section, const std::wstring& key,
+                                         const std::wstring& preset) const {
+  return file_ ? file_->Read(kFilterFileSection, key, preset, kLongestFileValue)
+               : GetStoreSetting(section, key, preset);
+}
+
+void SettingsStore::SaveSettingEx(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+  if (file_) {
+    file_->Write(kFilterFileSection, key, value);
+  } else {
+    SaveStoreSetting(section, key, value);
+  }
+}
+
+std::wstring SettingsStore::GetStoreSetting(const std::wstring& section, const std::wstring& key,
+                                            const std::wstring& preset) const {
+  return file_ ? std::wstring() : platform::ReadStore(section, key).value_or(preset);
+}
+
+void SettingsStore::SaveStoreSetting(const std::wstring& section, const std::wstring& key,
+                                     const std::wstring& value) const {
+  if (!file_) {
+    platform::WriteStore(section, key, value);
+  }
+}
+
+void SettingsStore::Save() const {
+  if (file_) {
+    file_->Save();
+  }
+}
+
+std::wstring SettingsStore::PlaceOf(const std::wstring& section) const {
+  return file_ ? file_->Path() : platform::StoreName(section);
+}
+
+}  // namespace folivant

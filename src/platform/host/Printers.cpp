@@ -1,0 +1,13 @@
+#include "platform/Printers.h"
+
+namespace folivant::platform {
+
+std::vector<std::wstring> PrinterNames() {
+  return {};
+}
+
+std::optional<std::wstring> DefaultPrinterName() {
+  return std::nullopt;
+}
+
+}  // namespace folivant::platform
