@@ -1,0 +1,54 @@
+#include "ui/ErrorText.h"
+
+#include "platform/MessageBox.h"
+#include "ui/Language.h"
+
+namespace folivant {
+namespace {
+
+Text TextOf(FailedAction action) {
+  switch (action) {
+    case FailedAction::CreateFile:
+      return Text::CannotCreateFile;
+    case FailedAction::ReadFile:
+      return Text::CannotReadFile;
+    case FailedAction::WriteFile:
+      return Text::CannotWriteFile;
+    case FailedAction::DeleteFile:
+      return Text::CannotDeleteFile;
+    case FailedAction::ReadSetting:
+      return Text::BadSetting;
+    case FailedAction::WriteSetting:
+      return Text::CannotWriteSetting;
+    case FailedAction::Print:
+      return Text::CannotPrint;
+    case FailedAction::StartProgram:
+      return Text::CannotStartProgram;
+    case FailedAction::ReadWindow:
+      break;
+  }
+  return Text::CannotReadWindow;
+}
+
+/// The system's words come with a line break at their end.
+std::wstring WithoutEnd(std::wstring text, const wchar_t* end) {
+  text.resize(text.find_last_not_of(end) + 1);
+  return text;
+}
+
+}  // namespace
+
+std::wstring ErrorText(const RuntimeError& error, const Messages& texts) {
+  std::wstring sentence = texts[TextOf(error.Action())];
+  if (error.SystemText().empty() && error.SystemCode() == 0) {  // nothing to say but what could not be done
+    sentence = WithoutEnd(sentence.substr(0, sentence.find(L"%2")), L" :,(") + L'.';
+  }
+  return WithPlaceholders(sentence, error.Object(), WithoutEnd(error.SystemText(), L" \r\n"),
+                          std::to_wstring(error.SystemCode()));
+}
+
+void ShowError(const RuntimeError& error, const Messages& texts) {
+  platform::ShowMessage(ErrorText(error, texts), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+}
+
+}  // namespace folivant

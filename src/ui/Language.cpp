@@ -1,0 +1,93 @@
+#include "ui/Language.h"
+
+#include "app/ProfileFile.h"
+#include "app/mdlFileRoutines.h"
+#include "platform/Files.h"
+
+namespace folivant {
+namespace {
+
+constexpr wchar_t kSection[] = L"Messages";
+constexpr wchar_t kEnglish[] = L"english.ini";
+constexpr wchar_t kMissing[] = L"**";
+constexpr wchar_t kDefaultHelp[] = L"folvnt40.hlp";
+constexpr std::size_t kLongestText = 299;
+constexpr std::size_t kLongestName = 99;
+
+std::wstring RawText(const ProfileFile& file, const std::wstring& key) {
+  return StripNulls(file.Read(kSection, key, kMissing, kLongestText));
+}
+
+std::wstring TextOf(const ProfileFile& language, const ProfileFile& english, std::size_t number) {
+  const std::wstring key = std::to_wstring(number);
+  std::wstring text = RawText(language, key);
+  if (text == kMissing) {
+    text = RawText(english, key);
+  }
+  return text == kMissing ? kMissing + key + kMissing : ReplaceAll(text, L"\\n", L"\r\n");
+}
+
+std::wstring HelpFileOf(const std::wstring& folder, const std::wstring& language) {
+  const std::wstring own = folder + language.substr(0, language.find(L'.')) + L".hlp";
+  return platform::PathExists(own) ? own : folder + kDefaultHelp;
+}
+
+/// The leading digits; 0 where there are none.
+std::int32_t LeadingNumber(const std::wstring& text) {
+  std::int32_t number = 0;
+  for (const wchar_t c : text) {
+    if (c < L'0' || c > L'9' || number > 99'999) {
+      break;
+    }
+    number = number * 10 + (c - L'0');
+  }
+  return number;
+}
+
+}  // namespace
+
+std::wstring LoadLanguage(const std::wstring& programFolder, std::wstring& language, Messages& texts) {
+  const std::wstring folder = AddBackslash(programFolder);
+  if (language.empty() || !platform::PathExists(folder + language)) {
+    language = kEnglish;
+  }
+  const ProfileFile english(folder + kEnglish);
+  const bool isEnglish = language == kEnglish;
+  const ProfileFile other(isEnglish ? std::wstring() : folder + language);
+  const ProfileFile& chosen = isEnglish ? english : other;
+  for (std::size_t number = 0; number < Messages::kCount; ++number) {
+    texts.Set(number, TextOf(chosen, english, number));
+  }
+  return HelpFileOf(folder, language);
+}
+
+std::vector<LanguageEntry> ListLanguages(const std::wstring& programFolder) {
+  constexpr wchar_t kNoLanguage[] = L"(error)";
+  std::vector<LanguageEntry> languages;
+  for (const std::wstring& name : platform::FindNames(programFolder, L"*.ini")) {
+    const ProfileFile file(AddBackslash(programFolder) + name);
+    const std::wstring language = StripNulls(file.Read(kSection, L"Language", kNoLanguage, kLongestName));
+    if (language != kNoLanguage) {
+      languages.push_back(
+          {name, language, LeadingNumber(StripNulls(file.Read(kSection, L"Flag", L"0", kLongestName)))});
+    }
+  }
+  return languages;
+}
+
+std::wstring WithPlaceholders(std::wstring text, const std::wstring& one, const std::wstring& two,
+                              const std::wstring& three) {
+  const std::wstring* const values[] = {&one, &two, &three};
+  for (std::size_t at = text.find(L'%'); at < text.size() - 1; at = text.find(L'%', at)) {
+    const std::size_t value = static_cast<std::size_t>(text[at + 1] - L'1');
+    if (value >= std::size(values)) {
+      ++at;
+      continue;
+    }
+    text.replace(at, 2, *values[value]);
+    at += values[value]->size();
+  }
+  return text;
+}
+
+}  // namespace folivant
