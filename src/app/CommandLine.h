@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+
+#include "output/OutputKind.h"
 
 namespace folivant {
 
@@ -11,5 +14,23 @@ std::wstring StripQuotes(const std::wstring& text);
 /// The argument of the switch at the one-based `position`: everything after its two characters up to the next "/",
 /// unquoted.
 std::wstring GetSwitchArgument(const std::wstring& line, std::int32_t position);
+
+/// Switches are small letters, found by their first occurrence anywhere in the line, in any order. An argument cannot
+/// hold a "/".
+struct CommandLine {
+  bool HasSwitches = false;                ///< the line holds a "/"; otherwise it is one path, or empty
+  std::wstring Path;                       ///< the whole line without its quotes; only without switches
+  std::optional<std::wstring> FilterFile;  ///< "/f"
+  std::optional<std::wstring> Directory;   ///< "/d"
+  std::optional<wchar_t> OutputLetter;     ///< "/t": the third character after the slash, 0 where the line ends before
+  std::optional<std::wstring> OutputFile;  ///< "/o"
+  bool Go = false;                         ///< "/g"
+};
+CommandLine ReadCommandLine(const std::wstring& line);
+
+/// The output kind of a "/t" letter; nothing for an unknown one.
+std::optional<OutputKind> OutputKindOf(wchar_t letter);
+/// `fileName` with ".html" (HTML) or ".txt" (all others, CSV and XML too, on purpose) where it holds no dot anywhere.
+std::wstring WithSwitchExtension(const std::wstring& fileName, OutputKind kind);
 
 }  // namespace folivant

@@ -1,0 +1,163 @@
+#include "app/StartUp.h"
+
+#include <optional>
+#include <vector>
+
+#include "app/CommandLine.h"
+#include "app/MainWindow.h"
+#include "app/SendTo.h"
+#include "app/Settings.h"
+#include "app/mdlFileRoutines.h"
+#include "app/mdlVars.h"
+#include "output/mdlPrint.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "platform/Printers.h"
+#include "scan/Progress.h"
+#include "scan/mdlScan.h"
+#include "ui/ErrorText.h"
+#include "ui/Language.h"
+
+namespace folivant {
+namespace {
+
+void ShowWarning(const std::wstring& text) {
+  platform::ShowMessage(text, platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+}
+
+/// What the line has wrong ends the program; nothing is saved.
+ExitStatus CommandLineError(const std::wstring& detail) {
+  const Messages& texts = mdlVars::Texts;
+  ShowWarning(texts[Text::CommandLineProblem] + L"\r\n" + detail + L"\r\n\r\n" + texts[Text::CommandLineHint]);
+  return kExitFailed;
+}
+
+void SetCurrentDirectoryAgain() {
+  SetStartPath(std::wstring(mdlVars::Tree.StartPath));
+}
+
+/// What Send To gives: a directory to list, or a file whose lines are the paths to list.
+void ApplyPath(const std::wstring& path) {
+  if (!path.empty() && platform::PathExists(path) && !platform::IsDirectory(path)) {
+    mdlVars::Format.ListingStyle = ListingStyle::PathListFile;
+    mdlVars::Tree.StartPath = path;
+    mdlVars::Tree.StartPathOnDisk = path;
+  } else if (path.empty() || !SetStartPath(path)) {
+    SetCurrentDirectoryAgain();
+  }
+}
+
+/// A status when the line ends the program.
+using Ending = std::optional<ExitStatus>;
+
+Ending ApplyFilterFile(const CommandLine& command) {
+  if (!command.FilterFile) {
+    return CommandLineError(L"No filter file specified.");
+  }
+  const std::wstring path = command.FilterFile->empty() ? std::wstring() : platform::AbsolutePath(*command.FilterFile);
+  if (path.empty() || !FileExists(path)) {
+    return CommandLineError(L"Filter file not found.");
+  }
+  LoadFilterFile(path);
+  return std::nullopt;
+}
+
+Ending ApplyOutputLetter(std::optional<wchar_t> letter) {
+  if (!letter) {
+    if (mdlVars::OutputTo == OutputTarget::Printer) {
+      mdlVars::OutputKind = OutputKind::Printer;
+    }
+    return std::nullopt;
+  }
+  const std::optional<OutputKind> kind = OutputKindOf(*letter);
+  if (!kind) {
+    return CommandLineError(mdlVars::Texts[Text::UnknownOutputType]);
+  }
+  mdlVars::OutputKind = *kind;
+  mdlVars::OutputTo = *kind == OutputKind::Printer ? OutputTarget::Printer : OutputTarget::File;
+  return std::nullopt;
+}
+
+bool HasDestination() {
+  if (mdlVars::OutputKind != OutputKind::Printer) {
+    return !mdlVars::OutputFile.empty() || AskForOutputFile();
+  }
+  ResolvePrinterName();
+  if (platform::PrinterNames().empty()) {
+    ShowWarning(mdlVars::Texts[Text::NoPrinter]);
+    return false;
+  }
+  return true;
+}
+
+/// The run of "/g": no window, no viewer, and the stored settings stay as they are.
+ExitStatus RunAtOnce() {
+  if (!HasDestination()) {
+    return kExitFailed;
+  }
+  OutputDriver output(mdlVars::Run());
+  NoProgress progress;
+  RunListing(output, progress);
+  if (mdlVars::Tree.Cancelled) {
+    return kExitFailed;
+  }
+  return mdlVars::Tree.Unreadable ? kExitUnreadable : kExitDone;
+}
+
+/// The switches in their fixed order, whatever their order on the line.
+Ending ParseCommandLine(const std::wstring& line) {
+  const CommandLine command = ReadCommandLine(line);
+  if (!command.HasSwitches) {
+    ApplyPath(command.Path);
+    return std::nullopt;
+  }
+  if (const Ending ending = ApplyFilterFile(command)) {
+    return ending;
+  }
+  if (command.Directory) {
+    SetStartPath(*command.Directory);  // one that is not valid leaves the directory of the filter file, silently
+  }
+  if (const Ending ending = ApplyOutputLetter(command.OutputLetter)) {
+    return ending;
+  }
+  if (command.OutputFile) {
+    mdlVars::OutputFile = WithSwitchExtension(*command.OutputFile, mdlVars::OutputKind);
+  }
+  return command.Go ? Ending(RunAtOnce()) : std::nullopt;
+}
+
+/// The texts of messages depend on a setting, so bad settings are reported once the language is there.
+void LoadSettingsAndLanguage() {
+  const std::vector<BadSetting> bad = LoadSettings();
+  mdlVars::HelpFile = LoadLanguage(platform::ProgramFolder(), mdlVars::General.Language, mdlVars::Texts);
+  ReportBadSettings(bad);
+}
+
+int StartWindow() {
+  if (platform::PrinterNames().empty()) {
+    mdlVars::OutputTo = OutputTarget::File;
+  }
+  return ShowMainWindow();
+}
+
+}  // namespace
+
+int Start(const std::wstring& commandLine) {
+  if (commandLine == L"/deletesendto") {
+    DeleteSendTo();
+    return kExitDone;
+  }
+  try {
+    RecreateSendTo();
+    LoadSettingsAndLanguage();
+    if (const Ending ending = ParseCommandLine(commandLine)) {
+      return *ending;
+    }
+    return StartWindow();
+  } catch (const RuntimeError& error) {
+    ShowError(error, mdlVars::Texts);
+    return kExitFailed;
+  }
+}
+
+}  // namespace folivant

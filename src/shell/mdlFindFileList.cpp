@@ -1,0 +1,72 @@
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/mdlFileRoutines.h"
+#include "app/mdlVars.h"
+#include "output/EntryFormatting.h"
+#include "platform/Files.h"
+#include "platform/FindFiles.h"
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+#include "scan/FileDates.h"
+#include "scan/NameRules.h"
+#include "shell/PathListText.h"
+#include "shell/mdlFind.h"
+
+namespace folivant {
+namespace {
+
+FoundItem RowOf(const LongPath& path, platform::FoundEntry entry) {
+  const std::uint64_t size = (std::uint64_t{entry.Data.SizeHigh} << 32) | entry.Data.SizeLow;
+  const std::wstring pattern = mdlVars::DatePattern + L' ' + std::wstring(kTimePattern);
+  return {ProperName(GetFileName(path.Shown)), GetFolder(path.Shown), FormatSizeFixedUnits(Currency::FromWhole(size)),
+          FormatDate(FileTimeOf(entry.Data.LastWrite), pattern)};
+}
+
+bool IsFullPath(std::wstring_view line) {
+  return line.starts_with(L"\\\\") || line.substr(1, 2) == L":\\";
+}
+
+/// One row; nothing for a blank line and for one that is no full path. Throws RuntimeError (ReadFile) for a file that
+/// is not there.
+std::optional<FoundItem> ReadRow(const std::wstring& line) {
+  const LongPath path = GetLongPath(line);
+  if (path.OnDisk.empty() && !IsFullPath(line)) {
+    return std::nullopt;
+  }
+  const std::optional<platform::FoundEntry> entry = platform::FindEntry(path.OnDisk);
+  if (!entry) {
+    throw RuntimeError(FailedAction::ReadFile, line, {}, 0);
+  }
+  return RowOf(path, *entry);
+}
+
+/// All rows or none: an error leaves the list as it was.
+void ReadPathListFile(Progress& progress) {
+  const std::string bytes = platform::ReadWholeFile(platform::AbsolutePath(mdlVars::Tree.StartPath));
+  std::vector<FoundItem> rows;
+  for (const std::wstring& line : LinesOf(PathListText(bytes))) {
+    if (std::optional<FoundItem> row = ReadRow(line)) {
+      rows.push_back(*std::move(row));
+    }
+    progress.LetEventsThrough();
+    if (progress.Cancelled()) {
+      break;
+    }
+  }
+  mdlVars::Tree.FoundCount = static_cast<std::int32_t>(rows.size());
+  mdlVars::Tree.FoundList = std::move(rows);
+}
+
+}  // namespace
+
+void PrintFromFileList(ListingWriter& output, Progress& progress) {
+  ReadPathListFile(progress);
+  if (!progress.Cancelled()) {
+    output.FindList(mdlVars::Tree.FoundList);
+  }
+}
+
+}  // namespace folivant

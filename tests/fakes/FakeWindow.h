@@ -1,0 +1,22 @@
+// The printers and the main window of the fake platform: what a test says is installed, and what a start asks for.
+// Reset before each test.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace folivant::fakes {
+
+struct FakeWindow {
+  std::vector<std::wstring> Printers;                       ///< the first one is the default printer
+  int DefaultPrinterAsked = 0;                              ///< how often
+  int Shown = 0;                                            ///< how often the main window was shown
+  int ExitStatus = 0;                                       ///< what showing it returns
+  int OutputFileAsked = 0;                                  ///< how often the save dialog was shown
+  std::function<bool()> SaveDialog = [] { return false; };  ///< plays the user, who cancels unless told otherwise
+};
+
+FakeWindow& Window();
+
+}  // namespace folivant::fakes
