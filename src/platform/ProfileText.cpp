@@ -103,6 +103,11 @@ void ProfileText::Write(const std::wstring& section, const std::wstring& key, st
   }
   std::size_t end = sectionLine->second + 1;  // after the section's last line that is not blank
   for (std::size_t i = end; i < lines_.size() && SectionName(lines_[i]).empty(); ++i) {
+    if (ToLower(TrimBlanks(lines_[i])) == ToLower(key)) {
+      lines_[i] += L'=' + value;  // the system takes the bare name for the key and would not look further
+      Index();
+      return;
+    }
     if (!TrimBlanks(lines_[i]).empty()) {
       end = i + 1;
     }

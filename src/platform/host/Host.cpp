@@ -16,42 +16,50 @@ struct Decoded {
   std::size_t Length = 1;
 };
 
-/// The length that a first byte announces and the smallest character that may be written with it.
+/// The length that a first byte announces and what it holds of the character.
 struct Lead {
   std::size_t Length = 0;
   unsigned Bits = 0;
-  unsigned Smallest = 0;
 };
 
 Lead LeadOf(unsigned byte) {
   if (byte >= 0xC2 && byte < 0xE0) {
-    return {2, byte & 0x1F, 0x80};
+    return {2, byte & 0x1F};
   }
   if (byte >= 0xE0 && byte < 0xF0) {
-    return {3, byte & 0x0F, 0x800};
+    return {3, byte & 0x0F};
   }
   if (byte >= 0xF0 && byte < 0xF5) {
-    return {4, byte & 0x07, 0x10000};
+    return {4, byte & 0x07};
   }
   return {};
 }
 
+/// A beginning that no character has: a needlessly long form or half of a surrogate pair.
+bool IsHopeless(unsigned bits, std::size_t missing) {
+  return (missing == 2 && bits < 0x10) || (missing == 1 && (bits < 0x20 || (bits >= 0x360 && bits < 0x380)));
+}
+
+/// One character, or U+FFFD with as many bytes as Wine takes for one broken sequence.
 Decoded DecodeOne(std::string_view bytes) {
   const Lead lead = LeadOf(static_cast<unsigned char>(bytes[0]));
-  if (lead.Length == 0 || bytes.size() < lead.Length) {
+  if (lead.Length == 0) {
     return {};
+  }
+  if (bytes.size() < lead.Length) {
+    return {kReplacement, bytes.size()};
   }
   unsigned character = lead.Bits;
   for (std::size_t i = 1; i < lead.Length; ++i) {
     const unsigned byte = static_cast<unsigned char>(bytes[i]);
-    if ((byte & 0xC0) != 0x80) {
-      return {};
-    }
+    const std::size_t missing = lead.Length - 1 - i;
     character = character << 6 | (byte & 0x3F);
-  }
-  const bool half = character >= 0xD800 && character <= 0xDFFF;
-  if (character < lead.Smallest || character > 0x10FFFF || half) {
-    return {};
+    if ((byte & 0xC0) != 0x80 || (missing == 1 && character > 0x10FFFF >> 6)) {
+      return {kReplacement, i};
+    }
+    if (IsHopeless(character, missing)) {
+      return {kReplacement, i + 1};
+    }
   }
   return {static_cast<wchar_t>(character), lead.Length};
 }

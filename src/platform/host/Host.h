@@ -9,7 +9,7 @@
 namespace folivant::platform {
 
 std::string ToUtf8(std::wstring_view text);
-/// Every byte that is no part of a well-formed sequence becomes U+FFFD, as Wine shows such names.
+/// Broken sequences become U+FFFD, as many as Wine shows in such names.
 std::wstring FromUtf8(std::string_view bytes);
 /// The same into a buffer of at least `bytes.size()` characters; returns how many were written.
 std::size_t FromUtf8Into(std::string_view bytes, wchar_t* out);

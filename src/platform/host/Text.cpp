@@ -134,8 +134,15 @@ void AppendAnsi(std::wstring_view text, std::string& bytes) {
     seen |= c;
     *out++ = static_cast<char>(c);
   }
-  if (seen >= 0x80) {
-    std::transform(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(start), AnsiOf);
+  if (seen < 0x80) {
+    return;
+  }
+  bytes.resize(start);
+  for (const wchar_t c : text) {
+    bytes += AnsiOf(c);
+    if (c >= kFirstSupplementary) {
+      bytes += '?';  // Windows answers each half of the pair
+    }
   }
 }
 

@@ -1,0 +1,100 @@
+#include "platform/ProfileText.h"
+
+#include <gtest/gtest.h>
+
+namespace folivant::platform {
+namespace {
+
+std::wstring Value(std::string_view bytes, const std::wstring& section, const std::wstring& key) {
+  return ProfileText(bytes).Read(section, key).value_or(L"(none)");
+}
+
+std::string Written(std::string_view bytes, const std::wstring& section, const std::wstring& key,
+                    const std::wstring& value) {
+  ProfileText text(bytes);
+  text.Write(section, key, value);
+  return text.Bytes();
+}
+
+TEST(ProfileText, IgnoresCaseOfNames) {
+  EXPECT_EQ(Value("[Messages]\r\nKey=v\r\n", L"MESSAGES", L"kEY"), L"v");
+}
+
+TEST(ProfileText, TakesTheFirstOfTwo) {
+  EXPECT_EQ(Value("[S]\nk=1\nK=2\n", L"s", L"k"), L"1");
+  EXPECT_EQ(Value("[S]\nk=1\n[T]\n[S]\nk=2\nj=3\n", L"s", L"k"), L"1");
+  EXPECT_EQ(Value("[S]\nk=1\n[T]\n[S]\nk=2\nj=3\n", L"s", L"j"), L"(none)");
+}
+
+TEST(ProfileText, DropsBlanksAndOnePairOfQuotes) {
+  EXPECT_EQ(Value("[S]\r\n \t k \t= a  b \t\r\n", L"S", L"k"), L"a  b");
+  EXPECT_EQ(Value("[S]\nk=\" a \"\n", L"S", L"k"), L" a ");
+  EXPECT_EQ(Value("[S]\nk=' a '\n", L"S", L"k"), L" a ");
+  EXPECT_EQ(Value("[S]\nk=\"\"a\"\"\n", L"S", L"k"), L"\"a\"");
+  EXPECT_EQ(Value("[S]\nk=\"a'\n", L"S", L"k"), L"\"a'");
+  EXPECT_EQ(Value("[S]\nk=\"\n", L"S", L"k"), L"\"");
+}
+
+TEST(ProfileText, SkipsCommentsAndLinesWithoutEquals) {
+  EXPECT_EQ(Value("[S]\n;k=1\n ; k=2\nk\nk=3;4\n", L"S", L"k"), L"3;4");
+  EXPECT_EQ(Value("k=0\n[S]\nx=1\n", L"S", L"k"), L"(none)");
+}
+
+TEST(ProfileText, TakesEveryKindOfLineEnd) {
+  EXPECT_EQ(Value("[S]\na=1\r\nb=2\nc=3", L"S", L"b"), L"2");
+  EXPECT_EQ(Value("[S]\na=1\r\nb=2\nc=3", L"S", L"c"), L"3");
+}
+
+TEST(ProfileText, ReadsUtf16) {
+  EXPECT_EQ(Value(std::string_view("\xFF\xFE[\0S\0]\0\n\0k\0=\0\xAC\x20", 16), L"S", L"k"), L"\u20AC");
+  EXPECT_EQ(Value("[S]\nk=\x80\n", L"S", L"k"), L"\u20AC");
+}
+
+TEST(ProfileText, FindsNothingInAnEmptyText) {
+  EXPECT_EQ(Value("", L"S", L"k"), L"(none)");
+  EXPECT_FALSE(ProfileText("k=1\n").HasSection(L"S"));
+  EXPECT_TRUE(ProfileText("[S]").HasSection(L"s"));
+}
+
+TEST(ProfileText, KeepsEveryOtherLine) {
+  const std::string before = "; head\r\n\r\n[A]\r\nx = 1\r\nstray\r\n[S]\r\nk = old ; c\r\n\r\n[B]\r\ny=2\r\n";
+  EXPECT_EQ(Written(before, L"s", L"K", L"new"),
+            "; head\r\n\r\n[A]\r\nx = 1\r\nstray\r\n[S]\r\nk =new\r\n\r\n[B]\r\ny=2\r\n");
+}
+
+TEST(ProfileText, AddsAKeyAtTheEndOfItsSection) {
+  EXPECT_EQ(Written("[S]\r\na=1\r\n\r\n[T]\r\n", L"S", L"b", L"2"), "[S]\r\na=1\r\nb=2\r\n\r\n[T]\r\n");
+}
+
+TEST(ProfileText, CompletesABareName) {
+  EXPECT_EQ(Written("[S]\r\nK\r\na=1\r\n", L"S", L"k", L"2"), "[S]\r\nK=2\r\na=1\r\n");
+}
+
+TEST(ProfileText, AddsASectionAtTheEnd) {
+  EXPECT_EQ(Written("[S]\r\na=1\r\n", L"T", L"b", L"2"), "[S]\r\na=1\r\n[T]\r\nb=2\r\n");
+  EXPECT_EQ(Written("", L"T", L"b", L"2"), "[T]\r\nb=2\r\n");
+}
+
+TEST(ProfileText, ReadsWhatItWrote) {
+  for (const wchar_t* value : {L"", L" ", L" a ", L"\"", L"\"a\"", L"'a'", L"''", L"a=b", L";a", L"[a]", L"\u00E4"}) {
+    ProfileText text;
+    text.Write(L"S", L"k", value);
+    EXPECT_EQ(ProfileText(text.Bytes()).Read(L"S", L"k"), value);
+  }
+}
+
+TEST(ProfileText, CannotBeBrokenByALineBreak) {
+  EXPECT_EQ(Written("", L"S", L"k", L"a\r\n[T]\r\nb=1"), "[S]\r\nk=a\r\n");
+}
+
+TEST(ProfileText, BecomesUtf16WhenAnsiCannotHoldIt) {
+  ProfileText text("[S]\r\na=\xE4\r\n");
+  text.Write(L"S", L"k", L"\u65E5");
+  const std::string bytes = text.Bytes();
+  EXPECT_EQ(bytes.substr(0, 4), std::string("\xFF\xFE[\0", 4));
+  EXPECT_EQ(ProfileText(bytes).Read(L"S", L"k"), L"\u65E5");
+  EXPECT_EQ(ProfileText(bytes).Read(L"S", L"a"), L"\u00E4");
+}
+
+}  // namespace
+}  // namespace folivant::platform

@@ -1,0 +1,175 @@
+// What only the Windows body shows.
+#include <gtest/gtest.h>
+
+#include "platform/Clock.h"
+#include "platform/FindFiles.h"
+#include "platform/OutputFile.h"
+#include "platform/RuntimeError.h"
+#include "platform/Scratch.h"
+#include "platform/Store.h"
+#include "platform/win32/NativePath.h"
+#include "platform/win32/Win32.h"
+
+namespace folivant::platform {
+namespace {
+
+TEST(NativePath, LeavesShortPathsAlone) {
+  for (const wchar_t* path : {L"C:\\Data", L"relative\\a.txt", L"\\\\server\\share\\a", L"C:\\a\\..\\b.txt", L"..",
+                              L".", L"C:\\", L"", L"C:\\Data\\.", L"\\\\.\\pipe\\a", L"\\\\?\\C:\\a."}) {
+    EXPECT_EQ(NativePath(path), path);
+  }
+}
+
+TEST(NativePath, LiftsTheLimitOfLongPaths) {
+  const std::wstring name(250, L'x');
+  EXPECT_EQ(NativePath(L"C:\\" + name), L"\\\\?\\C:\\" + name);
+  EXPECT_EQ(NativePath(L"\\\\server\\share\\" + name), L"\\\\?\\UNC\\server\\share\\" + name);
+  EXPECT_EQ(NativePath(L"C:\\a\\..\\b\\.\\" + name), L"\\\\?\\C:\\b\\" + name);
+  EXPECT_EQ(NativePath(L"C:/a/" + name), L"\\\\?\\C:\\a\\" + name);
+  EXPECT_EQ(NativePath(name), L"\\\\?\\" + CurrentDirectory() + (CurrentDirectory().size() > 3 ? L"\\" : L"") + name);
+}
+
+TEST(NativePath, KeepsDotsAndBlanksAtTheEndOfNames) {
+  EXPECT_EQ(NativePath(L"C:\\folder.\\a"), L"\\\\?\\C:\\folder.\\a");
+  EXPECT_EQ(NativePath(L"C:\\a "), L"\\\\?\\C:\\a ");
+}
+
+class WindowsFiles : public testing::Test {
+ protected:
+  const Scratch scratch_;
+};
+
+TEST_F(WindowsFiles, FindsNamesThatEndInADot) {
+  ASSERT_TRUE(CreateDirectoryW((L"\\\\?\\" + scratch_.Path(L"odd.")).c_str(), nullptr));
+  scratch_.MakeFolder(L"plain");
+  ASSERT_TRUE(TruncateFile(scratch_.Path(L"odd.\\inside")));
+  {
+    FindFiles files(scratch_.Path(L"odd."), ShortNames::Skip);
+    FindData data;
+    ASSERT_TRUE(files.Next(data));
+    EXPECT_EQ(data.Name, L"inside");
+  }
+  EXPECT_EQ(FindEntry(scratch_.Path(L"odd."))->Name, L"odd.");
+  EXPECT_EQ(FindEntry(scratch_.Path(L"plain."))->Name, L"plain");
+  EXPECT_TRUE(RemoveFile(scratch_.Path(L"odd.\\inside")));
+  EXPECT_TRUE(RemoveDirectoryW((L"\\\\?\\" + scratch_.Path(L"odd.")).c_str()));
+}
+
+TEST_F(WindowsFiles, ReportsTheSystemsAttributes) {
+  const std::wstring path = scratch_.MakeFile(L"a");
+  ASSERT_TRUE(SetFileAttributesW(
+      path.c_str(), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE));
+  EXPECT_EQ(FindEntry(path)->Data.Attributes, kReadOnly | kHidden | kSystem | kArchive);
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(WindowsFiles, ReadsShortNamesOnlyWhenAsked) {
+  const std::wstring path = scratch_.MakeFile(L"a name that is long.text");
+  wchar_t shortPath[MAX_PATH];
+  ASSERT_NE(GetShortPathNameW(path.c_str(), shortPath, MAX_PATH), 0U);
+  const std::wstring shortName = std::wstring(shortPath).substr(std::wstring(shortPath).rfind(L'\\') + 1);
+  FindData data;
+  FindFiles with(scratch_.Folder(), ShortNames::Read);
+  ASSERT_TRUE(with.Next(data));
+  if (shortName.size() <= 12) {  // a volume may be set up without them
+    EXPECT_EQ(data.AlternateName, shortName);
+  }
+  FindFiles without(scratch_.Folder(), ShortNames::Skip);
+  ASSERT_TRUE(without.Next(data));
+  EXPECT_EQ(data.AlternateName, L"");
+}
+
+TEST_F(WindowsFiles, OverwritesHiddenFiles) {
+  const std::wstring path = scratch_.MakeFile(L"a", "old content");
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  OutputFile file;
+  file.Open(path);
+  file.Write(L"new");
+  file.Close();
+  EXPECT_EQ(scratch_.Content(L"a"), "new");
+  EXPECT_TRUE(TruncateFile(path));
+  EXPECT_EQ(scratch_.Content(L"a"), "");
+}
+
+TEST_F(WindowsFiles, ReplacesNoFileThatIsInUse) {
+  const std::wstring path = scratch_.MakeFile(L"a", "old");
+  const HANDLE held = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  try {
+    ReplaceFile(path, "new");
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const RuntimeError& error) {
+    EXPECT_NE(error.SystemCode(), 0U);
+    EXPECT_FALSE(error.SystemText().empty());
+  }
+  CloseHandle(held);
+  EXPECT_EQ(scratch_.Content(L"a"), "old");
+  EXPECT_EQ(scratch_.Count(), 1);
+}
+
+TEST(WindowsClock, ShiftsFileTimesAsTheSystemDoes) {
+  for (const std::uint64_t utc : {126'000'000'000'000'000ULL, 133'500'000'000'000'007ULL, 900'000'000'000ULL}) {
+    const FILETIME time{static_cast<DWORD>(utc), static_cast<DWORD>(utc >> 32)};
+    FILETIME local;
+    ASSERT_TRUE(FileTimeToLocalFileTime(&time, &local));
+    EXPECT_EQ(ToLocalFileTime(utc), std::uint64_t{local.dwHighDateTime} << 32 | local.dwLowDateTime);
+  }
+}
+
+class WindowsStore : public testing::Test {
+ protected:
+  ~WindowsStore() override { RegDeleteKeyW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str()); }
+  const std::wstring section_ = L"Test " + std::to_wstring(GetCurrentProcessId());
+};
+
+TEST_F(WindowsStore, KeepsTextInTheRegistry) {
+  EXPECT_FALSE(ReadStore(section_, L"Key"));
+  WriteStore(section_, L"Key", L"value \u65E5");
+  WriteStore(section_, L"Empty", L"");
+  WriteStore(section_, L"Long", std::wstring(5000, L'x'));
+  EXPECT_EQ(ReadStore(section_, L"kEY"), L"value \u65E5");
+  EXPECT_EQ(ReadStore(section_, L"Empty"), L"");
+  EXPECT_EQ(ReadStore(section_, L"Long"), std::wstring(5000, L'x'));
+  wchar_t value[50];
+  DWORD size = sizeof value;
+  EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str(), L"Key", RRF_RT_REG_SZ,
+                         nullptr, value, &size),
+            ERROR_SUCCESS);
+  EXPECT_STREQ(value, L"value \u65E5");
+  EXPECT_EQ(StoreName(section_), L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\" + section_);
+}
+
+TEST_F(WindowsStore, ReadsTextOnly) {
+  WriteStore(section_, L"Key", L"1");
+  const DWORD number = 1;
+  ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str(), L"Number", REG_DWORD,
+                            &number, sizeof number),
+            ERROR_SUCCESS);
+  EXPECT_FALSE(ReadStore(section_, L"Number"));
+}
+
+TEST_F(WindowsStore, NamesSectionAndKeyOfAFailedWrite) {
+  const std::wstring tooLong(300, L's');  // the registry takes 255 characters
+  try {
+    WriteStore(tooLong, L"Key", L"x");
+    FAIL() << "nothing was thrown";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Action(), FailedAction::WriteSetting);
+    EXPECT_EQ(error.Object(), L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\" + tooLong + L"\\Key");
+    EXPECT_NE(error.SystemCode(), 0U);
+  }
+}
+
+TEST(WindowsShell, NamesASendToFolderThatExists) {
+  const auto folder = SendToFolder();
+  wchar_t profile[MAX_PATH] = L"";
+  GetEnvironmentVariableW(L"USERPROFILE", profile, MAX_PATH);
+  const std::wstring usual = std::wstring(profile) + L"\\AppData\\Roaming\\Microsoft\\Windows\\SendTo";
+  ASSERT_EQ(folder.has_value(), IsDirectory(usual));
+  if (folder) {
+    EXPECT_TRUE(IsDirectory(*folder));
+  }
+}
+
+}  // namespace
+}  // namespace folivant::platform
