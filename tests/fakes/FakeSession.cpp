@@ -1,4 +1,4 @@
-#include "fakes/FakeWindow.h"
+#include "fakes/FakeSession.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace folivant::fakes {
 namespace {
 
 class ResetBeforeEachTest final : public testing::EmptyTestEventListener {
-  void OnTestStart(const testing::TestInfo&) override { Window() = {}; }
+  void OnTestStart(const testing::TestInfo&) override { Session() = {}; }
 };
 
 [[maybe_unused]] const bool appended = [] {
@@ -19,9 +19,9 @@ class ResetBeforeEachTest final : public testing::EmptyTestEventListener {
 
 }  // namespace
 
-FakeWindow& Window() {
-  static FakeWindow window;
-  return window;
+FakeSession& Session() {
+  static FakeSession session;
+  return session;
 }
 
 }  // namespace folivant::fakes
@@ -29,12 +29,12 @@ FakeWindow& Window() {
 namespace folivant::platform {
 
 std::vector<std::wstring> PrinterNames() {
-  return fakes::Window().Printers;
+  return fakes::Session().Printers;
 }
 
 std::optional<std::wstring> DefaultPrinterName() {
-  ++fakes::Window().DefaultPrinterAsked;
-  const std::vector<std::wstring>& printers = fakes::Window().Printers;
+  ++fakes::Session().DefaultPrinterAsked;
+  const std::vector<std::wstring>& printers = fakes::Session().Printers;
   return printers.empty() ? std::nullopt : std::optional(printers.front());
 }
 
@@ -42,14 +42,14 @@ std::optional<std::wstring> DefaultPrinterName() {
 
 namespace folivant {
 
-int ShowMainWindow() {
-  ++fakes::Window().Shown;
-  return fakes::Window().ExitStatus;
+int ShowMainSession() {
+  ++fakes::Session().Shown;
+  return fakes::Session().ExitStatus;
 }
 
 bool AskForOutputFile() {
-  ++fakes::Window().OutputFileAsked;
-  return fakes::Window().SaveDialog();
+  ++fakes::Session().OutputFileAsked;
+  return fakes::Session().SaveDialog();
 }
 
 }  // namespace folivant

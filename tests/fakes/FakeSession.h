@@ -8,7 +8,7 @@
 
 namespace folivant::fakes {
 
-struct FakeWindow {
+struct FakeSession {
   std::vector<std::wstring> Printers;                       ///< the first one is the default printer
   int DefaultPrinterAsked = 0;                              ///< how often
   int Shown = 0;                                            ///< how often the main window was shown
@@ -17,6 +17,6 @@ struct FakeWindow {
   std::function<bool()> SaveDialog = [] { return false; };  ///< plays the user, who cancels unless told otherwise
 };
 
-FakeWindow& Window();
+FakeSession& Session();
 
 }  // namespace folivant::fakes
