@@ -26,7 +26,7 @@ FoundItem RowOf(const LongPath& path, platform::FoundEntry entry) {
 }
 
 bool IsFullPath(std::wstring_view line) {
-  return line.starts_with(L"\\\\") || line.substr(1, 2) == L":\\";
+  return line.starts_with(L"\\\\") || (line.size() > 2 && line.substr(1, 2) == L":\\");
 }
 
 /// One row; nothing for a blank line and for one that is no full path. Throws RuntimeError (ReadFile) for a file that
