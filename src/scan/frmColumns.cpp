@@ -8,20 +8,20 @@ namespace folivant {
 namespace {
 
 constexpr Binding<FileColumns> kFileColumns[] = {
-    {chkName, Text::ColumnName, &FileColumns::Name},
-    {chkDOS, Text::ColumnDosName, &FileColumns::DosName},
-    {chkSize, Text::ColumnSize, &FileColumns::Size},
-    {chkTime, Text::ColumnDate, &FileColumns::Date},
-    {chkAttr, Text::ColumnAttributes, &FileColumns::Attributes},
+    {chkName, Text::ColumnName, Edits<&FileColumns::Name>},
+    {chkDOS, Text::ColumnDosName, Edits<&FileColumns::DosName>},
+    {chkSize, Text::ColumnSize, Edits<&FileColumns::Size>},
+    {chkTime, Text::ColumnDate, Edits<&FileColumns::Date>},
+    {chkAttr, Text::ColumnAttributes, Edits<&FileColumns::Attributes>},
 };
 constexpr Binding<DirectoryColumns> kDirectoryColumns[] = {
-    {chkTFiles, Text::ColumnFiles, &DirectoryColumns::Files},
-    {chkTSize, Text::ColumnDirectorySize, &DirectoryColumns::Size},
-    {chkTTFiles, Text::ColumnTotalFiles, &DirectoryColumns::TotalFiles},
-    {chkTTSize, Text::ColumnTotalSize, &DirectoryColumns::TotalSize},
+    {chkTFiles, Text::ColumnFiles, Edits<&DirectoryColumns::Files>},
+    {chkTSize, Text::ColumnDirectorySize, Edits<&DirectoryColumns::Size>},
+    {chkTTFiles, Text::ColumnTotalFiles, Edits<&DirectoryColumns::TotalFiles>},
+    {chkTTSize, Text::ColumnTotalSize, Edits<&DirectoryColumns::TotalSize>},
 };
 constexpr Binding<ListingFormat> kFormat[] = {
-    {txtLevel, Text::MaxLevel, &ListingFormat::SubLevel},
+    {txtLevel, Text::MaxLevel, Edits<&ListingFormat::SubLevel>},
     {lblAllLevels, Text::AllLevels},
     {fraFileView, Text::FileView},
     {fraDirectoryView, Text::DirectoryViewFrame},

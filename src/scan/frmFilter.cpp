@@ -9,12 +9,12 @@ namespace folivant {
 namespace {
 
 constexpr Binding<FilterSettings> kBindings[] = {
-    {chkName, Text::FilterByName, &FilterSettings::NameOn},
-    {chkSize, Text::FilterBySize, &FilterSettings::SizeOn},
-    {chkDate, Text::FilterByDate, &FilterSettings::DateOn},
-    {chkAttr, Text::FilterByAttributes, &FilterSettings::AttrOn},
-    {txtName, Binding<FilterSettings>::kNoCaption, &FilterSettings::FilterName},
-    {txtSize, Binding<FilterSettings>::kNoCaption, &FilterSettings::FilterSize},
+    {chkName, Text::FilterByName, Edits<&FilterSettings::NameOn>},
+    {chkSize, Text::FilterBySize, Edits<&FilterSettings::SizeOn>},
+    {chkDate, Text::FilterByDate, Edits<&FilterSettings::DateOn>},
+    {chkAttr, Text::FilterByAttributes, Edits<&FilterSettings::AttrOn>},
+    {txtName, Binding<FilterSettings>::kNoCaption, Edits<&FilterSettings::FilterName>},
+    {txtSize, Binding<FilterSettings>::kNoCaption, Edits<&FilterSettings::FilterSize>},
     {lblKb, Text::Kilobytes},
     {DTPickMin, Text::Between},
     {DTPickMax, Text::And},

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <variant>
 
 #include "platform/win32/Dialog.h"
 #include "res/Controls.h"
@@ -14,19 +13,17 @@
 
 namespace folivant {
 
-/// A whole number of which only the beginning has to be one: "80 characters" is 80, "wide" is 0.
+class frmBase;
+
+/// How a control shows a field and reads it back. Made by Edits.
 template <class Record>
-struct LeadingNumber {
-  std::int32_t Record::*Member;
+struct Field {
+  void (*Fill)(frmBase& form, int control, const Record& record) = nullptr;
+  void (*Read)(const frmBase& form, int control, Record& record) = nullptr;
 };
 
-/// What a control edits: nothing, a check box or option button's flag, or a text box's content.
-template <class Record>
-using Field = std::variant<std::monostate, bool Record::*, std::wstring Record::*, std::int16_t Record::*,
-                           std::int32_t Record::*, float Record::*, LeadingNumber<Record>>;
-
-/// A control's id, the text that names it, and the field that it edits. The caption goes to the control's label where
-/// there is one (the control with the id LABEL_OF(control)), otherwise to the control itself.
+/// A control's id, the text that names it, and the field that it edits, if any. The caption goes to the control's label
+/// where there is one (the control with the id LABEL_OF(control)), otherwise to the control itself.
 template <class Record>
 struct Binding {
   int Control;
@@ -54,6 +51,17 @@ class frmBase : public platform::Dialog {
  public:
   using Dialog::Dialog;
 
+  // What a bound field is to its control: a check box or option button's flag, or a text box's content. Reading throws
+  // FieldError where the text does not convert.
+  void FillField(int control, bool value) { SetChecked(control, value); }
+  void FillField(int control, const std::wstring& value) { SetText(control, value); }
+  void FillField(int control, std::int32_t value) { SetText(control, std::to_wstring(value)); }
+  void FillField(int control, float value) { SetText(control, SingleText(value)); }
+  void ReadField(int control, bool& value) const { value = Checked(control); }
+  void ReadField(int control, std::wstring& value) const { value = TextOf(control); }
+  void ReadField(int control, std::int32_t& value) const { value = WholeNumberOf(control); }
+  void ReadField(int control, float& value) const { value = SingleOf(control); }
+
  protected:
   template <class Record>
   void SetCaptions(std::span<const Binding<Record>> table);
@@ -76,18 +84,23 @@ class frmBase : public platform::Dialog {
   void ShowHelp() override;
   /// A FieldError names the field and moves the focus to it; everything else is shown as its sentence.
   void ShowProblem(const std::exception& problem) noexcept override;
-
- private:
-  void FillField(int control, bool value) { SetChecked(control, value); }
-  void FillField(int control, const std::wstring& value) { SetText(control, value); }
-  void FillField(int control, std::int32_t value) { SetText(control, std::to_wstring(value)); }
-  void FillField(int control, float value) { SetText(control, SingleText(value)); }
-  void ReadField(int control, bool& value) const { value = Checked(control); }
-  void ReadField(int control, std::wstring& value) const { value = TextOf(control); }
-  void ReadField(int control, std::int32_t& value) const { value = WholeNumberOf(control); }
-  void ReadField(int control, std::int16_t& value) const { value = ShortNumberOf(control); }
-  void ReadField(int control, float& value) const { value = SingleOf(control); }
 };
+
+template <class Record, class Value>
+Record RecordOf(Value Record::*);
+
+/// The field behind a pointer to member: Edits<&GeneralSettings::Header>.
+template <auto Member>
+inline constexpr auto Edits = Field<decltype(RecordOf(Member))>{
+    [](frmBase& form, int control, const auto& record) { form.FillField(control, record.*Member); },
+    [](const frmBase& form, int control, auto& record) { form.ReadField(control, record.*Member); }};
+
+/// A whole number of which only the beginning has to be one: "80 characters" is 80, "wide" is 0.
+template <auto Member>
+inline constexpr auto EditsLeadingNumber =
+    Field<decltype(RecordOf(Member))>{Edits<Member>.Fill, [](const frmBase& form, int control, auto& record) {
+                                        record.*Member = LeadingWholeNumber(form.TextOf(control));
+                                      }};
 
 template <class Record>
 void frmBase::SetCaptions(std::span<const Binding<Record>> table) {
@@ -101,30 +114,18 @@ void frmBase::SetCaptions(std::span<const Binding<Record>> table) {
 template <class Record>
 void frmBase::Fill(std::span<const Binding<Record>> table, const Record& record) {
   for (const Binding<Record>& row : table) {
-    std::visit(
-        [&](auto edits) {
-          if constexpr (std::is_same_v<decltype(edits), LeadingNumber<Record>>) {
-            FillField(row.Control, record.*edits.Member);
-          } else if constexpr (!std::is_same_v<decltype(edits), std::monostate>) {
-            FillField(row.Control, record.*edits);
-          }
-        },
-        row.Edits);
+    if (row.Edits.Fill != nullptr) {
+      row.Edits.Fill(*this, row.Control, record);
+    }
   }
 }
 
 template <class Record>
 void frmBase::Read(std::span<const Binding<Record>> table, Record& record) const {
   for (const Binding<Record>& row : table) {
-    std::visit(
-        [&](auto edits) {
-          if constexpr (std::is_same_v<decltype(edits), LeadingNumber<Record>>) {
-            record.*edits.Member = LeadingWholeNumber(TextOf(row.Control));
-          } else if constexpr (!std::is_same_v<decltype(edits), std::monostate>) {
-            ReadField(row.Control, record.*edits);
-          }
-        },
-        row.Edits);
+    if (row.Edits.Read != nullptr) {
+      row.Edits.Read(*this, row.Control, record);
+    }
   }
 }
 
