@@ -18,7 +18,7 @@ struct BadSetting {
 /// Everything, in the order general, printer, filter, style, columns, path, destination. A value that does not convert
 /// is returned and takes its default; nothing is overwritten by reading. Shows no message: the texts of messages
 /// depend on a setting. Throws RuntimeError (ReadFile).
-[[nodiscard]] std::vector<BadSetting> LoadSettings();
+std::vector<BadSetting> LoadSettings();
 /// One message box for each.
 void ReportBadSettings(const std::vector<BadSetting>& bad);
 /// Everything, in the same order; Ex rows only into a filter file. Throws RuntimeError (WriteSetting, WriteFile).

@@ -3,6 +3,7 @@
 #include "app/ProfileFile.h"
 #include "app/mdlFileRoutines.h"
 #include "platform/Files.h"
+#include "platform/RuntimeError.h"
 
 namespace folivant {
 namespace {
@@ -13,6 +14,15 @@ constexpr wchar_t kMissing[] = L"**";
 constexpr wchar_t kDefaultHelp[] = L"folvnt40.hlp";
 constexpr std::size_t kLongestText = 299;
 constexpr std::size_t kLongestName = 99;
+
+/// A file that cannot be read has no texts: what is missing shows in its place.
+ProfileFile ReadableOrEmpty(const std::wstring& path) {
+  try {
+    return ProfileFile(path);
+  } catch (const RuntimeError&) {
+    return ProfileFile({});
+  }
+}
 
 std::wstring RawText(const ProfileFile& file, const std::wstring& key) {
   return StripNulls(file.Read(kSection, key, kMissing, kLongestText));
@@ -51,10 +61,8 @@ std::wstring LoadLanguage(const std::wstring& programFolder, std::wstring& langu
   if (language.empty() || !platform::PathExists(folder + language)) {
     language = kEnglish;
   }
-  const ProfileFile english(folder + kEnglish);
-  const bool isEnglish = language == kEnglish;
-  const ProfileFile other(isEnglish ? std::wstring() : folder + language);
-  const ProfileFile& chosen = isEnglish ? english : other;
+  const ProfileFile english = ReadableOrEmpty(folder + kEnglish);
+  const ProfileFile chosen = language == kEnglish ? english : ReadableOrEmpty(folder + language);
   for (std::size_t number = 0; number < Messages::kCount; ++number) {
     texts.Set(number, TextOf(chosen, english, number));
   }
@@ -65,7 +73,7 @@ std::vector<LanguageEntry> ListLanguages(const std::wstring& programFolder) {
   constexpr wchar_t kNoLanguage[] = L"(error)";
   std::vector<LanguageEntry> languages;
   for (const std::wstring& name : platform::FindNames(programFolder, L"*.ini")) {
-    const ProfileFile file(AddBackslash(programFolder) + name);
+    const ProfileFile file = ReadableOrEmpty(AddBackslash(programFolder) + name);
     const std::wstring language = StripNulls(file.Read(kSection, L"Language", kNoLanguage, kLongestName));
     if (language != kNoLanguage) {
       languages.push_back(
