@@ -42,7 +42,7 @@ std::optional<std::wstring> DefaultPrinterName() {
 
 namespace folivant {
 
-int ShowMainSession() {
+int ShowMainWindow() {
   ++fakes::Session().Shown;
   return fakes::Session().ExitStatus;
 }

@@ -15,7 +15,7 @@ SEAM, HELPERS, ENGINE, RUN, WINDOWS, STARTUP = range(6)
 # The first pattern that fits a path below src/ tells its floor. Plain records hold no logic; every floor may name them.
 FLOORS = [
     (r'platform/(win32|host)/(main|MainWindow|FindDialog)\.cpp', STARTUP),
-    (r'platform/', SEAM),
+    (r'platform/|res/', SEAM),
     (r'ui/(Messages|Text)\.h|app/GeneralSettings\.h|scan/(FilterSettings|ListingFormat)\.h|output/OutputKind\.h', HELPERS),
     (r'app/(StartUp|CommandLine|frmMain|MainWindow)', STARTUP),
     (r'.*/frm', WINDOWS),
