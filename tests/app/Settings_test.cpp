@@ -1,0 +1,536 @@
+#include "app/Settings.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/mdlVars.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/FakeSession.h"
+#include "platform/RuntimeError.h"
+
+namespace folivant {
+namespace {
+
+using fakes::Fake;
+using fakes::Tree;
+using mdlVars::Filter;
+using mdlVars::Format;
+using mdlVars::General;
+using mdlVars::Printer;
+
+constexpr wchar_t kFilterFile[] = L"C:\\sets\\a.fvf";
+
+enum class Route { Ex, Store };
+
+/// What is known of each setting, worked out by hand: where it lies, its default, whether it travels into filter files,
+/// and another value that it can take.
+struct Known {
+  const wchar_t* Section;
+  const wchar_t* Key;
+  const wchar_t* Default;
+  Route Way;
+  const wchar_t* Other;
+};
+const Known kKnown[] = {
+    {L"Settings", L"TextViewer", L"notepad.exe", Route::Store, L"my viewer.exe"},
+    {L"Settings", L"TextWidth", L"80", Route::Store, L"132"},
+    {L"Settings", L"TextHeight", L"26", Route::Store, L"66"},
+    {L"Settings", L"DateFormat", L"5", Route::Store, L"0"},
+    {L"Settings", L"Inches", L"False", Route::Store, L"True"},
+    {L"Settings", L"ExitWhenDone", L"True", Route::Store, L"False"},
+    {L"Settings", L"FilesFirst", L"True", Route::Store, L"False"},
+    {L"Settings", L"EmptyDirs", L"False", Route::Store, L"True"},
+    {L"Settings", L"Language", L"english.ini", Route::Store, L"dutch.ini"},
+    {L"Settings", L"MarginLeft", L"20", Route::Ex, L"12.5"},
+    {L"Settings", L"MarginRight", L"20", Route::Ex, L"0.7"},
+    {L"Settings", L"MarginTop", L"15", Route::Ex, L"16"},
+    {L"Settings", L"MarginBottom", L"20", Route::Ex, L"17"},
+    {L"Settings", L"FontName", L"Courier New", Route::Ex, L"Arial"},
+    {L"Settings", L"FontSize", L"10", Route::Ex, L"12"},
+    {L"Settings", L"Font80HF", L"True", Route::Ex, L"False"},
+    {L"Settings", L"FontNameHF", L"Courier New", Route::Ex, L"Verdana"},
+    {L"Settings", L"FontSizeHF", L"8", Route::Ex, L"9"},
+    {L"Settings", L"Header", L"Folivant - %d %t   %p (%g)", Route::Ex, L"%p"},
+    {L"Settings", L"Footer", L"- %n -", Route::Ex, L""},
+    {L"Settings", L"PrinterName", L"(no printer)", Route::Store, L"Laser"},
+    {L"Settings", L"PrinterCopies", L"1", Route::Store, L"2"},
+    {L"Settings", L"PrinterDuplex", L"1", Route::Store, L"3"},
+    {L"Settings", L"PrinterQuality", L"-2", Route::Store, L"-4"},
+    {L"Settings", L"PrinterPaperBin", L"1", Route::Store, L"4"},
+    {L"Filter", L"Filter", L"1000", Route::Ex, L"0111"},
+    {L"Filter", L"FilterName", L"*.*", Route::Ex, L"*.txt, -a*"},
+    {L"Filter", L"FilterSizeMin", L"True", Route::Ex, L"False"},
+    {L"Filter", L"FilterSize", L"0", Route::Ex, L"100"},
+    {L"Filter", L"FilterDateMin", L"1980/01/01", Route::Ex, L"1999/09/25"},
+    {L"Filter", L"FilterDateMax", L"2039/12/31", Route::Ex, L"2000/02/29"},
+    {L"Filter", L"Attr", L"22002", Route::Ex, L"01210"},
+    {L"Filter", L"OrderBy", L"1", Route::Ex, L"5"},
+    {L"Filter", L"OrderAZ", L"True", Route::Ex, L"False"},
+    {L"Settings", L"Format", L"1", Route::Ex, L"4"},
+    {L"Format", L"SubLevel", L"0", Route::Ex, L"-3"},
+    {L"Format", L"FShow", L"10110", Route::Ex, L"01001"},
+    {L"Format", L"TShow", L"1111", Route::Ex, L"0101"},
+    {L"Settings", L"OutputTo", L"0", Route::Ex, L"2"},
+};
+// Apart from these: "Path", whose default is the current directory, and "Port", which is read from "Portrait".
+
+void FilterFile(const std::string& lines) {
+  Tree().File(kFilterFile, "[Folivant 3.5]\r\n" + lines);
+}
+
+std::vector<BadSetting> LoadWith(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+  Fake().Store[{section, key}] = value;
+  return LoadSettings();
+}
+
+std::string Narrow(const std::wstring& text) {
+  return {text.begin(), text.end()};
+}
+
+TEST(Settings, FirstStartHasTheDefaults) {
+  EXPECT_TRUE(LoadSettings().empty());
+  EXPECT_EQ(General.TextViewer, L"notepad.exe");
+  EXPECT_EQ(General.TextWidth, 80);
+  EXPECT_EQ(General.TextHeight, 26);
+  EXPECT_EQ(General.DateFormat, 5);
+  EXPECT_FALSE(General.Inches);
+  EXPECT_TRUE(General.ExitWhenDone);
+  EXPECT_TRUE(General.FilesFirst);
+  EXPECT_FALSE(General.EmptyDirs);
+  EXPECT_EQ(General.Language, L"english.ini");
+  EXPECT_EQ(General.MarginLeft, 20);
+  EXPECT_EQ(General.MarginRight, 20);
+  EXPECT_EQ(General.MarginTop, 15);
+  EXPECT_EQ(General.MarginBottom, 20);
+  EXPECT_TRUE(General.Portrait);
+  EXPECT_EQ(General.FontName, L"Courier New");
+  EXPECT_EQ(General.FontSize, 10);
+  EXPECT_TRUE(General.Font80HF);
+  EXPECT_EQ(General.FontNameHF, L"Courier New");
+  EXPECT_EQ(General.FontSizeHF, 8);
+  EXPECT_EQ(General.Header, L"Folivant - %d %t   %p (%g)");
+  EXPECT_EQ(General.Footer, L"- %n -");
+  EXPECT_EQ(Printer.PrinterName, L"(no printer)");
+  EXPECT_EQ(Printer.PrinterQuality, -2);
+  EXPECT_TRUE(Filter.NameOn);
+  EXPECT_FALSE(Filter.SizeOn || Filter.DateOn || Filter.AttrOn);
+  EXPECT_EQ(Filter.FilterName, L"*.*");
+  EXPECT_EQ(Filter.DateMin, 29221);  // 1980-01-01
+  EXPECT_EQ(Filter.DateMax, 51135);  // 2039-12-31
+  EXPECT_THAT(Filter.Attributes,
+              testing::ElementsAre(AttributeChoice::DoNotCare, AttributeChoice::DoNotCare, AttributeChoice::MustNotHave,
+                                   AttributeChoice::MustNotHave, AttributeChoice::DoNotCare));
+  EXPECT_EQ(Filter.OrderBy, OrderBy::Name);
+  EXPECT_EQ(Format.ListingStyle, ListingStyle::IncludeSubdirectories);
+  EXPECT_TRUE(Format.Files.Name && Format.Files.Size && Format.Files.Date);
+  EXPECT_FALSE(Format.Files.DosName || Format.Files.Attributes);
+  EXPECT_TRUE(Format.Directories.Files && Format.Directories.TotalSize);
+  EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Printer);
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
+}
+
+TEST(Settings, LoadingWritesNothing) {
+  LoadSettings();
+  EXPECT_TRUE(Fake().Store.empty());
+}
+
+TEST(Settings, DefaultsAreSavedUnderTheirKeys) {
+  Tree().Dir(L"C:\\Work");
+  LoadSettings();
+  SaveSettings();
+  for (const Known& known : kKnown) {
+    EXPECT_EQ((Fake().Store[{known.Section, known.Key}]), known.Default) << Narrow(known.Key);
+  }
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Port"}]), L"True");
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Path"}]), L"C:\\Work");
+  EXPECT_EQ(Fake().Store.size(), std::size(kKnown) + 2);
+}
+
+TEST(Settings, EveryValueComesBackAsItWasStored) {
+  Tree().Dir(L"C:\\Work");
+  for (const Known& known : kKnown) {
+    Fake().Store[{known.Section, known.Key}] = known.Other;
+  }
+  EXPECT_TRUE(LoadSettings().empty());
+  Fake().Store.clear();
+  SaveSettings();
+  for (const Known& known : kKnown) {
+    EXPECT_EQ((Fake().Store[{known.Section, known.Key}]), known.Other) << Narrow(known.Key);
+  }
+}
+
+TEST(Settings, KeysLieInTheirOwnSectionAlone) {
+  for (const Known& known : kKnown) {
+    for (const wchar_t* section : {L"Settings", L"Filter", L"Format"}) {
+      if (std::wstring(section) != known.Section) {
+        Fake().Store[{section, known.Key}] = known.Other;
+      }
+    }
+  }
+  Fake().Store.erase({L"Settings", L"Filter"});
+  LoadSettings();
+  EXPECT_EQ(General.TextWidth, 80);
+  EXPECT_EQ(Filter.FilterSize, 0);
+  EXPECT_EQ(Format.SubLevel, 0);
+}
+
+TEST(Settings, AFilterFileCarriesTheExSettingsAlone) {
+  Tree().Dir(L"C:\\Work");
+  Tree().Dir(L"C:\\sets");
+  LoadSettings();
+  SaveFilterFile(kFilterFile);
+  const std::string content = Fake().Content(kFilterFile);
+  EXPECT_TRUE(content.starts_with("[Folivant 3.5]\r\n")) << content;
+  for (const Known& known : kKnown) {
+    const bool carried = content.find("\n" + Narrow(known.Key) + "=" + Narrow(known.Default)) != content.npos;
+    EXPECT_EQ(carried, known.Way == Route::Ex) << Narrow(known.Key);
+  }
+  EXPECT_NE(content.find("\nPort=True\r\n"), content.npos);
+  EXPECT_NE(content.find("\nPath=C:\\Work\r\n"), content.npos);
+  EXPECT_TRUE(Fake().Store.empty());
+  EXPECT_FALSE(mdlVars::UseFilterFile);
+}
+
+TEST(Settings, LoadingAFilterFileLeavesMachineSettingsUntouched) {
+  for (const Known& known : kKnown) {
+    Fake().Store[{known.Section, known.Key}] = known.Other;
+  }
+  LoadSettings();
+  std::string lines;
+  for (const Known& known : kKnown) {
+    lines += Narrow(known.Key) + "=" + Narrow(known.Default) + "\r\n";
+  }
+  FilterFile(lines);
+  LoadFilterFile(kFilterFile);
+  Fake().Store.clear();
+  SaveSettings();
+  for (const Known& known : kKnown) {
+    const wchar_t* const expected = known.Way == Route::Ex ? known.Default : known.Other;
+    EXPECT_EQ((Fake().Store[{known.Section, known.Key}]), expected) << Narrow(known.Key);
+  }
+  EXPECT_FALSE(mdlVars::UseFilterFile);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST(Settings, AFilterFileWithoutAPathGivesTheCurrentDirectory) {
+  mdlVars::Tree.StartPath = L"D:\\Before";
+  FilterFile("Format=0\r\n");
+  LoadFilterFile(kFilterFile);
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
+  EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
+}
+
+TEST(Settings, AMissingFilterFileGivesTheDefaultsOfWhatItCouldHold) {
+  General.TextWidth = 132;
+  Format.SubLevel = 7;
+  LoadFilterFile(L"C:\\none.fvf");
+  EXPECT_EQ(Format.SubLevel, 0);
+  EXPECT_EQ(General.TextWidth, 132);
+}
+
+TEST(Settings, AMalformedFilterFileGivesTheDefaults) {
+  const std::string files[] = {std::string("\0\xFF[[[\r\n=\r\n]=[\x1A", 14), "SubLevel=3\r\n",
+                               "[Folivant 3.5\r\nSubLevel=3", "[Other]\r\nSubLevel=3\r\n",
+                               std::string("\xFF\xFE\x5B", 3)};
+  for (const std::string& content : files) {
+    Tree().File(kFilterFile, content);
+    Format.SubLevel = 7;
+    LoadFilterFile(kFilterFile);
+    EXPECT_EQ(Format.SubLevel, 0) << content;
+  }
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST(Settings, AnUnreadableFilterFileIsAnErrorAndTheStoreIsInUseAgain) {
+  FilterFile("");
+  Fake().FailReads[kFilterFile] = fakes::AccessDenied();
+  EXPECT_THROW(LoadFilterFile(kFilterFile), RuntimeError);
+  EXPECT_FALSE(mdlVars::UseFilterFile);
+}
+
+TEST(Settings, SavingKeepsWhatElseAFilterFileHolds) {
+  Tree().Dir(L"C:\\Work");
+  Tree().File(kFilterFile, "; mine\r\n[Other]\r\nkey=1\r\n[folivant 3.5]\r\nsublevel=9\r\nNote=keep\r\n");
+  LoadSettings();
+  SaveFilterFile(kFilterFile);
+  const std::string content = Fake().Content(kFilterFile);
+  EXPECT_TRUE(content.starts_with("; mine\r\n[Other]\r\nkey=1\r\n[folivant 3.5]\r\nsublevel=0\r\nNote=keep\r\n"))
+      << content;
+}
+
+TEST(Settings, AFailedSaveLeavesTheFilterFileAsItWas) {
+  FilterFile("SubLevel=3\r\n");
+  LoadSettings();
+  Fake().FailReplaces[kFilterFile] = fakes::DiskFull();
+  EXPECT_THROW(SaveFilterFile(kFilterFile), RuntimeError);
+  EXPECT_EQ(Fake().Content(kFilterFile), "[Folivant 3.5]\r\nSubLevel=3\r\n");
+  EXPECT_FALSE(mdlVars::UseFilterFile);
+}
+
+TEST(Settings, ANewFilterFileIsAnsiUntilAValueNeedsMore) {
+  Tree().Dir(L"C:\\Work");
+  Tree().Dir(L"C:\\sets");
+  LoadSettings();
+  General.Header = L"Caf\u00E9";
+  SaveFilterFile(kFilterFile);
+  EXPECT_NE(Fake().Content(kFilterFile).find("Header=Caf\xE9\r\n"), std::string::npos);
+  General.Header = L"\u0416";
+  SaveFilterFile(L"C:\\sets\\b.fvf");
+  EXPECT_TRUE(Fake().Content(L"C:\\sets\\b.fvf").starts_with(std::string("\xFF\xFE[\0F\0", 6)));
+  General.Header.clear();
+  LoadFilterFile(L"C:\\sets\\b.fvf");
+  EXPECT_EQ(General.Header, L"\u0416");
+}
+
+TEST(Settings, OuterBlanksSurviveAFilterFile) {
+  Tree().Dir(L"C:\\Work");
+  Tree().Dir(L"C:\\sets");
+  LoadSettings();
+  General.Footer = L"  - %n -  ";
+  SaveFilterFile(kFilterFile);
+  General.Footer.clear();
+  LoadFilterFile(kFilterFile);
+  EXPECT_EQ(General.Footer, L"  - %n -  ");
+}
+
+TEST(Settings, AValueOfAFilterFileEndsAfter259Characters) {
+  FilterFile("Header=" + std::string(259, 'a') + "b\r\nFooter=" + std::string(259, 'c') + "\r\n");
+  LoadFilterFile(kFilterFile);
+  EXPECT_EQ(General.Header, std::wstring(259, L'a'));
+  EXPECT_EQ(General.Footer, std::wstring(259, L'c'));
+}
+
+TEST(Settings, AValueOfTheStoreIsNotCut) {
+  LoadWith(L"Settings", L"Header", std::wstring(1000, L'a'));
+  EXPECT_EQ(General.Header.size(), 1000u);
+}
+
+TEST(Settings, LandscapeDoesNotComeBack) {
+  LoadSettings();
+  General.Portrait = false;
+  SaveSettings();
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Port"}]), L"False");
+  EXPECT_EQ(Fake().Store.count({L"Settings", L"Portrait"}), 0u);
+  LoadSettings();
+  EXPECT_TRUE(General.Portrait);
+}
+
+TEST(Settings, APortraitValueIsRead) {
+  LoadWith(L"Settings", L"Portrait", L"False");
+  EXPECT_FALSE(General.Portrait);
+}
+
+TEST(Settings, TheStyleOfASentFileIsNotRemembered) {
+  Fake().Store[{L"Settings", L"Format"}] = L"3";
+  LoadSettings();
+  Format.ListingStyle = ListingStyle::PathListFile;
+  SaveSettings();
+  SaveListingStyle();
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Format"}]), L"3");
+}
+
+TEST(Settings, ADirectoryThatIsGoneIsNotRemembered) {
+  Fake().Store[{L"Settings", L"Path"}] = L"C:\\Gone";
+  LoadSettings();
+  mdlVars::Tree.StartPath = L"C:\\Gone too";
+  SaveSettings();
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Path"}]), L"C:\\Gone");
+}
+
+TEST(Settings, TheOlderKeyStandsInForColumnsAndAttributes) {
+  LoadWith(L"Settings", L"Show", L"0101101210");
+  EXPECT_FALSE(Format.Files.Name || Format.Files.Size);
+  EXPECT_TRUE(Format.Files.DosName && Format.Files.Date && Format.Files.Attributes);
+  EXPECT_THAT(Filter.Attributes,
+              testing::ElementsAre(AttributeChoice::MustNotHave, AttributeChoice::MustHave, AttributeChoice::DoNotCare,
+                                   AttributeChoice::MustHave, AttributeChoice::MustNotHave));
+  SaveSettings();
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Show"}]), L"0101101210");
+  EXPECT_EQ((Fake().Store[{L"Format", L"FShow"}]), L"01011");
+}
+
+TEST(Settings, TheOlderKeyIsLookedForInTheAskingSectionFirst) {
+  Fake().Store[{L"Settings", L"Show"}] = L"0000000000";
+  Fake().Store[{L"Format", L"Show"}] = L"11111";
+  LoadSettings();
+  EXPECT_TRUE(Format.Files.DosName);
+  EXPECT_EQ(Filter.Attributes[kAttrArchive], AttributeChoice::MustNotHave);
+}
+
+TEST(Settings, TheNewerKeyGoesFirst) {
+  Fake().Store[{L"Settings", L"Show"}] = L"0000000000";
+  LoadWith(L"Format", L"FShow", L"10001");
+  EXPECT_TRUE(Format.Files.Name && Format.Files.Attributes);
+}
+
+TEST(Settings, TheOlderKeyIsReadFromFilterFilesToo) {
+  FilterFile("Show=1011122002\r\n");
+  LoadFilterFile(kFilterFile);
+  EXPECT_TRUE(Format.Files.Name && !Format.Files.DosName && Format.Files.Size && Format.Files.Date);
+  EXPECT_TRUE(Format.Files.Attributes);
+}
+
+TEST(Settings, ABadValueIsToldAndTakesItsDefault) {
+  const struct {
+    const wchar_t* section;
+    const wchar_t* key;
+    const wchar_t* value;
+  } rows[] = {
+      {L"Settings", L"TextWidth", L"wide"},
+      {L"Settings", L"TextWidth", L""},
+      {L"Settings", L"TextWidth", L"12x"},
+      {L"Settings", L"TextWidth", L"99999999999"},
+      {L"Settings", L"FontSize", L"40000"},
+      {L"Settings", L"Inches", L"perhaps"},
+      {L"Settings", L"MarginLeft", L"1,2,3x"},
+      {L"Settings", L"MarginLeft", L"nan"},
+      {L"Settings", L"MarginLeft", L"inf"},
+      {L"Filter", L"Filter", L"10"},
+      {L"Filter", L"Filter", L"1a00"},
+      {L"Filter", L"Attr", L"22302"},
+      {L"Filter", L"Attr", L""},
+      {L"Filter", L"FilterDateMin", L"1999/13/01"},
+      {L"Filter", L"FilterDateMin", L"1999/02/29"},
+      {L"Filter", L"FilterDateMax", L"tomorrow"},
+      {L"Filter", L"FilterDateMax", L"1999/09"},
+      {L"Format", L"TShow", L"111"},
+      {L"Settings", L"OutputTo", L"screen"},
+      {L"Settings", L"Format", L"\u0663"},
+  };
+  for (const auto& row : rows) {
+    Fake().Store.clear();
+    const std::vector<BadSetting> bad = LoadWith(row.section, row.key, row.value);
+    ASSERT_EQ(bad.size(), 1u) << Narrow(row.key);
+    EXPECT_EQ(bad[0].Place, std::wstring(L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\") + row.section);
+    EXPECT_EQ(bad[0].Key, row.key);
+    EXPECT_EQ(bad[0].Value, row.value);
+    EXPECT_EQ((Fake().Store[{row.section, row.key}]), row.value) << "reading must not repair";
+    SaveSettings();
+    for (const Known& known : kKnown) {
+      if (std::wstring(known.Key) == row.key) {
+        EXPECT_EQ((Fake().Store[{row.section, row.key}]), known.Default) << Narrow(row.key);
+      }
+    }
+  }
+}
+
+TEST(Settings, ABadOlderKeyIsToldByItsOwnName) {
+  const std::vector<BadSetting> bad = LoadWith(L"Settings", L"Show", L"101");
+  ASSERT_EQ(bad.size(), 2u);  // columns and attributes
+  EXPECT_EQ(bad[0].Key, L"Show");
+  EXPECT_EQ(bad[1].Value, L"101");
+  EXPECT_TRUE(Format.Files.Date);
+}
+
+TEST(Settings, ABadValueOfAFilterFileIsReportedWithTheFile) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
+  FilterFile("SubLevel=deep\r\nOrderBy=x\r\n");
+  LoadFilterFile(kFilterFile);
+  ASSERT_EQ(Fake().Messages.size(), 2u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf|OrderBy|x");
+  EXPECT_EQ(Fake().Messages[1].Text, L"C:\\sets\\a.fvf|SubLevel|deep");
+  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+}
+
+TEST(Settings, NumbersAndFlagsAreReadAsPeopleWriteThem) {
+  LoadWith(L"Settings", L"TextWidth", L" +100 ");
+  EXPECT_EQ(General.TextWidth, 100);
+  LoadWith(L"Settings", L"Inches", L"TRUE");
+  EXPECT_TRUE(General.Inches);
+  LoadWith(L"Settings", L"Inches", L"0");
+  EXPECT_FALSE(General.Inches);
+  LoadWith(L"Settings", L"Inches", L"-1");
+  EXPECT_TRUE(General.Inches);
+}
+
+TEST(Settings, DatesAreReadWithAnyCharacterBetweenTheNumbers) {
+  for (const wchar_t* text : {L"1999/09/25", L"1999-9-25", L"1999.09.25", L" 1999 9 25 "}) {
+    EXPECT_TRUE(LoadWith(L"Filter", L"FilterDateMin", text).empty());
+    EXPECT_EQ(Filter.DateMin, 36428);  // 1999-09-25
+    Filter.DateMin = 0;
+  }
+}
+
+TEST(Settings, DatesAreWrittenWithSlashesWhateverTheLocale) {
+  Fake().Locale.DateSeparator = L".";
+  LoadSettings();
+  Filter.DateMin = 36428.75;
+  SaveFilterSettings();
+  EXPECT_EQ((Fake().Store[{L"Filter", L"FilterDateMin"}]), L"1999/09/25");
+}
+
+TEST(Settings, MarginsAreWrittenInTheUsersNumberFormat) {
+  Fake().Locale.DecimalSeparator = L",";
+  LoadWith(L"Settings", L"MarginLeft", L"12,5");
+  EXPECT_EQ(General.MarginLeft, 12.5F);
+  SaveGeneralSettings();
+  EXPECT_EQ((Fake().Store[{L"Settings", L"MarginLeft"}]), L"12,5");
+}
+
+TEST(Settings, AMarginFromAnotherCountryIsReadAsItWasMeant) {
+  Fake().Locale.DecimalSeparator = L",";
+  FilterFile("MarginLeft=12.5\r\n");
+  LoadFilterFile(kFilterFile);
+  EXPECT_EQ(General.MarginLeft, 12.5F);
+}
+
+TEST(Settings, CodesWithoutAMeaningAreKept) {
+  Fake().Store[{L"Filter", L"OrderBy"}] = L"9";
+  Fake().Store[{L"Settings", L"OutputTo"}] = L"7";
+  EXPECT_TRUE(LoadSettings().empty());
+  EXPECT_EQ(static_cast<int>(Filter.OrderBy), 9);
+  EXPECT_EQ(static_cast<int>(mdlVars::OutputTo), 7);
+}
+
+TEST(Settings, DialogsSaveTheirOwnGroupAlone) {
+  LoadSettings();
+  SaveFilterSettings();
+  EXPECT_EQ(Fake().Store.size(), 9u);
+  Fake().Store.clear();
+  SaveFormatSettings();
+  EXPECT_EQ(Fake().Store.size(), 3u);
+  Fake().Store.clear();
+  SaveListingStyle();
+  EXPECT_EQ(Fake().Store.size(), 1u);
+  Fake().Store.clear();
+  SavePrinterSettings();
+  EXPECT_EQ(Fake().Store.size(), 5u);
+  Fake().Store.clear();
+  SaveGeneralSettings();
+  EXPECT_EQ(Fake().Store.size(), 21u);
+}
+
+TEST(Settings, AStoreThatCannotBeWrittenIsAnError) {
+  LoadSettings();
+  Fake().FailStoreWrites = fakes::AccessDenied();
+  EXPECT_THROW(SaveSettings(), RuntimeError);
+}
+
+TEST(Settings, TheLastTabIsRemembered) {
+  EXPECT_EQ(LoadLastTab(), 1);
+  SaveLastTab(4);
+  EXPECT_EQ((Fake().Store[{L"Settings", L"LastTab"}]), L"4");
+  EXPECT_EQ(LoadLastTab(), 4);
+  Fake().Store[{L"Settings", L"LastTab"}] = L"x";
+  EXPECT_EQ(LoadLastTab(), 1);
+}
+
+TEST(Settings, TheDefaultPrinterIsAskedForOnlyWhereItIsNeeded) {
+  fakes::Session().Printers = {L"Laser", L"Ink"};
+  LoadSettings();
+  EXPECT_EQ(fakes::Session().DefaultPrinterAsked, 0);
+  ResolvePrinterName();
+  EXPECT_EQ(Printer.PrinterName, L"Laser");
+  Printer.PrinterName = L"Ink";
+  ResolvePrinterName();
+  EXPECT_EQ(Printer.PrinterName, L"Ink");
+}
+
+TEST(Settings, WithoutAnyPrinterTheNameStays) {
+  LoadSettings();
+  ResolvePrinterName();
+  EXPECT_EQ(Printer.PrinterName, L"(no printer)");
+}
+
+}  // namespace
+}  // namespace folivant

@@ -1,0 +1,320 @@
+#include "app/StartUp.h"
+
+#include <gtest/gtest.h>
+
+#include "app/mdlVars.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/FakeSession.h"
+
+namespace folivant {
+namespace {
+
+using fakes::Fake;
+using fakes::Session;
+using fakes::Tree;
+
+/// A machine with one file to list, a filter file for bare full paths without any header, and an English language file.
+class StartUp : public testing::Test {
+ protected:
+  StartUp() {
+    Tree().Dir(L"C:\\Data").File(L"A.txt", 5);
+    Tree().Dir(L"C:\\Work");
+    Tree().Dir(L"C:\\Out");
+    FilterFile("");
+    Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
+                "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n"
+                "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n");
+  }
+
+  static void FilterFile(const std::string& lines) {
+    Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=4\r\nPath=C:\\Data\r\nOutputTo=1\r\n" + lines);
+  }
+  static void Store(const wchar_t* key, const wchar_t* value) { Fake().Store[{L"Settings", key}] = value; }
+  static bool Exists(const wchar_t* path) { return Tree().Find(path) != nullptr; }
+
+  /// One message box, which ends the start without a window and without a trace in the store.
+  static void ExpectProblem(const std::wstring& line, const std::wstring& detail) {
+    const auto store = Fake().Store;
+    EXPECT_EQ(Start(line), kExitFailed);
+    ASSERT_EQ(Fake().Messages.size(), 1u);
+    EXPECT_EQ(Fake().Messages[0].Text, L"Problem:\r\n" + detail + L"\r\n\r\nUsage.");
+    EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+    EXPECT_EQ(Fake().Messages[0].Buttons, platform::BoxButtons::Ok);
+    EXPECT_EQ(Session().Shown, 0);
+    EXPECT_EQ(Fake().Store, store);
+  }
+};
+
+TEST_F(StartUp, WithAnEmptyLineTheWindowOpensOnTheStoredDirectory) {
+  Store(L"Path", L"C:\\Data");
+  Session().ExitStatus = 7;
+  EXPECT_EQ(Start(L""), 7);
+  EXPECT_EQ(Session().Shown, 1);
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, AStoredFileListStyleComesBackAsStyle0) {
+  for (const wchar_t* style : {L"5", L"6"}) {
+    Store(L"Path", L"C:\\Data");
+    Store(L"Format", style);
+    Start(L"");
+    EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::NoSubdirectories);
+  }
+}
+
+TEST_F(StartUp, AStoredFindStyleStaysWhenTheStoredDirectoryIsGone) {
+  Store(L"Path", L"C:\\Gone");
+  Store(L"Format", L"5");
+  Start(L"");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::FindWindow);
+}
+
+TEST_F(StartUp, ASentDirectoryIsTheOneToList) {
+  Tree().Dir(L"C:\\My Data");
+  Start(L"\"C:\\My Data\"");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\My Data");
+  Start(L"C:\\Data");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  Start(L"C:\\My Data\"");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\My Data");
+  EXPECT_EQ(Session().Shown, 3);
+}
+
+TEST_F(StartUp, ASentFileIsAListOfPathsAndStaysAsItIsSpelled) {
+  Start(L"\"c:\\data\\a.TXT\"");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"c:\\data\\a.TXT");
+}
+
+TEST_F(StartUp, ASentPathThatIsGoneLeavesTheStoredDirectory) {
+  Store(L"Path", L"C:\\Data");
+  Start(L"C:\\Nowhere");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(Session().Shown, 1);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, WithoutAnyPrinterTheWindowOpensWithTheFileDestination) {
+  Start(L"");
+  EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File);
+}
+
+TEST_F(StartUp, WithAPrinterTheStoredDestinationStays) {
+  Session().Printers = {L"Laser"};
+  Start(L"");
+  EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Printer);
+}
+
+TEST_F(StartUp, SwitchesWithoutAFilterFileAreAProblem) {
+  ExpectProblem(L"/d C:\\Data", L"No filter file specified.");
+}
+TEST_F(StartUp, AnUpperCaseSwitchIsNone) {
+  ExpectProblem(L"/F C:\\sets\\a.fvf", L"No filter file specified.");
+}
+TEST_F(StartUp, AMissingFilterFileIsAProblem) {
+  ExpectProblem(L"/f C:\\sets\\none.fvf /g", L"Filter file not found.");
+}
+TEST_F(StartUp, AnEmptyFilterFileNameIsAProblem) {
+  ExpectProblem(L"/f /g", L"Filter file not found.");
+}
+TEST_F(StartUp, ADirectoryIsNoFilterFile) {
+  ExpectProblem(L"/f C:\\sets /g", L"Filter file not found.");
+}
+TEST_F(StartUp, AHiddenFilterFileIsNotFound) {
+  Tree().Dir(L"C:\\sets").FileWith(L"h.fvf", "").AddAttributes(platform::kHidden);
+  ExpectProblem(L"/f C:\\sets\\h.fvf /g", L"Filter file not found.");
+}
+TEST_F(StartUp, AnUnknownOutputLetterIsAProblem) {
+  ExpectProblem(L"/f C:\\sets\\a.fvf /t z /g", L"Unknown type.");
+}
+TEST_F(StartUp, AnOutputLetterWithoutABlankIsAProblem) {
+  ExpectProblem(L"/f C:\\sets\\a.fvf /tp /g", L"Unknown type.");
+}
+TEST_F(StartUp, RemovalFollowedByABlankIsParsedAsSwitches) {
+  Fake().SendToFolder = L"C:\\Users\\me\\SendTo";
+  Tree().Dir(L"C:\\Users\\me\\SendTo");
+  ExpectProblem(L"/deletesendto ", L"No filter file specified.");
+  EXPECT_TRUE(Exists(L"C:\\Users\\me\\SendTo\\Folivant.s2f"));
+}
+
+TEST_F(StartUp, WithoutGoTheWindowOpensWithTheSwitchesInPlaceAndNothingIsStored) {
+  Tree().Dir(L"C:\\Other");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d c:\\other /t x /o list"), 0);
+  EXPECT_EQ(Session().Shown, 1);
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Other");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::FullPathList);
+  EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File);
+  EXPECT_EQ(mdlVars::OutputKind, OutputKind::Xml);
+  EXPECT_EQ(mdlVars::OutputFile, L"list.txt");
+  EXPECT_EQ(mdlVars::FilterFile, L"C:\\sets\\a.fvf");
+  EXPECT_FALSE(mdlVars::UseFilterFile);
+  EXPECT_TRUE(Fake().Store.empty());
+}
+
+TEST_F(StartUp, AnInvalidDirectorySilentlyLeavesThatOfTheFilterFile) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d C:\\Nowhere /o C:\\Out\\list.txt /g"), kExitDone);
+  EXPECT_TRUE(Fake().Messages.empty());
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\A.txt\r\n");
+}
+
+TEST_F(StartUp, GoWritesTheListingAndShowsNoWindow) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d C:\\Data /t t /o C:\\Out\\list.txt /g"), kExitDone);
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\A.txt\r\n");
+  EXPECT_EQ(Session().Shown, 0);
+  EXPECT_TRUE(Fake().Store.empty());
+}
+
+TEST_F(StartUp, ARelativeFilterFileIsTestedAndReadInTheCurrentDirectory) {
+  Fake().CurrentDirectory = L"C:\\sets";
+  EXPECT_EQ(Start(L"/f a.fvf /t t /o C:\\Out\\list.txt /g"), kExitDone);
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\A.txt\r\n");
+}
+
+TEST_F(StartUp, TheBareOutputNameGetsHtmlOrTxt) {
+  Start(L"/f C:\\sets\\a.fvf /t h /o C:\\Out\\list /g");
+  EXPECT_TRUE(Exists(L"C:\\Out\\list.html"));
+  Start(L"/f C:\\sets\\a.fvf /t c /o C:\\Out\\list /g");
+  EXPECT_TRUE(Exists(L"C:\\Out\\list.txt"));
+  EXPECT_EQ(mdlVars::OutputKind, OutputKind::Csv);
+}
+
+TEST_F(StartUp, GoWithoutAnOutputFileAsksForOne) {
+  Session().SaveDialog = [] {
+    mdlVars::OutputFile = L"C:\\Out\\asked.txt";
+    return true;
+  };
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /g"), kExitDone);
+  EXPECT_EQ(Session().OutputFileAsked, 1);
+  EXPECT_TRUE(Exists(L"C:\\Out\\asked.txt"));
+}
+
+TEST_F(StartUp, CancellingTheSaveDialogEndsWithoutAListing) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t x /g"), kExitFailed);
+  EXPECT_EQ(Session().OutputFileAsked, 1);
+  EXPECT_EQ(mdlVars::OutputKind, OutputKind::Xml);
+  EXPECT_TRUE(Fake().Messages.empty());
+  EXPECT_EQ(Session().Shown, 0);
+}
+
+TEST_F(StartUp, AScreenDestinationAsksForATextFile) {
+  FilterFile("OutputTo=2\r\n");
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=2\r\n");
+  Start(L"/f C:\\sets\\a.fvf /g");
+  EXPECT_EQ(Session().OutputFileAsked, 1);
+  EXPECT_EQ(mdlVars::OutputKind, OutputKind::Text);
+}
+
+TEST_F(StartUp, APrinterDestinationPrintsWithoutAnyDialog) {
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=0\r\nPath=C:\\Data\r\n");
+  Session().Printers = {L"Laser"};
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /g"), kExitDone);
+  EXPECT_EQ(mdlVars::OutputKind, OutputKind::Printer);
+  EXPECT_EQ(mdlVars::Printer.PrinterName, L"Laser");
+  EXPECT_EQ(Session().OutputFileAsked, 0);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, PrintingWithoutAnyPrinterIsToldAndFails) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"No printer.");
+}
+
+TEST_F(StartUp, AFileRunDoesNotAskForThePrinter) {
+  Session().Printers = {L"Laser"};
+  Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g");
+  EXPECT_EQ(Session().DefaultPrinterAsked, 0);
+}
+
+TEST_F(StartUp, AFailedRunIsToldAndFails) {
+  Fake().FailCreates[L"C:\\Out\\list.txt"] = fakes::AccessDenied();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"Cannot create \"C:\\Out\\list.txt\": Access is denied. (5)");
+  EXPECT_EQ(Fake().OpenOutputFiles, 0);
+}
+
+TEST_F(StartUp, AnUnreadableDirectoryEndsWithAStatusOfItsOwn) {
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=1\r\nPath=C:\\Data\r\n");
+  Tree().Dir(L"C:\\Data").Folder(L"Locked").Unreadable();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitUnreadable);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, AnUnreadableFilterFileIsToldAndFails) {
+  Fake().FailReads[L"C:\\sets\\a.fvf"] = fakes::AccessDenied();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"Cannot read \"C:\\sets\\a.fvf\": Access is denied. (5)");
+}
+
+TEST_F(StartUp, ABadStoredValueIsToldInTheLanguageAndTheStartGoesOn) {
+  Store(L"TextWidth", L"wide");
+  Start(L"");
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Settings, TextWidth, wide");
+  EXPECT_EQ(mdlVars::General.TextWidth, 80);
+  EXPECT_EQ(Session().Shown, 1);
+}
+
+TEST_F(StartUp, TheLanguageOfTheSettingsIsLoaded) {
+  Tree().File(L"C:\\Program Files\\Folivant\\dutch.ini", "[Messages]\r\n100=Geen printer.\r\n");
+  Store(L"Language", L"dutch.ini");
+  Start(L"");
+  EXPECT_EQ(mdlVars::Texts[Text::NoPrinter], L"Geen printer.");
+  EXPECT_EQ(mdlVars::HelpFile, L"C:\\Program Files\\Folivant\\folvnt40.hlp");
+}
+
+class SendTo : public StartUp {
+ protected:
+  SendTo() {
+    Fake().SendToFolder = L"C:\\Users\\me\\SendTo";
+    Tree().File(L"C:\\Users\\me\\SendTo\\Folivant.s2f", "old");
+    Tree().File(L"C:\\Users\\you\\SendTo\\Folivant.s2f", "");
+    Tree().File(L"C:\\Users\\you\\SendTo\\Other.s2f", "");
+    Tree().Dir(L"C:\\Users\\none");
+  }
+};
+
+TEST_F(SendTo, IsRecreatedEmptyAtEveryStart) {
+  Start(L"");
+  EXPECT_EQ(Fake().Content(L"C:\\Users\\me\\SendTo\\Folivant.s2f"), "");
+  Tree().Remove(L"C:\\Users\\me\\SendTo\\Folivant.s2f");
+  Start(L"/f");
+  EXPECT_TRUE(Exists(L"C:\\Users\\me\\SendTo\\Folivant.s2f"));
+}
+
+TEST_F(SendTo, AFailureToRecreateItIsNotReported) {
+  Fake().FailCreates[L"C:\\Users\\me\\SendTo\\Folivant.s2f"] = fakes::AccessDenied();
+  Start(L"");
+  Fake().SendToFolder.reset();
+  Start(L"");
+  EXPECT_TRUE(Fake().Messages.empty());
+  EXPECT_EQ(Session().Shown, 2);
+}
+
+TEST_F(SendTo, RemovalDeletesTheTargetOfEveryProfileAndNothingElse) {
+  EXPECT_EQ(Start(L"/deletesendto"), kExitDone);
+  EXPECT_FALSE(Exists(L"C:\\Users\\me\\SendTo\\Folivant.s2f"));
+  EXPECT_FALSE(Exists(L"C:\\Users\\you\\SendTo\\Folivant.s2f"));
+  EXPECT_TRUE(Exists(L"C:\\Users\\you\\SendTo\\Other.s2f"));
+  EXPECT_EQ(Session().Shown, 0);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(SendTo, RemovalDeletesTheOwnTargetWhereverItLies) {
+  Fake().SendToFolder = L"C:\\Users\\me\\AppData\\Roaming\\Microsoft\\Windows\\SendTo";
+  Tree().File(*Fake().SendToFolder + L"\\Folivant.s2f", "");
+  EXPECT_EQ(Start(L"/deletesendto"), kExitDone);
+  EXPECT_EQ(Tree().Find(*Fake().SendToFolder + L"\\Folivant.s2f"), nullptr);
+}
+
+TEST_F(SendTo, RemovalWithoutASendToFolderDoesNothing) {
+  Fake().SendToFolder.reset();
+  EXPECT_EQ(Start(L"/deletesendto"), kExitDone);
+  EXPECT_TRUE(Exists(L"C:\\Users\\me\\SendTo\\Folivant.s2f"));
+}
+
+}  // namespace
+}  // namespace folivant
