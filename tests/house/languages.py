@@ -14,7 +14,7 @@ LANGUAGES = ['english', 'dutch', 'german', 'french', 'spanish', 'italian', 'port
 LONGEST = 299
 # Characters that a listing leaves for a text: directory-view captions, the size text of directories before its three
 # blanks, units, column captions.
-NARROW = {'FilesCaption': 10, 'DirectorySizeCaption': 10, 'TotalFilesCaption': 10, 'TotalSizeCaption': 10,
+NARROW = {'FilesCaption': 9, 'DirectorySizeCaption': 9, 'TotalFilesCaption': 9, 'TotalSizeCaption': 9,
           'DirectorySizeText': 5, 'UnitBytes': 2, 'UnitKilobytes': 2, 'UnitMegabytes': 2, 'UnitGigabytes': 2,
           'UnitTerabytes': 2, 'SizeCaption': 8, 'DosNameCaption': 12, 'DateCaption': 16}
 
