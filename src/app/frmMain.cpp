@@ -135,12 +135,6 @@ class frmMain::RunGuard {
 };
 
 void frmMain::Form_Load() {
-  const HINSTANCE program = GetModuleHandleW(nullptr);
-  for (const auto& [size, metric] : {std::pair(ICON_BIG, SM_CXICON), std::pair(ICON_SMALL, SM_CXSMICON)}) {
-    const int side = GetSystemMetrics(metric);
-    const HANDLE icon = LoadImageW(program, MAKEINTRESOURCEW(icoFolivant), IMAGE_ICON, side, side, LR_SHARED);
-    SendMessageW(Window(), WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
-  }
   SetCaptions<NoRecord>(kCaptions);
   FitToTexts();
   ShowEverything();

@@ -12,6 +12,7 @@ namespace folivant::platform {
 namespace {
 
 constexpr int kOrdinaryDpi = 96;
+constexpr int kProgramIcon = 1;   // number of the icon resource
 constexpr int kLongestTip = 400;  // dots at 96 per inch; a longer tip wraps
 
 std::vector<HWND>& ModelessWindows() {
@@ -220,6 +221,7 @@ void Dialog::Remove() {
   window_ = nullptr;
   toolTips_ = nullptr;
   filled_ = false;
+  focusGiven_ = false;
   handlers_.clear();
   pages_.clear();
   pictures_.clear();
@@ -267,6 +269,7 @@ void Dialog::Enable(int control, bool enabled) {
 
 void Dialog::SetFocusTo(int control) {
   SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(control)), TRUE);
+  focusGiven_ = true;
 }
 
 LRESULT Dialog::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -319,6 +322,18 @@ void Dialog::ShowPicture(int control, Picture& picture) {
   OwnedBitmap loaded = LoadPicture(picture.Resource, DpiOf(window_));
   Send(control, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(loaded.get()));
   picture.Bitmap = std::move(loaded);
+  if (!filled_ && picture.Bitmap) {
+    GrowToPicture(control, SizeOfBitmap(picture.Bitmap.get()));
+  }
+}
+
+void Dialog::GrowToPicture(int control, SIZE picture) {
+  RECT room{};
+  GetClientRect(Item(control), &room);
+  const SIZE missing{std::max<LONG>(picture.cx - room.right, 0), std::max<LONG>(picture.cy - room.bottom, 0)};
+  if (missing.cx > 0 || missing.cy > 0) {
+    Grow(control, missing);
+  }
 }
 
 void Dialog::AddItem(int control, const std::wstring& text) {
@@ -346,18 +361,19 @@ HWND Dialog::AddPage(int resource) {
 }
 
 void Dialog::FitToTexts() {
-  GrowWindow(FitChildren(window_));
+  GrowWindow(window_, FitChildren(window_));
 }
 
 void Dialog::Grow(int control, SIZE by) {
-  GrowChild(window_, Item(control), by);
-  GrowWindow(by);
+  const HWND parent = GetParent(Item(control));
+  GrowChild(parent, Item(control), by);
+  GrowWindow(parent, by);
 }
 
-void Dialog::GrowWindow(SIZE by) {
+void Dialog::GrowWindow(HWND window, SIZE by) {
   RECT frame{};
-  GetWindowRect(window_, &frame);
-  SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left + by.cx, frame.bottom - frame.top + by.cy,
+  GetWindowRect(window, &frame);
+  SetWindowPos(window, nullptr, 0, 0, frame.right - frame.left + by.cx, frame.bottom - frame.top + by.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -395,7 +411,7 @@ INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPA
     created->window_ = window;
     SetWindowLongPtrW(window, DWLP_USER, lParam);
     created->Load();
-    return TRUE;
+    return created->focusGiven_ ? FALSE : TRUE;
   }
   auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, DWLP_USER));
   if (dialog == nullptr) {
@@ -408,8 +424,19 @@ INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPA
   return dialog->Dispatch(message, wParam, lParam);
 }
 
+/// For the title bar, the task bar and the list of windows.
+void Dialog::SetIcons() {
+  for (const auto& [size, metric] : {std::pair(ICON_BIG, SM_CXICON), std::pair(ICON_SMALL, SM_CXSMICON)}) {
+    const int side = GetSystemMetrics(metric);
+    const HANDLE icon =
+        LoadImageW(Program(), MAKEINTRESOURCEW(kProgramIcon), IMAGE_ICON, side, side, LR_DEFAULTCOLOR | LR_SHARED);
+    SendMessageW(window_, WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
+  }
+}
+
 void Dialog::Load() {
   try {
+    SetIcons();
     Form_Load();
     if (pages_.empty()) {
       FitToTexts();

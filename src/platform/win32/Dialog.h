@@ -51,7 +51,8 @@ class Dialog {
   /// Checks `button` alone among `buttons`.
   void Choose(std::initializer_list<int> buttons, int button);
   void SetToolTip(int control, const std::wstring& text);
-  /// Shows a bitmap resource; the numbers 1000 and 2000 above it hold the same picture for 150 and 200 percent.
+  /// Shows a bitmap resource; the numbers 1000 and 2000 above it hold the same picture for 150 and 200 percent. In
+  /// Form_Load a control that is too small for its picture grows.
   void SetPicture(int control, int resource);
   /// Adds an item to a combo or list box.
   void AddItem(int control, const std::wstring& text);
@@ -105,7 +106,9 @@ class Dialog {
   void Load();
   void Remove();
   bool Notify(int control, int code, HWND sender);
-  void GrowWindow(SIZE by);
+  void SetIcons();
+  void GrowToPicture(int control, SIZE picture);
+  static void GrowWindow(HWND window, SIZE by);
   void ShowPicture(int control, Picture& picture);
 
   int resource_;
@@ -113,6 +116,7 @@ class Dialog {
   HWND toolTips_ = nullptr;
   bool modal_ = false;
   bool filled_ = false;
+  bool focusGiven_ = false;  ///< by Form_Load; otherwise the first control gets it
   std::map<std::pair<int, int>, Handler> handlers_;
   std::vector<std::unique_ptr<Page>> pages_;
   std::map<int, std::unique_ptr<Picture>> pictures_;

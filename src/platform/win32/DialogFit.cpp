@@ -242,11 +242,12 @@ SIZE FitChildren(HWND parent) {
 
 void GrowChild(HWND parent, HWND child, SIZE by) {
   std::vector<Placed> children = ChildrenOf(parent);
-  const auto grown =
+  const auto target =
       std::find_if(children.begin(), children.end(), [&](const Placed& each) { return each.Control == child; });
-  const RECT box = grown->Box;
+  const RECT box = target->Box;
   InsertColumns(children, box.right, by.cx, false);
   InsertRows(children, box.bottom, by.cy);
+  target->Box = {box.left, box.top, box.right + by.cx, box.bottom + by.cy};  // whatever kind it is
   Apply(children);
 }
 

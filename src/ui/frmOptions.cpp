@@ -1,0 +1,365 @@
+#include "ui/frmOptions.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "app/Settings.h"
+#include "app/mdlVars.h"
+#include "output/EntryFormatting.h"
+#include "output/PageMargins.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "platform/Printers.h"
+#include "platform/win32/Shell.h"
+#include "ui/Language.h"
+#include "ui/MarginCheck.h"
+#include "ui/frmBase.h"
+#include "ui/frmPrinter.h"
+
+namespace folivant {
+namespace {
+
+using General = GeneralSettings;
+
+constexpr Binding<General> kBindings[] = {
+    {txtViewer, Text::Viewer, Edits<&General::TextViewer>},
+    {cmdBrowse, Text::Browse},
+    {fraPage, Text::TextPage},
+    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth>},
+    {lblChars, Text::Characters},
+    {txtHeight, Text::Height, EditsLeadingNumber<&General::TextHeight>},
+    {lblLines, Text::Lines},
+    {cmbDate, Text::DateFormat},
+    {chkExit, Text::ExitAfterPrinting, Edits<&General::ExitWhenDone>},
+    {chkFF, Text::FilesBeforeDirs, Edits<&General::FilesFirst>},
+    {chkEmptyDirs, Text::PrintEmptyDirs, Edits<&General::EmptyDirs>},
+    {fraInches, Text::MarginsUnit},
+    {optInches, Text::Inches},
+    {optMilimeter, Text::Millimeter},
+    {fraMargins, Text::Margins},
+    {txtLeft, Text::MarginLeft, Edits<&General::MarginLeft>},
+    {txtTop, Text::MarginTop, Edits<&General::MarginTop>},
+    {txtRight, Text::MarginRight, Edits<&General::MarginRight>},
+    {txtBottom, Text::MarginBottom, Edits<&General::MarginBottom>},
+    {fraOrientation, Text::Orientation},
+    {optPort, Text::Portrait},
+    {optLand, Text::Landscape},
+    {txtCopies, Text::Copies},
+    {cmdPrinter, Text::PrinterButton},
+    {cmdFont, Text::ChooseFont},
+    {lblFont, Text::ListingsFont},
+    {chkFontHF, Text::HeaderFooter80, Edits<&General::Font80HF>},
+    {lblFontHF, Text::HeaderFooterFont},
+    {cmdFontHF, Text::ChooseHeaderFooterFont},
+    {txtHeader, Text::HeaderLabel, Edits<&General::Header>},
+    {txtFooter, Text::FooterLabel, Edits<&General::Footer>},
+    {fraLegend, Text::Placeholders},
+    {cmbLang, Text::LanguageLabel},
+    {lblRestart, Text::RestartNote},
+    {cmdOK, Text::Ok},
+    {cmdCancel, Text::Cancel},
+    {cmdHelp, Text::Help},
+};
+
+struct PageDesign {
+  int Template;
+  Text Caption;
+};
+constexpr PageDesign kPages[] = {
+    {dlgPageGeneral, Text::PageGeneral},           {dlgPagePrinter, Text::PagePrinter},   {dlgPageFont, Text::PageFont},
+    {dlgPageHeaderFooter, Text::PageHeaderFooter}, {dlgPageLanguage, Text::PageLanguage},
+};
+
+struct Legend {
+  const wchar_t* Code;  // the blanks line the texts up
+  Text Meaning;
+};
+constexpr Legend kLegend[] = {
+    {L"%p  ", Text::LegendPath},   {L"%l   ", Text::LegendLabel}, {L"%f   ", Text::LegendNamePattern},
+    {L"%g  ", Text::LegendFilter}, {L"%d  ", Text::LegendDate},   {L"%t   ", Text::LegendTime},
+    {L"%n  ", Text::LegendPage},
+};
+
+constexpr int kFlagWidth = 20;  // dots at 96 per inch
+constexpr int kPageBorder = 4;  // between the tab strip's frame and a page, likewise
+
+std::wstring FontText(const std::wstring& name, int points) {
+  return name + L", " + std::to_wstring(points);
+}
+
+class frmOptions final : public frmBase {
+ public:
+  frmOptions() : frmBase(dlgOptions), general_(mdlVars::General), printer_(mdlVars::Printer) {}
+  ~frmOptions() override {
+    if (flags_ != nullptr) {
+      ImageList_Destroy(flags_);
+    }
+  }
+  frmOptions(const frmOptions&) = delete;
+  frmOptions& operator=(const frmOptions&) = delete;
+
+ private:
+  void Form_Load() override;
+  void Form_QueryClose() override { CloseKeepingTab(IDCANCEL); }
+  void Form_DpiChanged() override { PlacePages(); }
+  void ShowField(int control) override;
+
+  void MakePages();
+  void PlacePages();
+  void ShowPage(int index);
+  int ShownPage() const { return static_cast<int>(Send(TabStrip, TCM_GETCURSEL)); }
+  void FillDateFormats();
+  void FillLanguages();
+  void SetHandlers();
+  void SetUnitLabels();
+  void ShowFonts();
+
+  void cmdBrowse_Click();
+  void cmdPrinter_Click();
+  void cmdFont_Click();
+  void cmdFontHF_Click();
+  void cmdOK_Click();
+
+  bool CheckMargins();
+  Margins EnteredMargins() const;
+  void CloseKeepingTab(int result);
+
+  GeneralSettings general_;
+  PrinterSettings printer_;
+  std::vector<HWND> pages_;
+  std::vector<std::wstring> languageFiles_;  ///< by the position that a language's key tells
+  HIMAGELIST flags_ = nullptr;
+};
+
+void frmOptions::Form_Load() {
+  SetWindowTextW(Window(), mdlVars::Texts[Text::OptionsTitle].c_str());
+  MakePages();
+  SetCaptions<General>(kBindings);
+  for (int i = 0; const Legend& row : kLegend) {
+    SetText(lblLegend + i++, row.Code + mdlVars::Texts[row.Meaning]);
+  }
+  FillDateFormats();
+  FillLanguages();
+  Fill<General>(kBindings, general_);
+  Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
+  Choose({optPort, optLand}, general_.Portrait ? optPort : optLand);
+  SetText(txtCopies, std::to_wstring(printer_.PrinterCopies));
+  SetText(lblPrinter, printer_.PrinterName);
+  SetPicture(picPort, picPortrait);
+  SetPicture(picLand, picLandscape);
+  SetUnitLabels();
+  ShowFonts();
+  SetHandlers();
+  PlacePages();
+  ShowPage(std::clamp(LoadLastTab(), 1, static_cast<int>(std::size(kPages))) - 1);
+}
+
+void frmOptions::MakePages() {
+  for (const PageDesign& page : kPages) {
+    std::wstring caption = mdlVars::Texts[page.Caption];
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = caption.data();
+    Send(TabStrip, TCM_INSERTITEMW, pages_.size(), reinterpret_cast<LPARAM>(&item));
+    pages_.push_back(AddPage(page.Template));
+  }
+}
+
+/// Gives all pages the size of the largest one, and the tab strip and the window what that takes.
+void frmOptions::PlacePages() {
+  RECT strip{};
+  GetWindowRect(Item(TabStrip), &strip);
+  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&strip), 2);
+  RECT page = strip;
+  Send(TabStrip, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
+  InflateRect(&page, -Scaled(kPageBorder), -Scaled(kPageBorder));
+  SIZE needed{page.right - page.left, page.bottom - page.top};
+  for (const HWND each : pages_) {
+    const SIZE size = FitPageToTexts(each);
+    needed = {std::max(needed.cx, size.cx), std::max(needed.cy, size.cy)};
+  }
+  Grow(TabStrip, {needed.cx - (page.right - page.left), needed.cy - (page.bottom - page.top)});
+  for (const HWND each : pages_) {
+    SetWindowPos(each, HWND_TOP, page.left, page.top, needed.cx, needed.cy, SWP_NOACTIVATE);
+  }
+  FitToTexts();
+}
+
+void frmOptions::ShowPage(int index) {
+  Send(TabStrip, TCM_SETCURSEL, static_cast<WPARAM>(index));
+  for (int i = 0; const HWND page : pages_) {
+    ShowWindow(page, i++ == index ? SW_SHOW : SW_HIDE);
+  }
+}
+
+void frmOptions::ShowField(int control) {
+  const auto page = std::find(pages_.begin(), pages_.end(), GetParent(Item(control)));
+  if (page != pages_.end()) {
+    ShowPage(static_cast<int>(page - pages_.begin()));
+  }
+}
+
+void frmOptions::FillDateFormats() {
+  for (std::int32_t i = 0; !DatePatternOf(i).empty(); ++i) {
+    AddItem(cmbDate, std::wstring(DatePatternOf(i)));
+  }
+  Send(cmbDate, CB_SETCURSEL, static_cast<WPARAM>(general_.DateFormat));
+}
+
+void frmOptions::FillLanguages() {
+  const int percent = Scaled(100);
+  const int strip = picFlags + (percent <= 100 ? 0 : percent <= 150 ? 1000 : 2000);
+  const int width = kFlagWidth * (percent <= 100 ? 100 : percent <= 150 ? 150 : 200) / 100;
+  flags_ = ImageList_LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(strip), width, 0, CLR_NONE, IMAGE_BITMAP,
+                                LR_CREATEDIBSECTION);
+  Send(cmbLang, CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(flags_));
+  for (LanguageEntry& language : ListLanguages(platform::ProgramFolder())) {
+    COMBOBOXEXITEMW item{};
+    item.mask = CBEIF_TEXT | CBEIF_IMAGE | CBEIF_SELECTEDIMAGE | CBEIF_LPARAM;
+    item.iItem = -1;
+    item.pszText = language.Name.data();
+    item.iImage = language.Flag;
+    item.iSelectedImage = language.Flag;
+    item.lParam = static_cast<LPARAM>(languageFiles_.size());
+    const LRESULT row = Send(cmbLang, CBEM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    if (lstrcmpiW(language.FileName.c_str(), general_.Language.c_str()) == 0) {
+      Send(cmbLang, CB_SETCURSEL, static_cast<WPARAM>(row));
+    }
+    languageFiles_.push_back(std::move(language.FileName));
+  }
+}
+
+void frmOptions::SetHandlers() {
+  On(TabStrip, static_cast<int>(TCN_SELCHANGE), [this] { ShowPage(ShownPage()); });
+  OnClick(optInches, [this] { SetUnitLabels(); });
+  OnClick(optMilimeter, [this] { SetUnitLabels(); });
+  OnClick(picPort, [this] { Choose({optPort, optLand}, optPort); });
+  OnClick(picLand, [this] { Choose({optPort, optLand}, optLand); });
+  OnClick(chkFontHF, [this] { ShowFonts(); });
+  OnClick(cmdBrowse, [this] { cmdBrowse_Click(); });
+  OnClick(cmdPrinter, [this] { cmdPrinter_Click(); });
+  OnClick(cmdFont, [this] { cmdFont_Click(); });
+  OnClick(cmdFontHF, [this] { cmdFontHF_Click(); });
+  OnClick(cmdOK, [this] { cmdOK_Click(); });
+  OnClick(cmdHelp, [this] { ShowHelp(); });
+}
+
+/// The numbers in the boxes stay as they are, on purpose: after a change of the unit the user enters margins anew.
+void frmOptions::SetUnitLabels() {
+  general_.Inches = Checked(optInches);
+  for (int i = 0; i < 4; ++i) {
+    SetText(lblUnit + i, mdlVars::Texts[general_.Inches ? Text::UnitInches : Text::UnitMillimeter]);
+  }
+}
+
+void frmOptions::ShowFonts() {
+  SetText(lblFont, FontText(general_.FontName, general_.FontSize));
+  SetText(lblFontHF, FontText(general_.FontNameHF, general_.FontSizeHF));
+  for (const int control : {lblFontHF, cmdFontHF}) {
+    Enable(control, !Checked(chkFontHF));
+  }
+}
+
+void frmOptions::cmdBrowse_Click() {
+  platform::FileDialog dialog;
+  dialog.Types = mdlVars::Texts[Text::ProgramFiles] + L" (*.exe)|*.exe|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  if (platform::AskForOpenName(Window(), dialog)) {
+    SetText(txtViewer, dialog.FileName);
+  }
+}
+
+void frmOptions::cmdPrinter_Click() {
+  if (platform::PrinterNames().empty()) {
+    platform::ShowMessage(mdlVars::Texts[Text::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+  } else if (ShowPrinterDialog(*this, printer_)) {
+    SetText(lblPrinter, printer_.PrinterName);
+  }
+}
+
+void frmOptions::cmdFont_Click() {
+  platform::FontChoice font{general_.FontName, general_.FontSize};
+  if (platform::AskForFont(Window(), font)) {
+    general_.FontName = font.Name;
+    general_.FontSize = static_cast<std::int16_t>(font.Points);
+    ShowFonts();
+  }
+}
+
+void frmOptions::cmdFontHF_Click() {
+  platform::FontChoice font{general_.FontNameHF, general_.FontSizeHF};
+  if (platform::AskForFont(Window(), font)) {
+    general_.FontNameHF = font.Name;
+    general_.FontSizeHF = font.Points;
+    ShowFonts();
+  }
+}
+
+Margins frmOptions::EnteredMargins() const {
+  return {
+      .Left = SingleOf(txtLeft), .Top = SingleOf(txtTop), .Right = SingleOf(txtRight), .Bottom = SingleOf(txtBottom)};
+}
+
+/// False when the dialog has to stay open.
+bool frmOptions::CheckMargins() {
+  const PageMargins device = MinimumMarginsOf(printer_, Checked(optPort), Checked(optInches));
+  const Margins minimum{.Left = static_cast<float>(device.Left),
+                        .Top = static_cast<float>(device.Top),
+                        .Right = static_cast<float>(device.Right),
+                        .Bottom = static_cast<float>(device.Bottom)};
+  const Margins entered = EnteredMargins();
+  if (MarginsSuffice(entered, minimum)) {
+    return true;
+  }
+  const auto answer =
+      platform::ShowMessage(mdlVars::Texts[Text::MarginsTooSmall] + L"\r\n" + mdlVars::Texts[Text::RaiseMargins],
+                            platform::BoxIcon::Question, platform::BoxButtons::YesNoCancel);
+  if (answer == platform::BoxAnswer::Yes) {
+    const Margins raised = RaisedMargins(entered, minimum, Checked(optInches));
+    SetText(txtLeft, SingleText(raised.Left));
+    SetText(txtTop, SingleText(raised.Top));
+    SetText(txtRight, SingleText(raised.Right));
+    SetText(txtBottom, SingleText(raised.Bottom));
+  }
+  return answer != platform::BoxAnswer::Cancel;
+}
+
+void frmOptions::cmdOK_Click() {
+  if (!CheckMargins()) {
+    return;
+  }
+  GeneralSettings general = general_;
+  PrinterSettings printer = printer_;
+  Read<General>(kBindings, general);
+  general.DateFormat = static_cast<std::int32_t>(Send(cmbDate, CB_GETCURSEL));
+  general.Inches = Checked(optInches);
+  general.Portrait = Checked(optPort);
+  printer.PrinterCopies = ShortNumberOf(txtCopies);
+  const LRESULT row = Send(cmbLang, CB_GETCURSEL);
+  if (row != CB_ERR) {
+    COMBOBOXEXITEMW item{};
+    item.mask = CBEIF_LPARAM;
+    item.iItem = row;
+    Send(cmbLang, CBEM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    general.Language = languageFiles_[static_cast<std::size_t>(item.lParam)];
+  }
+  mdlVars::General = general;
+  mdlVars::Printer = printer;
+  SaveGeneralSettings();
+  SavePrinterSettings();
+  CloseKeepingTab(IDOK);
+}
+
+/// However the dialog is closed, the page that was shown comes back next time.
+void frmOptions::CloseKeepingTab(int result) {
+  SaveLastTab(ShownPage() + 1);
+  Close(result);
+}
+
+}  // namespace
+
+bool ShowOptionsDialog(platform::Dialog& owner) {
+  return frmOptions().ShowModal(owner.Window()) == IDOK;
+}
+
+}  // namespace folivant

@@ -1,0 +1,16 @@
+// The dialog in which the user picks the printer, its quality, paper bin and duplex mode.
+#pragma once
+
+#include "app/GeneralSettings.h"
+
+namespace folivant {
+
+namespace platform {
+class Dialog;
+}
+
+/// Shows the dialog; OK changes `settings`, all but the copies, and saves nothing. Returns whether OK was pressed. To
+/// be opened only when there is a printer.
+bool ShowPrinterDialog(platform::Dialog& owner, PrinterSettings& settings);
+
+}  // namespace folivant
