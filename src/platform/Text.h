@@ -13,8 +13,8 @@ std::wstring ToUpper(std::wstring_view text);
 void LowerInto(std::wstring_view text, wchar_t* out);
 void UpperInto(std::wstring_view text, wchar_t* out);
 
-/// The platform's case-insensitive text comparison: -1, 0 or +1. On Windows CompareString with the user's locale
-/// and NORM_IGNORECASE; in the native build lower-case code points.
+/// The platform's case-insensitive text comparison: -1, 0 or +1. On Windows CompareString with the user's locale,
+/// ignoring case, kana type and width; in the native build lower-case code points.
 int CompareText(std::wstring_view a, std::wstring_view b);
 /// Appends bytes that sort, as unsigned bytes and a shorter prefix first, exactly as CompareText orders the texts.
 /// Making a key once costs far less than comparing often.
