@@ -83,7 +83,7 @@ std::string ReadWholeFile(const std::wstring& path) {
   if (!file) {
     throw SystemError(FailedAction::ReadFile, full);
   }
-  std::string bytes(64 * 1024, '\0');
+  std::string bytes(std::size_t{64} * 1024, '\0');
   std::size_t filled = 0;
   for (;;) {
     const ssize_t got = read(file.Get(), bytes.data() + filled, bytes.size() - filled);

@@ -15,7 +15,7 @@
 namespace folivant::platform {
 namespace {
 
-constexpr std::size_t kBlockBytes = 64 * 1024;
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
 constexpr std::size_t kLongestName = 1024;  ///< bytes; this system allows 255, foreign volumes some more
 
 using Block = std::vector<char>;

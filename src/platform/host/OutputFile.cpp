@@ -12,7 +12,7 @@
 namespace folivant::platform {
 namespace {
 
-constexpr std::size_t kBlock = 64 * 1024;  ///< bytes
+constexpr std::size_t kBlock = std::size_t{64} * 1024;  ///< bytes
 
 }  // namespace
 

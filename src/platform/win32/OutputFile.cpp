@@ -11,7 +11,7 @@
 namespace folivant::platform {
 namespace {
 
-constexpr std::size_t kBlock = 64 * 1024;  ///< characters
+constexpr std::size_t kBlock = std::size_t{64} * 1024;  ///< characters
 
 OwnedFile Create(const std::wstring& path) {
   const std::wstring native = NativePath(path);
