@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include "app/mdlVars.h"
+#include "fakes/FakePlatform.h"
+#include "platform/RuntimeError.h"
+#include "shell/mdlFind.h"
+
+namespace folivant {
+namespace {
+
+using fakes::Fake;
+using fakes::Tree;
+
+/// Keeps the rows of the list that a run hands over.
+class Rows final : public ListingWriter {
+ public:
+  void BeginListing() override {}
+  void ListDirectory(const DirectoryListing&) override {}
+  void BeginTree(std::wstring_view) override {}
+  void TreeEntry(const FileRecord&) override {}
+  void DirectoryViewEntry(const DirNode&) override {}
+  void FindList(std::span<const FoundItem> rows) override {
+    ++Lists;
+    Items.assign(rows.begin(), rows.end());
+  }
+  void EndListing() override {}
+  void AbortListing() noexcept override {}
+
+  int Lists = 0;
+  std::vector<FoundItem> Items;
+};
+
+/// Cancels once `rows` rows were read.
+class CancelAfter final : public Progress {
+ public:
+  explicit CancelAfter(int rows) : left_(rows) {}
+  void ShowDirectory(std::wstring_view) override {}
+  void SetProgress(std::int32_t) override {}
+  void LetEventsThrough() override { --left_; }
+  bool Cancelled() const override { return left_ <= 0; }
+
+ private:
+  int left_;
+};
+
+class PathList : public testing::Test {
+ protected:
+  PathList() {
+    Tree().Dir(L"C:\\Data").File(L"README.TXT", 9999).File(L"Big.bin", 12345678).Dir(L"deep").File(L"b.doc", 10000);
+    mdlVars::DatePattern = L"yyyy/mm/dd";
+    mdlVars::Tree.StartPath = L"C:\\list.txt";
+  }
+
+  static Rows Read(const std::string& bytes) {
+    Tree().File(L"C:\\list.txt", bytes);
+    Rows rows;
+    NoProgress progress;
+    PrintFromFileList(rows, progress);
+    return rows;
+  }
+  static std::vector<std::wstring> NamesOf(const std::string& bytes) {
+    std::vector<std::wstring> names;
+    for (const FoundItem& item : Read(bytes).Items) {
+      names.push_back(item.Name);
+    }
+    return names;
+  }
+};
+using Names = std::vector<std::wstring>;
+
+TEST_F(PathList, ARowIsNameFolderSizeAndDate) {
+  const Rows rows = Read("c:\\data\\DEEP\\B.DOC\r\n");
+  ASSERT_EQ(rows.Items.size(), 1u);
+  EXPECT_EQ(rows.Items[0].Name, L"B.doc");
+  EXPECT_EQ(rows.Items[0].InFolder, L"C:\\Data\\Deep");
+  EXPECT_EQ(rows.Items[0].Size, L"9 kb");
+  EXPECT_EQ(rows.Items[0].Modified, L"2001/02/03 04:05");
+  EXPECT_EQ(rows.Lists, 1);
+}
+
+TEST_F(PathList, SizesHaveFixedUnits) {
+  mdlVars::Texts.Set(128, L"Octets");
+  EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Size, L"9,999 b ");
+}
+
+TEST_F(PathList, DatesAreLocalAndFollowTheRunsPattern) {
+  Fake().LocalOffsetMinutes = 120;
+  mdlVars::DatePattern = L"dd/mm/yy";
+  EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Modified, L"03/02/01 06:05");
+}
+
+TEST_F(PathList, BlankLinesYieldNoRows) {
+  EXPECT_EQ(NamesOf("\r\n   \r\nC:\\Data\\README.TXT\r\n\r\n\r\nC:\\Data\\Big.bin\r\n\r\n"),
+            (Names{L"Readme.txt", L"Big.bin"}));
+  EXPECT_EQ(mdlVars::Tree.FoundCount, 2);
+}
+
+TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
+  EXPECT_EQ(NamesOf("README.TXT\r\nC:README.TXT\r\n\\Data\r\nC:\r\nx\r\nC:\\Data\\Big.bin"), (Names{L"Big.bin"}));
+}
+
+TEST_F(PathList, AnEmptyFileStillStartsTheOutput) {
+  const Rows rows = Read("");
+  EXPECT_EQ(rows.Lists, 1);
+  EXPECT_TRUE(rows.Items.empty());
+  EXPECT_EQ(mdlVars::Tree.FoundCount, 0);
+}
+
+TEST_F(PathList, LinesMayEndInAnyWayAndHaveBlanksAround) {
+  EXPECT_EQ(NamesOf("  C:\\Data\\Big.bin  \nC:\\Data\\Big.bin\rC:\\Data\\Big.bin\r\nC:\\Data\\Big.bin").size(), 4u);
+}
+
+TEST_F(PathList, AnsiUtf8AndUtf16FilesAreRead) {
+  Tree().Dir(L"C:\\Data").File(L"Caf\u00E9.txt").File(L"\u0416.txt");
+  EXPECT_EQ(NamesOf("C:\\Data\\Caf\xE9.txt"), (Names{L"Caf\u00E9.txt"}));
+  EXPECT_EQ(NamesOf("\xEF\xBB\xBF"
+                    "C:\\Data\\\xD0\x96.txt\r\nC:\\Data\\Caf\xC3\xA9.txt"),
+            (Names{L"\u0416.txt", L"Caf\u00E9.txt"}));
+  EXPECT_EQ(NamesOf(std::string("\xFF\xFE"
+                                "C\0:\0\\\0D\0a\0t\0a\0\\\0\x16\x04.\0t\0x\0t\0\r\0\n\0",
+                                30)),
+            (Names{L"\u0416.txt"}));
+}
+
+TEST_F(PathList, AFileOfAMarkAloneIsEmpty) {
+  EXPECT_TRUE(NamesOf("\xFF\xFE").empty());
+  EXPECT_TRUE(NamesOf("\xEF\xBB\xBF").empty());
+}
+
+TEST_F(PathList, AVeryLongLineIsReadWhole) {
+  const std::wstring name = std::wstring(240, L'd');
+  std::wstring folder = L"C:";
+  std::string line = "C:";
+  for (int i = 0; i < 200; ++i) {
+    folder += L'\\' + name;
+    line += '\\' + std::string(240, 'd');
+  }
+  Tree().Dir(folder).File(L"Last.txt", 1);
+  EXPECT_EQ(NamesOf(line + "\\Last.txt\r\nC:\\Data\\Big.bin"), (Names{L"Last.txt", L"Big.bin"}));
+}
+
+TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
+  Tree().File(L"C:\\list.txt", "C:\\Data\\Big.bin\r\nC:\\Data\\gone.txt\r\nC:\\Data\\README.TXT\r\n");
+  Rows rows;
+  NoProgress progress;
+  try {
+    PrintFromFileList(rows, progress);
+    FAIL() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Action(), FailedAction::ReadFile);
+    EXPECT_EQ(error.Object(), L"C:\\Data\\gone.txt");
+  }
+  EXPECT_EQ(rows.Lists, 0);
+  EXPECT_EQ(mdlVars::Tree.FoundCount, 0);
+}
+
+TEST_F(PathList, AMissingListIsAnErrorThatNamesIt) {
+  Rows rows;
+  NoProgress progress;
+  try {
+    PrintFromFileList(rows, progress);
+    FAIL() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Object(), L"C:\\list.txt");
+    EXPECT_EQ(error.SystemCode(), 2u);
+  }
+}
+
+TEST_F(PathList, ARelativeListIsReadInTheCurrentDirectory) {
+  Tree().File(L"C:\\Work\\mine.txt", "C:\\Data\\Big.bin");
+  mdlVars::Tree.StartPath = L"mine.txt";
+  Rows rows;
+  NoProgress progress;
+  PrintFromFileList(rows, progress);
+  EXPECT_EQ(rows.Items.size(), 1u);
+}
+
+TEST_F(PathList, ACancelledRunRaisesNoList) {
+  Tree().File(L"C:\\list.txt", "C:\\Data\\Big.bin\r\nC:\\Data\\README.TXT\r\nC:\\Data\\gone.txt\r\n");
+  Rows rows;
+  CancelAfter progress(2);
+  PrintFromFileList(rows, progress);
+  EXPECT_EQ(rows.Lists, 0);
+  EXPECT_EQ(mdlVars::Tree.FoundCount, 2) << "the row after the cancel is not read";
+}
+
+}  // namespace
+}  // namespace folivant
