@@ -1,0 +1,183 @@
+// Texts from outside (filter files, language files, path lists, command lines) with random damage. Each seed gives the
+// same inputs on every machine. What is asserted are truths that hold for every input.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "app/CommandLine.h"
+#include "app/Settings.h"
+#include "app/StartUp.h"
+#include "app/mdlVars.h"
+#include "fakes/FakePlatform.h"
+#include "platform/ProfileText.h"
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+#include "shell/PathListText.h"
+#include "ui/Language.h"
+
+namespace folivant {
+namespace {
+
+using platform::ProfileText;
+
+/// Strings made of pieces that matter to the reader under test, and of any bytes.
+class Source {
+ public:
+  explicit Source(unsigned seed) : random_(seed) {}
+
+  std::size_t Below(std::size_t limit) { return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random_); }
+  std::string Bytes(const std::vector<std::string>& pieces, std::size_t count) {
+    std::string bytes;
+    for (std::size_t i = Below(count); i > 0; --i) {
+      bytes += Below(6) == 0 ? std::string(1, static_cast<char>(Below(256))) : pieces[Below(pieces.size())];
+    }
+    return bytes;
+  }
+  std::wstring Text(const std::vector<std::string>& pieces, std::size_t count) {
+    return platform::FromAnsi(Bytes(pieces, count));
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+const std::vector<std::string> kProfile = {"[",   "]",         "=",   ";",     "\r\n", "\n",      "\r",
+                                           " ",   "\t",        "\"",  "'",     "a",    "B",       "key",
+                                           "Key", "[section]", "[s]", "x=1\n", "\xE9", "\xFF\xFE"};
+const std::vector<std::string> kPaths = {"C:\\",
+                                         "Data",
+                                         "\\",
+                                         "\\\\",
+                                         "\r\n",
+                                         "\n",
+                                         "\r",
+                                         " ",
+                                         ".",
+                                         "..",
+                                         "*",
+                                         "?",
+                                         "a",
+                                         "\xFF\xFE",
+                                         "\xEF\xBB\xBF",
+                                         "\xD0\x96",
+                                         "\xF0\x9F\x98\x80",
+                                         "\xED\xA0\x80",
+                                         "\0"};
+const std::vector<std::string> kSwitches = {
+    "/f",   "/d", "/t", "/o", "/g", "/", " ", "\"", "C:\\sets\\a.fvf", "C:\\Data", ".", "p", "t", "x", "/deletesendto",
+    "list", "\\"};
+
+TEST(RandomProfileText, ReadsBackWhatItWroteAndKeepsTheRest) {
+  Source source(1);
+  for (int i = 0; i < 2000; ++i) {
+    const std::string bytes = source.Bytes(kProfile, 40);
+    ProfileText text(bytes);
+    const auto before = text.Read(L"s", L"x");
+    std::wstring value = source.Text({"a", " ", "\"", "'", "=", ";", "[", "]", "\xE9"}, 12);
+    std::erase_if(value, [](wchar_t c) { return c < L' '; });
+    text.Write(L"section", L"key", value);
+    EXPECT_EQ(text.Read(L"SECTION", L"KEY"), value) << bytes;
+    EXPECT_EQ(text.Read(L"s", L"x"), before) << bytes;
+    EXPECT_EQ(ProfileText(text.Bytes()).Read(L"section", L"key"), value) << bytes;
+  }
+}
+
+TEST(RandomPathLists, LinesHoldNoEndsAndNoOuterBlanks) {
+  Source source(2);
+  for (int i = 0; i < 2000; ++i) {
+    for (const std::wstring& line : LinesOf(PathListText(source.Bytes(kPaths, 40)))) {
+      EXPECT_EQ(line.find_first_of(L"\r\n"), line.npos);
+      EXPECT_FALSE(line.starts_with(L' ') || line.ends_with(L' '));
+    }
+  }
+}
+
+TEST(RandomPathLists, EveryListIsListedOrIsOneError) {
+  Source source(3);
+  fakes::Tree().Dir(L"C:\\Data").File(L"a").Dir(L"a.a");
+  fakes::Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=1\r\n");
+  for (int i = 0; i < 300; ++i) {
+    fakes::Tree().File(L"C:\\list", source.Bytes(kPaths, 12));
+    fakes::Fake().Messages.clear();
+    LoadFilterFile(L"C:\\sets\\a.fvf");
+    Start(L"C:\\list");
+    EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
+    EXPECT_TRUE(fakes::Fake().Messages.empty());
+  }
+}
+
+TEST(RandomFilterFiles, EveryBadValueIsReportedAndTheRestHasDefaultsOrValues) {
+  Source source(4);
+  const std::vector<std::string> lines = {"[Folivant 3.5]\r\n",
+                                          "SubLevel=",
+                                          "Filter=",
+                                          "Attr=",
+                                          "FilterDateMin=",
+                                          "MarginLeft=",
+                                          "FShow=",
+                                          "Show=",
+                                          "OutputTo=",
+                                          "1",
+                                          "0",
+                                          "2",
+                                          "/",
+                                          ".",
+                                          "-",
+                                          "True",
+                                          "\r\n",
+                                          "[x]\r\n"};
+  for (int i = 0; i < 2000; ++i) {
+    fakes::Tree().File(L"C:\\a.fvf", source.Bytes(lines, 60));
+    fakes::Fake().Messages.clear();
+    mdlVars::Format.SubLevel = 77;
+    LoadFilterFile(L"C:\\a.fvf");
+    EXPECT_FALSE(mdlVars::UseFilterFile);
+    EXPECT_NE(mdlVars::Format.SubLevel, 77);
+    EXPECT_LE(fakes::Fake().Messages.size(), 9u) << "at most one for each key";
+    for (const AttributeChoice choice : mdlVars::Filter.Attributes) {
+      EXPECT_LE(static_cast<int>(choice), 2);
+    }
+  }
+}
+
+TEST(RandomLanguageFiles, EveryTextIsThereAndShort) {
+  Source source(5);
+  const std::vector<std::string> lines = {
+      "[Messages]\r\n", "0=", "1=", "300=", "301=", "Language=", "text", "**", "\\n", "\r\n", "\"", " "};
+  for (int i = 0; i < 300; ++i) {
+    fakes::Tree().File(L"C:\\p\\english.ini", source.Bytes(lines, 60));
+    Messages texts;
+    std::wstring language = L"english.ini";
+    LoadLanguage(L"C:\\p", language, texts);
+    for (std::size_t number = 0; number < Messages::kCount; ++number) {
+      EXPECT_LE(texts[number].size(), 299u);
+      EXPECT_NE(texts[number], L"**");
+    }
+    ListLanguages(L"C:\\p");
+  }
+}
+
+TEST(RandomCommandLines, ArgumentsHoldNoSlashAndEveryLineEnds) {
+  Source source(6);
+  fakes::Tree().Dir(L"C:\\Data").File(L"a.txt");
+  for (int i = 0; i < 400; ++i) {
+    fakes::Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nPath=C:\\Data\r\nOutputTo=1\r\n");
+    const std::wstring line = source.Text(kSwitches, 12);
+    const CommandLine command = ReadCommandLine(line);
+    EXPECT_EQ(command.HasSwitches, line.find(L'/') != line.npos);
+    for (const auto& argument : {command.FilterFile, command.Directory, command.OutputFile}) {
+      EXPECT_EQ(argument.value_or(L"").find(L'/'), std::wstring::npos);
+    }
+    fakes::Fake().Messages.clear();
+    mdlVars::OutputFile.clear();
+    mdlVars::OutputKind = OutputKind::Text;
+    const int status = Start(line);
+    EXPECT_TRUE(status == kExitDone || status == kExitFailed) << status;
+    EXPECT_LE(fakes::Fake().Messages.size(), 1u);
+    EXPECT_EQ(fakes::Fake().OpenOutputFiles, 0);
+    EXPECT_TRUE(fakes::Fake().Store.empty());
+  }
+}
+
+}  // namespace
+}  // namespace folivant

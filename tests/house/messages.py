@@ -1,0 +1,72 @@
+#!/usr/bin/env python3
+"""docs/messages.md lists every message number with its English text and the sources that use it. It is written from
+src/ui/Text.h and lang/english.ini; without --write it is only compared.
+
+    tests/house/messages.py REPOSITORY [--write]
+"""
+import re
+import sys
+from pathlib import Path
+
+ROOT = Path(sys.argv[1])
+PAGE = ROOT / 'docs/messages.md'
+HEAD = '''# Messages
+
+Every text that the program shows has a number. `src/ui/Text.h` names the numbers, a file in `lang/` holds the texts of one
+language, and this page lists them with the English texts and the sources that use them. Written by
+`tests/house/messages.py . --write`; a test compares it.
+
+In a language file `&` stands before the letter that is pressed with Alt, `\\n` is a line break, and `%1`, `%2` and `%3` are
+replaced by the program. A text ends after 299 characters; a number that a file lacks is taken from `english.ini`, and one
+that is missing there shows itself: `**57**`. Numbers that are not listed are unused.
+'''
+
+
+def english():
+    lines = (ROOT / 'lang/english.ini').read_text(encoding='utf-8').splitlines()
+    return dict(re.findall(r'^(\d+)=(.*)$', '\n'.join(lines), re.M))
+
+
+def uses():
+    found = {}
+    for source in sorted((ROOT / 'src').rglob('*')):
+        if source.suffix in ('.cpp', '.h') and source.name != 'Text.h':
+            for name in set(re.findall(r'\bText::(\w+)', source.read_text(encoding='utf-8'))):
+                found.setdefault(name, []).append(source.relative_to(ROOT / 'src').as_posix())
+    return found
+
+
+def cell(text):
+    return text.replace('|', '\\|')
+
+
+def page():
+    texts, used, unused = english(), uses(), []
+    rows = [HEAD]
+    body = (ROOT / 'src/ui/Text.h').read_text(encoding='utf-8').split('enum class Text')[1]
+    for line in body.splitlines():
+        section = re.match(r'\s*// (.*)', line)
+        entry = re.match(r'\s*(\w+) = (\d+),(?:\s*///< (.*))?', line)
+        if section:
+            rows += ['', f'## {section[1]}', '', '| Number | Name | English text | Used in |', '|---|---|---|---|']
+        elif entry:
+            name, number, note = entry.groups()
+            if name not in used:
+                unused.append(f'{number} ({name}) is used nowhere')
+            text = f'`{cell(texts[number])}`' + (f'<br>{cell(note)}' if note else '')
+            rows.append(f'| {number} | {name} | {text} | {", ".join(used.get(name, []))} |')
+    return '\n'.join(rows) + '\n', unused
+
+
+def main():
+    text, unused = page()
+    if '--write' in sys.argv:
+        PAGE.write_text(text, encoding='utf-8')
+    stale = not PAGE.exists() or PAGE.read_text(encoding='utf-8') != text
+    if stale:
+        print('docs/messages.md is not what the sources say: run tests/house/messages.py . --write')
+    print('\n'.join(unused))
+    return 1 if stale else 0
+
+
+sys.exit(main())
