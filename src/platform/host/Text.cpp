@@ -164,7 +164,7 @@ std::string ToUtf16(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(2 * text.size());
   for (const wchar_t c : text) {
-    const unsigned code = static_cast<unsigned>(c);
+    const char32_t code = static_cast<char32_t>(c);
     if (c < kFirstSupplementary) {
       AppendUnit(code, bytes);
     } else {
