@@ -58,7 +58,8 @@ class FindListing : public DesktopTest {
   static std::string ScreenFile() {
     wchar_t folder[MAX_PATH];
     GetTempPathW(MAX_PATH, folder);
-    return ReadBytes(std::wstring(folder) + L"~fv00001.tmp");
+    const std::wstring file = std::wstring(folder) + L"~fv00001.tmp";
+    return Exists(file) ? ReadBytes(file) : std::string();
   }
 
   Scratch scratch;
@@ -247,10 +248,10 @@ TEST_F(FindListing, WithoutInnerWindowsACommandLineRunFails) {
 TEST_F(FindListing, AnOwnerThatDiesIsNamedAndTheProgramGoesOn) {
   const StandIn window(L"Find: mortal", std::vector<std::string>(300, "a\tb\tc\td\te"), L"dies-after 500");
   const auto program = Open();
-  const Window box = program->WaitForBox();
+  const Window main = program->WaitForWindow(L"Folivant");
+  const Window box = program->WaitForWindow(L"Folivant", main);
   EXPECT_NE(box.BoxText().find(L"Find: mortal"), std::wstring::npos) << "names the window";
   box.Answer(IDOK);
-  const Window main = program->WaitForWindow(L"Folivant");
   EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
 }
 
