@@ -3,6 +3,7 @@
 
     tests/browser/browser_test.py SUITE PROGRAM [its first arguments]
 """
+import os
 import shutil
 import subprocess
 import sys
@@ -50,7 +51,8 @@ class ListedTree(unittest.TestCase):
         settings.write_text(f'[Folivant 3.5]\r\nFormat={style}\r\nFilter=0000\r\nHeader=Listing\r\nFShow=10110\r\n')
         listing = self.work / f'listing{style}.{kind}ml'
         done = subprocess.run([*PROGRAM, '/f', windows_path(settings), '/d', windows_path(self.tree), '/t', kind[0],
-                               '/o', windows_path(listing), '/g'], capture_output=True, timeout=120)
+                               '/o', windows_path(listing), '/g'], capture_output=True, timeout=120,
+                              env={**os.environ, 'XDG_CONFIG_HOME': str(self.work)})
         self.assertEqual(done.returncode, 0, done.stderr)
         return listing
 
@@ -65,12 +67,16 @@ class Html(ListedTree):
     def headings(self):
         return self.browser.run('return [...document.querySelectorAll("h4")].map(h => h.textContent)')
 
-    def heading_of(self, directory):
-        return 'Directory ' + self.shown_path(self.tree / directory)
+    def path_in(self, heading):
+        """The path, which follows the language's word for it."""
+        return heading[heading.index(' Z:\\') + 1:]
+
+    def listed_paths(self):
+        return sorted(self.shown_path(self.tree / directory) for directory in DIRECTORIES)
 
     def test_every_directory_has_a_table(self):
         self.browser.open(self.list_as('ht', 1))
-        self.assertEqual(sorted(self.headings()), sorted(self.heading_of(d) for d in DIRECTORIES))
+        self.assertEqual(sorted(self.path_in(heading) for heading in self.headings()), self.listed_paths())
         tables = self.browser.run('''return [...document.querySelectorAll("table")].map(table => ({
             captions: [...table.rows[0].cells].map(cell => cell.tagName + " " + cell.innerText.trim()),
             widths: [...table.rows].map(row => row.cells.length),
@@ -90,18 +96,19 @@ class Html(ListedTree):
             for (const heading of document.querySelectorAll("h4"))
                 if (heading.compareDocumentPosition(a) & Node.DOCUMENT_POSITION_FOLLOWING) before = heading;
             return [before.textContent, a.textContent.trim()]})''')
-        self.assertEqual(sorted(heading + '\\' + name for heading, name in links),
-                         sorted(self.heading_of(d) for d in DIRECTORIES[1:]))
-        for index, (heading, name) in enumerate(links):
-            with self.subTest(name=name):
+        targets = [self.path_in(heading) + '\\' + name for heading, name in links]
+        self.assertEqual(sorted([self.shown_path(self.tree), *targets]), self.listed_paths())
+        for index, target in enumerate(targets):
+            with self.subTest(target=target):
                 self.browser.open(listing)
                 self.browser.run('scrollTo(0, 0)')
                 self.browser.click(index, 'a[href]')
-                scrolled, first = self.browser.run('''
+                scrolled, heading, near_top = self.browser.run('''
                     const first = [...document.querySelectorAll("h4")].find(h => h.getBoundingClientRect().top > -1);
-                    return [scrollY, [first.textContent, first.getBoundingClientRect().top < 50]]''')
+                    return [scrollY, first.textContent, first.getBoundingClientRect().top < 50]''')
                 self.assertGreater(scrolled, 0)
-                self.assertEqual(first, [heading + '\\' + name, True])
+                self.assertEqual(self.path_in(heading), target)
+                self.assertTrue(near_top)
 
     def test_tree_and_directory_view_are_one_table(self):
         for style, rows in [(2, 1 + len(DIRECTORIES) * (FILES_PER_DIRECTORY + 1) - 1), (3, 1 + len(DIRECTORIES))]:
