@@ -7,6 +7,7 @@
 #include "app/StartUp.h"
 #include "app/WindowPlace.h"
 #include "app/mdlVars.h"
+#include "output/Columns.h"
 #include "output/EntryFormatting.h"
 #include "output/mdlPrint.h"
 #include "platform/Files.h"
@@ -33,10 +34,6 @@ constexpr Binding<NoRecord> kCaptions[] = {
     {cmdOptions, Text::Options},     {cmdOK, Text::Ok},
     {cmdCancel, Text::Close},        {cmdHelp, Text::Help},
 };
-
-constexpr Text kStyleTexts[] = {Text::NoSubdirectories, Text::IncludeSubdirectories, Text::TreeStyle,
-                                Text::DirectoryView,    Text::FullPathList,          Text::FindWindowStyle,
-                                Text::PathListStyle};
 
 /// The types of the save dialog; their order is that of the file kinds. The last two are the same in every language.
 std::wstring OutputTypes(const Messages& texts) {
@@ -185,9 +182,8 @@ void frmMain::MakeFilterLabel() {
 }
 
 void frmMain::MakeFormatLabel() {
-  const auto style = static_cast<std::size_t>(mdlVars::Format.ListingStyle);
-  if (style < std::size(kStyleTexts)) {
-    SetText(lblFormat, mdlVars::Texts[kStyleTexts[style]]);
+  if (const std::optional<Text> style = StyleCaption(mdlVars::Format.ListingStyle)) {
+    SetText(lblFormat, mdlVars::Texts[*style]);
   }
 }
 

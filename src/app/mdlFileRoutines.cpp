@@ -25,17 +25,44 @@ std::wstring AddBackslash(std::wstring_view text) {
   return result;
 }
 
-std::wstring FormatSizeFixedUnits(Currency bytes) {
-  static constexpr const wchar_t* kUnits[] = {L"b ", L"kb", L"Mb", L"Gb", L"Tb"};
+void AppendGrouped(std::int64_t number, std::wstring& out) {
+  const std::wstring& separator = platform::Locale().ThousandsSeparator;
+  wchar_t digits[20];  // the last one first
+  std::size_t count = 0;
+  std::uint64_t rest = number < 0 ? 0U - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
+  do {
+    digits[count++] = static_cast<wchar_t>(L'0' + rest % 10);
+    rest /= 10;
+  } while (rest != 0);
+  if (number < 0) {
+    out += L'-';
+  }
+  while (count > 0) {
+    out += digits[--count];
+    if (count > 0 && count % 3 == 0) {
+      out += separator;
+    }
+  }
+}
+
+std::wstring FormatGrouped(std::int64_t number) {
+  std::wstring text;
+  AppendGrouped(number, text);
+  return text;
+}
+
+ScaledSize ScaleSize(Currency bytes) {
   std::size_t unit = 0;
-  for (; bytes.Whole() >= 10'000 && unit + 1 < std::size(kUnits); ++unit) {
+  for (; bytes.Whole() >= 10'000 && unit + 1 < kSizeUnits; ++unit) {
     bytes = bytes.NextUnit();
   }
-  std::wstring number = std::to_wstring(bytes.Whole());
-  for (std::size_t end = number.size(); end > 3; end -= 3) {
-    number.insert(end - 3, platform::Locale().ThousandsSeparator);
-  }
-  return number + L' ' + kUnits[unit];
+  return {bytes.Whole(), unit};
+}
+
+std::wstring FormatSizeFixedUnits(Currency bytes) {
+  static constexpr const wchar_t* kUnits[kSizeUnits] = {L"b ", L"kb", L"Mb", L"Gb", L"Tb"};
+  const ScaledSize size = ScaleSize(bytes);
+  return FormatGrouped(size.Number) + L' ' + kUnits[size.Unit];
 }
 
 std::wstring ReplaceAll(std::wstring_view text, std::wstring_view search, std::wstring_view replacement) {

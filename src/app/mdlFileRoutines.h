@@ -1,6 +1,7 @@
 // Small text, path and number helpers. Paths have "\" as separator; comparisons are exact.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -13,7 +14,20 @@ namespace folivant {
 std::wstring StripNulls(std::wstring_view text);
 std::wstring Trim(std::wstring_view text);  ///< blanks (U+0020) only
 std::wstring AddBackslash(std::wstring_view text);
-/// A size with fixed unit names, for file lists; rule and threshold as in FormatSize (output/EntryFormatting.h).
+/// A whole number with the user's thousands separator between groups of three ("#,##0").
+std::wstring FormatGrouped(std::int64_t number);
+void AppendGrouped(std::int64_t number, std::wstring& out);
+
+/// A size in the unit that listings show it in.
+struct ScaledSize {
+  std::int64_t Number = 0;
+  std::size_t Unit = 0;  ///< 0 bytes to 4 terabytes
+};
+inline constexpr std::size_t kSizeUnits = 5;
+/// Divides by 1024, dropping fractions, while the number is 10,000 or more, at most four times. The threshold is not
+/// 1024, so that small files keep their exact size.
+ScaledSize ScaleSize(Currency bytes);
+/// A size with fixed unit names, for file lists; FormatSize (output/EntryFormatting.h) takes them from the language.
 std::wstring FormatSizeFixedUnits(Currency bytes);
 /// Replaces every occurrence; a replacement is not searched again. An empty search text changes nothing.
 std::wstring ReplaceAll(std::wstring_view text, std::wstring_view search, std::wstring_view replacement);

@@ -1,5 +1,7 @@
 #include "output/Columns.h"
 
+#include "app/mdlFileRoutines.h"
+
 namespace folivant {
 namespace {
 

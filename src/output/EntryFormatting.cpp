@@ -1,16 +1,17 @@
 #include "output/EntryFormatting.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 
+#include "app/mdlFileRoutines.h"
 #include "platform/Locale.h"
 
 namespace folivant {
 namespace {
 
-constexpr std::array kUnits = {Text::UnitBytes, Text::UnitKilobytes, Text::UnitMegabytes, Text::UnitGigabytes,
-                               Text::UnitTerabytes};
-constexpr std::int64_t kLargestShown = 9'999;
+constexpr std::array<Text, kSizeUnits> kUnits = {Text::UnitBytes, Text::UnitKilobytes, Text::UnitMegabytes,
+                                                 Text::UnitGigabytes, Text::UnitTerabytes};
 constexpr std::size_t kUnitWidth = 2;
 
 /// At least `digits` digits, with leading zeros; the last `digits` of a longer number.
@@ -54,38 +55,13 @@ std::wstring ShortDate(DateValue date) {
 
 }  // namespace
 
-void AppendGrouped(std::int64_t number, std::wstring& out) {
-  const std::wstring& separator = platform::Locale().ThousandsSeparator;
-  const std::wstring digits =
-      std::to_wstring(number < 0 ? 0U - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number));
-  if (number < 0) {
-    out += L'-';
-  }
-  for (std::size_t i = 0; i < digits.size(); ++i) {
-    if (i > 0 && (digits.size() - i) % 3 == 0) {
-      out += separator;
-    }
-    out += digits[i];
-  }
-}
-
-std::wstring FormatGrouped(std::int64_t number) {
-  std::wstring text;
-  AppendGrouped(number, text);
-  return text;
-}
-
 void AppendSize(Currency bytes, const Messages& texts, std::wstring& out) {
-  std::size_t unit = 0;
-  while (bytes.Whole() > kLargestShown && unit + 1 < kUnits.size()) {
-    bytes = bytes.NextUnit();
-    ++unit;
-  }
-  AppendGrouped(bytes.Whole(), out);
+  const ScaledSize size = ScaleSize(bytes);
+  AppendGrouped(size.Number, out);
   out += L' ';
-  const std::wstring& name = texts[kUnits[unit]];
-  out.append(name, 0, kUnitWidth);
-  out.append(kUnitWidth - (name.size() < kUnitWidth ? name.size() : kUnitWidth), L' ');
+  const std::wstring& unit = texts[kUnits[size.Unit]];
+  out.append(unit, 0, kUnitWidth);
+  out.append(kUnitWidth - std::min(unit.size(), kUnitWidth), L' ');
 }
 
 std::wstring FormatSize(Currency bytes, const Messages& texts) {

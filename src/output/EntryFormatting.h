@@ -15,13 +15,8 @@
 
 namespace folivant {
 
-/// A whole number with the user's thousands separator between groups of three ("#,##0").
-std::wstring FormatGrouped(std::int64_t number);
-void AppendGrouped(std::int64_t number, std::wstring& out);
-
 /// The size text of listings: at most four digits, thousands grouped, one blank, two unit characters ("9,999 kb").
-/// `bytes` is divided by 1024, dropping fractions, while it is 10,000 or more, at most four times; the threshold is
-/// not 1024, so that small files keep their exact size. Beyond terabytes the number grows past four digits.
+/// ScaleSize (app/mdlFileRoutines.h) chooses the unit. Beyond terabytes the number grows past four digits.
 std::wstring FormatSize(Currency bytes, const Messages& texts);
 /// The same appended to a text: what the scanner uses for every entry.
 void AppendSize(Currency bytes, const Messages& texts, std::wstring& out);

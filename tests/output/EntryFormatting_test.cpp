@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/mdlFileRoutines.h"
 #include "fakes/FakePlatform.h"
 #include "output/TestTexts.h"
 
