@@ -225,6 +225,65 @@ TEST_F(CommandLine, AMissingFileInAPathListIsNamed) {
   EXPECT_EQ(program.WaitForExit(), 1u);
 }
 
+TEST_F(CommandLine, AFilterFileThatIsNoneGivesTheDefaults) {
+  filter = scratch.File(L"bad.fvf", std::string_view("\xFF\xFE\0[Fol\r\n=\r\n]\x80;Format=9\r\n", 27));
+  const Program program(Line(L"/t t /o " + Output() + L" /g"));
+  EXPECT_EQ(program.WaitForExit(), 0u);
+  EXPECT_NE(ReadBytes(Output()).find("A.txt"), std::string::npos);
+}
+
+TEST_F(CommandLine, AFullDiskIsReportedWithFileNameAndReason) {
+  const std::wstring full = L"Z:\\dev\\.\\full";  // the dot keeps ".txt" away
+  if (!Exists(full)) {
+    GTEST_SKIP() << "this system has no disk that is always full";
+  }
+  const Program program(Line(L"/t t /o " + full + L" /g"));
+  const Window box = program.WaitForBox();
+  EXPECT_NE(box.BoxText().find(L"\\full"), std::wstring::npos) << "names the file";
+  EXPECT_NE(box.BoxText().find(L"(112)"), std::wstring::npos) << "carries the system's number";
+  box.Answer(IDOK);
+  EXPECT_EQ(program.WaitForExit(), 1u);
+}
+
+/// A copy of the program in a folder whose language files are the test's own.
+class LanguageFiles : public CommandLine {
+ protected:
+  LanguageFiles() : program(scratch.Dir(L"Program") + L"\\Folivant.exe") {
+    CopyFileW(ProgramPath().c_str(), program.c_str(), FALSE);
+  }
+  void ExpectTexts(const std::wstring& problem, const std::wstring& hint) const {
+    const Program running(L"/d " + Data(), {}, program);
+    const Window box = running.WaitForBox();
+    EXPECT_EQ(WithoutReturns(box.BoxText()), problem + L"\nNo filter file specified.\n\n" + hint);
+    box.Answer(IDOK);
+    EXPECT_EQ(running.WaitForExit(), 1u);
+  }
+
+  std::wstring program;
+};
+
+TEST_F(LanguageFiles, WithoutAnyTextsShowTheirNumbers) {
+  ExpectTexts(L"**22**", L"**23**");
+}
+
+TEST_F(LanguageFiles, AMalformedOneGivesNumbers) {
+  scratch.File(L"Program\\english.ini", std::string_view("\xFF\xFE[\0M\0\r\n22=\x80", 13));
+  ExpectTexts(L"**22**", L"**23**");
+}
+
+TEST_F(LanguageFiles, AMissingOneFallsBackToEnglish) {
+  scratch.File(L"Program\\english.ini", "[Messages]\r\n22=A problem:\r\n23=Read the help.\r\n");
+  WriteStore(L"Settings", L"Language", L"gone.ini");
+  ExpectTexts(L"A problem:", L"Read the help.");
+}
+
+TEST_F(LanguageFiles, AKeyThatTheChosenOneLacksComesFromEnglish) {
+  scratch.File(L"Program\\english.ini", "[Messages]\r\n22=A problem:\r\n");
+  scratch.File(L"Program\\my.lang.ini", "[Messages]\r\n23=Lees de hulp.\r\n");
+  WriteStore(L"Settings", L"Language", L"my.lang.ini");
+  ExpectTexts(L"A problem:", L"Lees de hulp.");
+}
+
 class SendTo : public CommandLine {
  protected:
   SendTo() { DeleteFileW(Target().c_str()); }

@@ -44,12 +44,15 @@ class ExeTest(unittest.TestCase):
         path.write_text('\r\n'.join(['[Folivant 3.5]', 'Header=Listing', *lines, '']))
         return path
 
-    def run_program(self, *lines, kind='t', native=False, output=None, tree=None, environment=None, prefix=()):
-        """One /g run; returns its status, what it said on stderr, and the listing (None when there is none)."""
+    def run_program(self, *lines, kind='t', native=False, output=None, tree=None, environment=None):
+        """One /g run; returns its status, what it said on stderr, and the listing (None when there is none). Without a
+        directory among the arguments when the filter file names one."""
         output = output or self.work / ('native.out' if native else 'exe.out')
-        arguments = ['/f', windows_path(self.filter_file(*lines)), '/d', windows_path(tree or self.tree), '/t', kind,
-                     '/o', windows_path(output), '/g']
-        command = [*prefix, *([HOST] if native else [RUN_WINDOWS, EXE]), *arguments]
+        directory = ['/d', windows_path(tree or self.tree)]
+        if tree is None and any(line.startswith('Path=') for line in lines):
+            directory = []
+        arguments = ['/f', windows_path(self.filter_file(*lines)), *directory, '/t', kind, '/o', windows_path(output), '/g']
+        command = [*([HOST] if native else [RUN_WINDOWS, EXE]), *arguments]
         done = subprocess.run(command, capture_output=True, timeout=120, env=environment)
         listing = output.read_bytes() if output.is_file() else None
         return done.returncode, done.stderr, listing
@@ -150,6 +153,12 @@ class OddTrees(ExeTest):
             with self.subTest(native=native):
                 self.assertEqual(self.paths(native=native)[-1], '\\'.join(names) + '\\Bottom.txt')
 
+    def test_a_thousand_directories_in_each_other(self):
+        self.file('d/' * 1000 + 'Bottom.txt')
+        for native in [False, True]:
+            with self.subTest(native=native):
+                self.assertEqual(self.paths(native=native)[-1], 'd\\' * 1000 + 'Bottom.txt')
+
     def test_names_that_the_code_page_cannot_hold(self):
         self.file('Caf\u00e9.txt')
         self.file('\u0416.txt')
@@ -177,6 +186,47 @@ class OddTrees(ExeTest):
                 self.assertEqual(rows['.secret'], ' a  h')
                 self.assertEqual(rows['Plain.txt'], ' a   ')
                 self.assertEqual(rows['Fixed.txt'], ' ar  ')
+
+
+class PathLists(ExeTest):
+    def rows(self, content, native):
+        """Status, and name and folder of each row of the listing of a path-list file with these bytes."""
+        path = self.work / 'paths.lst'
+        path.write_bytes(content)
+        status, _, listing = self.run_program('Format=6', f'Path={windows_path(path)}', kind='c', native=native)
+        lines = (listing or b'').decode('cp1252').splitlines()
+        return status, [tuple(line.split(';')[:2]) for line in lines if windows_path(self.tree) in line]
+
+    def check(self, content, expected):
+        for native in [False, True]:
+            with self.subTest(native=native):
+                self.assertEqual(self.rows(content, native), (0, [(name, windows_path(self.tree)) for name in expected]))
+
+    def test_blank_lines_yield_no_rows(self):
+        tree = windows_path(self.tree)
+        self.file('One.txt')
+        self.file('Two.txt')
+        self.check(f'\r\n{tree}\\One.txt\r\n   \r\n{tree}\\Two.txt\r\n\r\n'.encode(), ['One.txt', 'Two.txt'])
+
+    def test_utf16_with_a_byte_order_mark(self):
+        tree = windows_path(self.tree)
+        self.file('Caf\u00e9.txt')
+        self.file('Two.txt')
+        text = f'\ufeff{tree}\\Caf\u00e9.txt\r\n{tree}\\Two.txt'
+        self.check(text.encode('utf-16-le'), ['Caf\u00e9.txt', 'Two.txt'])
+
+    def test_the_ansi_code_page_without_a_mark(self):
+        self.file('Caf\u00e9.txt')
+        self.check(f'{windows_path(self.tree)}\\Caf\u00e9.txt\n'.encode('cp1252'), ['Caf\u00e9.txt'])
+
+    def test_an_empty_list(self):
+        self.check(b'', [])
+
+    def test_a_missing_file_or_an_endless_line_ends_the_run_with_status_1(self):
+        for name in ['Gone.txt', 'x' * 40000]:
+            with self.subTest(length=len(name)):
+                status, _ = self.rows(f'{windows_path(self.tree)}\\{name}\r\n'.encode(), native=True)
+                self.assertEqual(status, 1)
 
 
 class Failures(ExeTest):
@@ -211,9 +261,10 @@ class Failures(ExeTest):
     def test_full_disk_natively(self):
         for number in range(300):
             self.file(f'File{number:03}.txt')
-        status, errors, _ = self.run_program('Format=4', native=True, output=Path('/dev/full'))
+        (self.work / 'full.txt').symlink_to('/dev/full')
+        status, errors, _ = self.run_program('Format=4', native=True, output=self.work / 'full.txt')
         self.assertEqual(status, 1)
-        self.assertIn(b'Z:\\dev\\full', errors)
+        self.assertIn(b'\\full.txt', errors)
         self.assertIn(b'No space left on device', errors)
         self.assertIn(b'(28)', errors)
 
