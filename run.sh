@@ -7,13 +7,13 @@ usage() {
   sed -n '2,4s/^# \{0,1\}//p' "$0" >&2
   exit 1
 }
-cd_back=$PWD
-cd "$(dirname "$0")"
-folder=$PWD kind=t style=1
-if [ $# -gt 0 ]; then
-  folder=$(cd "$cd_back" && cd "$1" && pwd) || usage
+here=$(cd "$(dirname "$0")" && pwd)
+folder=$here kind=t style=1
+if [ $# -gt 0 ] && [ -d "$1" ]; then
+  folder=$(cd "$1" && pwd)
   shift
 fi
+cd "$here"
 for word in "$@"; do
   case $word in
     text) kind=t ;; tab) kind=a ;; csv) kind=c ;; html) kind=h ;; xml) kind=x ;;
@@ -31,7 +31,8 @@ trap 'rm -rf "$work"' EXIT
 printf '[Folivant 3.5]\r\nFormat=%s\r\n' "$style" >"$work/run.fvf"
 windows() { printf 'Z:%s' "$1" | tr / '\\'; }
 status=0
-FOLIVANT_NO_DISPLAY=1 FOLIVANT_PREFIX=$PWD/build/wine tests/env/with-wine.sh tests/env/run-windows.sh build/windows/Folivant.exe \
+# The Wine prefix is kept, for speed; two runs at once take turns.
+FOLIVANT_NO_DISPLAY=1 FOLIVANT_PREFIX=$PWD/build/wine flock -o build/wine.lock tests/env/with-wine.sh tests/env/run-windows.sh build/windows/Folivant.exe \
   /f "$(windows "$work/run.fvf")" /d "$(windows "$folder")" /t "$kind" /o "$(windows "$work/listing.out")" /g || status=$?
 [ -f "$work/listing.out" ] && iconv -f CP1252 -t UTF-8 "$work/listing.out" | tr -d '\r'
 exit $status

@@ -8,10 +8,12 @@ set -u
 here=$(cd "$(dirname "$0")" && pwd)
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/folivant.XXXXXX")
 started=()
+command=
 
 finish() {
   local status=$?
   trap - EXIT INT TERM
+  [ -n "$command" ] && kill -- "-$command" 2>/dev/null
   WINEPREFIX=$WINEPREFIX timeout 10 /usr/lib/wine/wineserver64 -k 2>/dev/null
   for pid in "${started[@]}"; do
     kill "$pid" 2>/dev/null
@@ -28,7 +30,8 @@ export WINEDLLOVERRIDES='winedbg.exe=d;winemenubuilder.exe=d;mscoree=d;mshtml=d'
 mkdir -p "$HOME" "$TMPDIR" "$XDG_CONFIG_HOME" "$(dirname "$WINEPREFIX")"
 unset DISPLAY WAYLAND_DISPLAY
 trap finish EXIT
-trap 'exit 130' INT TERM
+trap 'exit 130' INT
+trap 'exit 143' TERM
 
 if [ -z "${FOLIVANT_NO_DISPLAY:-}" ]; then
   mkfifo "$scratch/display"
@@ -55,4 +58,7 @@ if [ -z "${FOLIVANT_NO_DISPLAY:-}" ] && [ -f "$here/../../build/windows/resident
   started+=($!)
 fi
 
-"$@"
+# In a process group of its own and waited for, so that an interrupt ends it, and everything that it started, at once.
+setsid "$@" <&0 &
+command=$!
+wait "$command"
