@@ -40,6 +40,9 @@ std::wstring WithoutEnd(std::wstring text, const wchar_t* end) {
 
 std::wstring ErrorText(const RuntimeError& error, const Messages& texts) {
   std::wstring sentence = texts[TextOf(error.Action())];
+  if (sentence.find(L"%1") == sentence.npos) {  // without a language file the facts are shown all the same
+    sentence += L" \"%1\": %2 (%3)";
+  }
   if (error.SystemText().empty() && error.SystemCode() == 0) {  // nothing to say but what could not be done
     sentence = WithoutEnd(sentence.substr(0, sentence.find(L"%2")), L" :,(") + L'.';
   }

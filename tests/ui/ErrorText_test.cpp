@@ -28,6 +28,13 @@ TEST(ErrorText, EndsWithTheObjectWhenTheSystemWasNotInvolved) {
   EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"a%2b", {}, 0), texts), L"Cannot read \"a%2b\".");
 }
 
+TEST(ErrorText, ShowsTheFactsWhenTheTextIsMissing) {
+  Messages texts;
+  texts.Set(161, L"**161**");
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"C:\\a", L"Gone.", 2), texts),
+            L"**161** \"C:\\a\": Gone. (2)");
+}
+
 TEST(ErrorText, HasOneTextForEachAction) {
   const struct {
     FailedAction action;
