@@ -6,7 +6,7 @@
 namespace folivant {
 namespace {
 
-constexpr std::int64_t kSecondsPerDay = 24 * 60 * 60;
+constexpr std::int64_t kSecondsPerDay = std::int64_t{24} * 60 * 60;
 constexpr std::chrono::sys_days kDayZero = std::chrono::year{1899} / 12 / 30;
 
 }  // namespace
