@@ -27,6 +27,16 @@ constexpr std::wstring_view kAfterSizeCaption = L"   ";
 constexpr std::array<double EntryPositions::*, kFurtherColumns.size()> kEntryPlaces = {
     &EntryPositions::DosName, &EntryPositions::SizeEnd, &EntryPositions::Date, &EntryPositions::Attributes};
 
+/// A caption that would run into the one before it loses its end.
+std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasure& measure) {
+  constexpr std::wstring_view kDots = L"...";
+  if (measure.WidthOf(caption) <= room) {
+    return std::wstring(caption);
+  }
+  std::wstring cut(caption.substr(0, DrawnMeasure(measure).Fit(caption, room - measure.WidthOf(kDots))));
+  return cut += kDots;
+}
+
 platform::PageFont ListingFont(const GeneralSettings& general) {
   return {general.FontName, static_cast<double>(general.FontSize), false};
 }
@@ -127,7 +137,10 @@ void PrinterWriter::DrawDirectoryCaptions() {
   DrawAtOrigin(run_.Texts[Text::DirectoryCaption]);
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
     if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
-      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i], run_.Texts[kDirectoryColumns[i].Caption]);
+      const double begin = i == 0 ? directoryAt_.NameWidth : directoryAt_.Ends[i - 1];
+      const double room = directoryAt_.Ends[i] - begin - page_->RememberedWidthOf(L" ");
+      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i],
+                          CutCaption(run_.Texts[kDirectoryColumns[i].Caption], room, *page_));
     }
   }
 }

@@ -464,6 +464,14 @@ TEST_F(PageWriter, DirectoryViewNumbersEndAtTheirColumns) {
   EXPECT_EQ(printer.At(1, kOrigin + 9120 - 900, kFirstLine), L"4,882 kb");
 }
 
+TEST_F(PageWriter, DirectoryViewCaptionsNeverRunIntoEachOther) {
+  // A column of 1,020 has room for 960 beside a blank: five of "Total size", which is 1,140 wide, and the dots.
+  texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Total size");
+  Begin(ListingStyle::DirectoryView);
+  EXPECT_EQ(printer.Line(1, kCaptions), L"Where|Files|Bytes|All|Total...");
+  EXPECT_EQ(printer.At(1, kOrigin + 9120 - 960, kCaptions), L"Total...");
+}
+
 TEST_F(PageWriter, DirectoryViewNamesAreIndentedAndShortened) {
   // The name width is 6,120 - 960 = 5,160: 43 characters, or 41 and one level's three blanks with 60 to spare.
   Begin(ListingStyle::DirectoryView);
