@@ -1,0 +1,243 @@
+// The windows where printers show: the printer dialog, the options that ask a printer for its borders, a run that is
+// cancelled, and a system without any printer. Needs the queues "Plain", "Borders" and "Refusing" (print_test.py starts
+// them), the second suite a system without any; FOLIVANT_JOBS names the folder in which documents arrive.
+#include "desktop/Desktop.h"
+#include "res/Controls.h"
+
+namespace folivant::desktop {
+namespace {
+
+constexpr DWORD kDocumentComes = 3'000;  // milliseconds; one that is on its way takes less than one second
+
+/// The documents that have arrived on the queue.
+int Documents(const std::wstring& queue) {
+  wchar_t folder[MAX_PATH];
+  GetEnvironmentVariableW(L"FOLIVANT_JOBS", folder, MAX_PATH);
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW((std::wstring(folder) + L"\\" + queue + L"\\*.pdf").c_str(), &found);
+  int count = 0;
+  for (BOOL more = search != INVALID_HANDLE_VALUE; more != 0; more = FindNextFileW(search, &found)) {
+    ++count;
+  }
+  FindClose(search);
+  return count;
+}
+
+std::wstring Printer(const std::wstring& key) {
+  return ReadStore(L"Settings", key).value_or(L"(missing)");
+}
+
+std::wstring Chosen(Window window, int list) {
+  return window.TextOf(list);
+}
+
+class Printers : public DesktopTest {
+ protected:
+  Printers() {
+    for (int i = 0; i < 3; ++i) {
+      scratch.File(L"Data\\File" + std::to_wstring(i) + L".txt", "12345");
+    }
+    WriteStore(L"Settings", L"Path", scratch / L"Data");
+    WriteStore(L"Settings", L"PrinterName", L"Borders");
+  }
+
+  Window OpenOptions(const Program& program) {
+    main = program.WaitForWindow(L"Folivant");
+    main.Press(cmdOptions);
+    options = program.WaitForWindow(L"Folivant - Options");
+    return options;
+  }
+  Window OpenPrinters(const Program& program) {
+    OpenOptions(program);
+    Page(options, cmdPrinter).Press(cmdPrinter);
+    printers = program.WaitForWindow(L"Folivant - Select printer");
+    return printers;
+  }
+  /// The child of the options window that holds the control: one of its pages.
+  static Window Page(Window window, int control) {
+    for (HWND child = GetWindow(window.Handle(), GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+      if (GetDlgItem(child, control) != nullptr) {
+        return Window(child);
+      }
+    }
+    return window;
+  }
+  void Confirm() {
+    options.Press(cmdOK);
+    EXPECT_TRUE(options.WaitUntilGone());
+  }
+
+  Scratch scratch;
+  Window main, options, printers;
+};
+
+TEST_F(Printers, TheDialogShowsThePrintersOfTheSystemAndTheStoredChoices) {
+  WriteStore(L"Settings", L"PrinterQuality", L"-4");
+  WriteStore(L"Settings", L"PrinterPaperBin", L"2");
+  WriteStore(L"Settings", L"PrinterDuplex", L"3");
+  const Program program(L"");
+  OpenPrinters(program);
+  EXPECT_EQ(SendMessageW(printers.Control(cmbPrinter).Handle(), CB_GETCOUNT, 0, 0), 3);
+  EXPECT_EQ(Chosen(printers, cmbPrinter), L"Borders");
+  EXPECT_EQ(Chosen(printers, cmbQuality), L"High");
+  EXPECT_EQ(Chosen(printers, cmbPaperBin), L"Lower");
+  EXPECT_FALSE(printers.IsChecked(optDuplex));
+  EXPECT_FALSE(printers.IsChecked(optDuplex + 1));
+  EXPECT_TRUE(printers.IsChecked(optDuplex + 2));
+  for (int picture = picDuplex; picture < picDuplex + 3; ++picture) {
+    EXPECT_NE(SendMessageW(printers.Control(picture).Handle(), STM_GETIMAGE, IMAGE_BITMAP, 0), 0);
+  }
+}
+
+TEST_F(Printers, OkChangesTheChoicesAndTheOptionsOkStoresThem) {
+  const Program program(L"");
+  OpenPrinters(program);
+  const auto plain = static_cast<int>(SendMessageW(printers.Control(cmbPrinter).Handle(), CB_FINDSTRINGEXACT,
+                                                   static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(L"Plain")));
+  ASSERT_GE(plain, 0);
+  printers.Choose(cmbPrinter, plain);
+  printers.Choose(cmbQuality, 0);
+  printers.Choose(cmbPaperBin, 3);
+  printers.Click(optDuplex + 1);
+  printers.Press(cmdOK);
+  ASSERT_TRUE(printers.WaitUntilGone());
+  EXPECT_EQ(Page(options, lblPrinter).TextOf(lblPrinter), L"Plain");
+  EXPECT_EQ(Printer(L"PrinterName"), L"Borders") << "nothing is stored before the options are confirmed";
+  Confirm();
+  EXPECT_EQ(Printer(L"PrinterName"), L"Plain");
+  EXPECT_EQ(Printer(L"PrinterQuality"), L"-1");
+  EXPECT_EQ(Printer(L"PrinterPaperBin"), L"4");
+  EXPECT_EQ(Printer(L"PrinterDuplex"), L"2");
+}
+
+TEST_F(Printers, CancelChangesNothing) {
+  const Program program(L"");
+  OpenPrinters(program);
+  printers.Choose(cmbQuality, 3);
+  printers.Press(cmdCancel);
+  ASSERT_TRUE(printers.WaitUntilGone());
+  EXPECT_EQ(Page(options, lblPrinter).TextOf(lblPrinter), L"Borders");
+  Confirm();
+  EXPECT_EQ(Printer(L"PrinterQuality"), L"-2");
+}
+
+TEST_F(Printers, AStoredPrinterThatIsGoneIsNotChosenAndOkStoresAnEmptyName) {
+  WriteStore(L"Settings", L"PrinterName", L"Gone");
+  const Program program(L"");
+  OpenPrinters(program);
+  EXPECT_EQ(SendMessageW(printers.Control(cmbPrinter).Handle(), CB_GETCURSEL, 0, 0), CB_ERR);
+  printers.Press(cmdOK);
+  ASSERT_TRUE(printers.WaitUntilGone());
+  EXPECT_EQ(Page(options, lblPrinter).TextOf(lblPrinter), L"");
+  Confirm();
+  EXPECT_EQ(Printer(L"PrinterName"), L"");
+}
+
+TEST_F(Printers, AClickOnAPictureChoosesItsMode) {
+  const Program program(L"");
+  OpenPrinters(program);
+  printers.Activate();
+  const RECT picture = printers.Control(picDuplex + 2).Rectangle();
+  ClickAt({(picture.left + picture.right) / 2, (picture.top + picture.bottom) / 2});
+  EXPECT_TRUE(WaitUntil([this] { return printers.IsChecked(optDuplex + 2); }));
+  EXPECT_FALSE(printers.IsChecked(optDuplex));
+}
+
+TEST_F(Printers, MarginsBelowThePrintersBordersAreAskedAbout) {
+  // "Borders" cannot print on 18 points on the left (6.35 mm), 36 at the top (12.7), 30 on the right (10.58) and 24 at
+  // the bottom (8.47).
+  const Program program(L"");
+  OpenOptions(program);
+  const Window page = Page(options, txtLeft);
+  page.SetText(txtLeft, L"6");
+  page.SetText(txtTop, L"5");
+  options.Press(cmdOK);
+  const Window question = program.WaitForBox(options);
+  EXPECT_TRUE(question.HasButton(IDYES) && question.HasButton(IDNO) && question.HasButton(IDCANCEL));
+  question.Answer(IDYES);
+  ASSERT_TRUE(options.WaitUntilGone());
+  EXPECT_EQ(Printer(L"MarginLeft"), L"7");
+  EXPECT_EQ(Printer(L"MarginTop"), L"13");
+  EXPECT_EQ(Printer(L"MarginRight"), L"20");
+  EXPECT_EQ(Printer(L"MarginBottom"), L"20");
+}
+
+TEST_F(Printers, ARunFromTheWindowPrintsAndEndsTheProgram) {
+  const int before = Documents(L"Borders");
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Press(cmdOK);
+  EXPECT_EQ(program.WaitForExit(), 0u);
+  EXPECT_TRUE(WaitUntil([before] { return Documents(L"Borders") == before + 1; }));
+}
+
+TEST_F(Printers, ACancelledRunPrintsNothing) {
+  // Many directories of some files: the walk asks for Cancel between them.
+  for (int directory = 0; directory < 150; ++directory) {
+    for (int file = 0; file < 20; ++file) {
+      scratch.File(L"Data\\D" + std::to_wstring(directory) + L"\\F" + std::to_wstring(file));
+    }
+  }
+  const int before = Documents(L"Borders");
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Press(cmdOK);
+  const Window progress = program.WaitForWindow(L"Folivant - Listing");
+  progress.Press(cmdCancel);
+  program.WaitForBox(progress).Answer(IDYES);
+  ASSERT_TRUE(progress.WaitUntilGone());
+  EXPECT_TRUE(main.IsEnabled());
+  EXPECT_FALSE(WaitUntil([before] { return Documents(L"Borders") != before; }, kDocumentComes));
+  main.Press(cmdCancel);
+  EXPECT_EQ(program.WaitForExit(), 0u);
+}
+
+TEST_F(Printers, AfterAFailedRunTheWindowWorksAgain) {
+  WriteStore(L"Settings", L"PrinterName", L"Refusing");
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Press(cmdOK);
+  const Window box = program.WaitForWindow(L"Folivant", main);
+  EXPECT_TRUE(box.BoxText().starts_with(L"Cannot print on \"Refusing\": "));
+  box.Answer(IDOK);
+  EXPECT_TRUE(WaitUntil([this] { return main.IsEnabled(); }));
+  EXPECT_TRUE(program.IsRunning());
+  EXPECT_EQ(program.Windows().size(), 1u) << "the progress window is gone";
+}
+
+/// Run where no print server answers.
+class NoPrinters : public Printers {
+ protected:
+  NoPrinters() {
+    WriteStore(L"Settings", L"PrinterName", L"(no printer)");
+    WriteStore(L"Settings", L"OutputTo", L"0");
+  }
+};
+
+TEST_F(NoPrinters, TheWindowOpensWithTheFileDestination) {
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  EXPECT_TRUE(main.IsChecked(optFile));
+  EXPECT_FALSE(main.IsChecked(optPrinter));
+}
+
+TEST_F(NoPrinters, ThePrinterButtonSaysSo) {
+  const Program program(L"");
+  OpenOptions(program);
+  Page(options, cmdPrinter).Press(cmdPrinter);
+  const Window box = program.WaitForBox(options);
+  EXPECT_EQ(box.BoxText(), L"No printer is installed.");
+  box.Answer(IDOK);
+  EXPECT_TRUE(options.IsEnabled());
+}
+
+TEST_F(NoPrinters, MarginsHaveNoMinimum) {
+  const Program program(L"");
+  OpenOptions(program);
+  Page(options, txtLeft).SetText(txtLeft, L"0");
+  Confirm();
+  EXPECT_EQ(Printer(L"MarginLeft"), L"0");
+}
+
+}  // namespace
+}  // namespace folivant::desktop
