@@ -7,6 +7,7 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <utility>
 
 #include "app/mdlFileRoutines.h"
 #include "fakes/FakePlatform.h"
@@ -44,7 +45,9 @@ inline std::string AsListed(const std::string& utf8) {
 inline std::string ReadTestFile(const std::string& relativePath) {
   std::ifstream file(std::string(FOLIVANT_TESTS_FOLDER) + "/listings/" + relativePath, std::ios::binary);
   EXPECT_TRUE(file.is_open()) << relativePath << " is missing";
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  return std::move(bytes).str();
 }
 
 inline std::uint32_t AttributesOf(const std::string& letters) {
