@@ -178,7 +178,8 @@ std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
   if (!opened || fstatvfs(opened.Get(), &status) != 0) {
     return std::nullopt;
   }
-  return DiskSpace{std::uint64_t{status.f_bfree} * status.f_frsize, std::uint64_t{status.f_blocks} * status.f_frsize};
+  // Free is what this user may still fill, as Wine reports it, not what is reserved for root.
+  return DiskSpace{std::uint64_t{status.f_bavail} * status.f_frsize, std::uint64_t{status.f_blocks} * status.f_frsize};
 }
 
 }  // namespace folivant::platform
