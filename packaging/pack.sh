@@ -1,5 +1,6 @@
 #!/bin/bash
-# Packs a finished Windows build:  packaging/pack.sh BUILD DIST
+# Packs a finished Windows build:  packaging/pack.sh BUILD DIST [VERSION]
+# VERSION is that of the project unless a test plays an older one.
 # Leaves in DIST the installer, the portable zip, the package managers' manifests and SHA256SUMS. The same commit gives the
 # same bytes: all times are those of the commit (or SOURCE_DATE_EPOCH), all lists are sorted.
 set -euo pipefail
@@ -8,7 +9,7 @@ root=$(dirname "$here")
 build=$(cd "$1" && pwd)
 mkdir -p "$2"
 dist=$(cd "$2" && pwd)
-version=$(sed -n 's/^project(Folivant VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
+version=${3:-$(sed -n 's/^project(Folivant VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")}
 : "${SOURCE_DATE_EPOCH:=$(git -C "$root" log -1 --format=%ct)}"
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
 # shellcheck source=packaging/package.conf
@@ -23,8 +24,9 @@ portable=Folivant-$version-portable.zip
 
 stage_program() {
   cp "$build/Folivant.exe" "$build"/*.ini "$stage"
-  cp -r "$build/help" "$stage"
-  x86_64-w64-mingw32-strip "$stage/Folivant.exe"
+  if [ -d "$build/help" ]; then
+    cp -r "$build/help" "$stage"
+  fi
   sed 's/$/\r/' "$root/CHANGELOG.md" >"$stage/Changes.txt"
   find "$work" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
 }
@@ -43,7 +45,7 @@ list_files() {
   done <"$work/list" | sed 's,\$INSTDIR\\",$INSTDIR",' >"$work/files/install.nsh"
   {
     tr / '\\' <"$work/list"
-    (cd "$stage" && find . -mindepth 1 -type d -printf '%P\\\n' | sort -r | tr / '\\')
+    (cd "$stage" && find . -mindepth 1 -type d -printf '%P\n' | sort -r | sed 's/$/\//' | tr / '\\')
   } | sed 's/$/\r/' >"$work/files/files.lst"
   touch -d "@$SOURCE_DATE_EPOCH" "$work/files/files.lst"
 }

@@ -1,0 +1,351 @@
+#!/usr/bin/env python3
+"""Packs the finished Windows build and treats the packages as users do: silent installation, upgrade, the associations
+that Explorer would use, removal, and the portable zip. Runs inside tests/env/with-wine.sh.
+
+    tests/packaging/packaging_test.py BUILD_FOLDER [unittest arguments]
+"""
+import hashlib
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+import xml.etree.ElementTree as ElementTree
+import zipfile
+from pathlib import Path
+
+import yaml
+
+ROOT = Path(__file__).resolve().parents[2]
+BUILD = Path(sys.argv[1]).resolve()
+WINE = ROOT / 'tests/env/run-windows.sh'
+PREFIX = Path(os.environ['WINEPREFIX'])
+HOME = Path(os.environ['HOME'])
+VERSION = re.search(r'project\(Folivant VERSION ([\d.]+)', (ROOT / 'CMakeLists.txt').read_text()).group(1)
+SETUP = f'Folivant-{VERSION}-setup.exe'
+PORTABLE = f'Folivant-{VERSION}-portable.zip'
+UNINSTALL = r'Software\Microsoft\Windows\CurrentVersion\Uninstall\Folivant'
+PATIENCE = 60
+
+scratch = None
+dist = None
+
+
+def setUpModule():
+    global scratch, dist
+    scratch = Path(tempfile.mkdtemp(prefix='packaging.'))
+    dist = pack(BUILD, 'dist')
+
+
+def tearDownModule():
+    shutil.rmtree(scratch)
+
+
+def pack(build, name, *version):
+    folder = scratch / name
+    subprocess.run([ROOT / 'packaging/pack.sh', build, folder, *version], check=True, stdout=subprocess.DEVNULL)
+    return folder
+
+
+def wait_until(done, what):
+    end = time.monotonic() + PATIENCE
+    while not done():
+        if time.monotonic() > end:
+            raise AssertionError(f'{what}: not within {PATIENCE} s')
+        time.sleep(0.1)
+
+
+def wine(*arguments, **options):
+    return subprocess.run([WINE, *map(str, arguments)], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          timeout=PATIENCE, **options)
+
+
+def run_line(line):
+    """Runs a command line as it stands, the way Explorer starts a registered command."""
+    batch = scratch / 'line.bat'
+    batch.write_bytes(b'@chcp 65001 >nul\r\n@' + line.encode('utf-8') + b'\r\n')
+    return subprocess.Popen([WINE, 'cmd', '/c', windows(batch)], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+
+
+def windows(path):
+    return 'Z:' + str(path).replace('/', '\\')
+
+
+def unix(path):
+    drive, rest = path[0].lower(), path[2:].replace('\\', '/')
+    return PREFIX / f'dosdevices/{drive}:' / rest.lstrip('/')
+
+
+def registry(root):
+    """Everything below a key as {key: {name: value}}, as the registry tool exports it."""
+    file = scratch / 'export.reg'
+    file.unlink(missing_ok=True)
+    wine('reg', 'export', root, windows(file), '/y')
+    keys, key = {}, None
+    if not file.exists():
+        return keys
+    for line in file.read_text('utf-16').replace('\\\n  ', '').splitlines():
+        if line.startswith('['):
+            key = keys.setdefault(line[1:-1], {})
+        elif match := re.match(r'(@|"(?:[^"\\]|\\.)*")="(.*)"$', line):
+            name, value = (re.sub(r'\\(.)', r'\1', text) for text in match.groups())
+            key[name.strip('"') if name != '@' else ''] = value
+        elif match := re.match(r'"(.*)"=(.*)$', line):
+            key[match.group(1)] = match.group(2)
+    return keys
+
+
+def value(key, name=''):
+    found = registry(key)
+    full = key.replace('HKCU', 'HKEY_CURRENT_USER').replace('HKLM', 'HKEY_LOCAL_MACHINE')
+    return found.get(full, {}).get(name)
+
+
+def install(folder, *switches):
+    return wine(folder / next(p.name for p in folder.iterdir() if p.name.endswith('-setup.exe')), '/S', *switches)
+
+
+def uninstall(place, *switches):
+    done = wine(place / 'Uninstall.exe', '/S', *switches)
+    wait_until(lambda: not place.exists(), 'the uninstaller is done')
+    time.sleep(1)  # its copy in the temporary folder goes on for a moment
+    return done
+
+
+def user_folder():
+    return next(p for p in (PREFIX / 'drive_c/users').iterdir() if (p / 'AppData').exists() and p.name != 'Public')
+
+
+def user_place():
+    return user_folder() / 'AppData/Local/Programs/Folivant'
+
+
+def listing_of(place, data, output):
+    """A command-line run of the program in `place`; returns its exit status."""
+    filters = scratch / 'paths.fvf'
+    filters.write_bytes(b'[Folivant 3.5]\r\nFormat=4\r\n')
+    return wine(place / 'Folivant.exe', '/f', windows(filters), '/d', windows(data), '/t', 't', '/o', windows(output),
+                '/g').returncode
+
+
+class Package(unittest.TestCase):
+    """What is packed, before anybody installs it."""
+
+    def test_same_bytes_each_time(self):
+        time.sleep(2.1)  # zip files count in steps of two seconds
+        again = pack(BUILD, 'again')
+        self.assertEqual((dist / 'SHA256SUMS').read_bytes(), (again / 'SHA256SUMS').read_bytes())
+
+    def test_sums_are_those_of_the_files(self):
+        lines = (dist / 'SHA256SUMS').read_text().splitlines()
+        self.assertEqual([SETUP, PORTABLE], [line.split()[1] for line in lines])
+        for line in lines:
+            total, name = line.split()
+            self.assertEqual(hashlib.sha256((dist / name).read_bytes()).hexdigest(), total)
+
+    def test_program_carries_the_version_and_no_time(self):
+        program = zipfile.ZipFile(dist / PORTABLE).read(f'Folivant-{VERSION}/Folivant.exe')
+        self.assertIn('FileVersion\0'.encode('utf-16-le'), program)
+        self.assertIn(f'{VERSION}\0'.encode('utf-16-le'), program)
+        header = int.from_bytes(program[0x3C:0x40], 'little')
+        self.assertEqual(0, int.from_bytes(program[header + 8:header + 12], 'little'))
+
+    def test_zip_holds_program_languages_and_manual(self):
+        names = set(zipfile.ZipFile(dist / PORTABLE).namelist())
+        for path in (ROOT / 'lang').glob('*.ini'):
+            self.assertIn(f'Folivant-{VERSION}/{path.name}', names)
+        for path in (ROOT / 'help').glob('*.html'):
+            self.assertIn(f'Folivant-{VERSION}/help/{path.name}', names)
+
+    def test_winget_manifests_follow_their_schema(self):
+        folder = dist / 'manifests/winget'
+        loaded = {p.name: yaml.safe_load(p.read_text()) for p in folder.iterdir()}
+        identifier = 'Folivant.Folivant'
+        self.assertEqual({f'{identifier}.yaml', f'{identifier}.installer.yaml', f'{identifier}.locale.en-US.yaml'},
+                         set(loaded))
+        for manifest in loaded.values():
+            self.assertEqual(identifier, manifest['PackageIdentifier'])
+            self.assertEqual(VERSION, str(manifest['PackageVersion']))
+            self.assertEqual('1.6.0', manifest['ManifestVersion'])
+            self.assertNotIn('@', json.dumps(manifest, default=str))
+        locale = loaded[f'{identifier}.locale.en-US.yaml']
+        self.assertEqual('defaultLocale', locale['ManifestType'])
+        for name in ('PackageLocale', 'Publisher', 'PackageName', 'License', 'ShortDescription'):
+            self.assertTrue(locale[name], name)
+        self.assertLessEqual(len(locale['ShortDescription']), 256)
+        installer = loaded[f'{identifier}.installer.yaml']
+        self.assertEqual('installer', installer['ManifestType'])
+        self.assertEqual(['user', 'machine'], [each['Scope'] for each in installer['Installers']])
+        for each in installer['Installers']:
+            self.assertEqual('x64', each['Architecture'])
+            self.assertTrue(each['InstallerUrl'].endswith('/' + SETUP))
+            self.assertEqual(hashlib.sha256((dist / SETUP).read_bytes()).hexdigest(), each['InstallerSha256'])
+
+    def test_scoop_and_chocolatey_manifests_name_version_and_hash(self):
+        scoop = json.loads((dist / 'manifests/scoop/folivant.json').read_text())
+        self.assertEqual(VERSION, scoop['version'])
+        self.assertEqual(hashlib.sha256((dist / PORTABLE).read_bytes()).hexdigest(), scoop['architecture']['64bit']['hash'])
+        self.assertEqual(f'Folivant-{VERSION}', scoop['extract_dir'])
+        for name in ('homepage', 'license', 'description'):
+            self.assertTrue(scoop[name])
+        space = '{http://schemas.microsoft.com/packaging/2015/06/nuspec.xsd}'
+        metadata = ElementTree.parse(dist / 'manifests/chocolatey/folivant.nuspec').getroot().find(space + 'metadata')
+        self.assertEqual(VERSION, metadata.find(space + 'version').text)
+        for name in ('id', 'authors', 'description'):
+            self.assertTrue(metadata.find(space + name).text)
+        script = (dist / 'manifests/chocolatey/tools/chocolateyinstall.ps1').read_text()
+        self.assertIn(hashlib.sha256((dist / SETUP).read_bytes()).hexdigest(), script)
+
+    def test_zip_runs_from_a_folder_with_blanks_and_letters_beyond_ascii(self):
+        place = scratch / 'Übung mit Ж blanks'
+        zipfile.ZipFile(dist / PORTABLE).extractall(place)
+        data = scratch / 'Data'
+        data.mkdir(exist_ok=True)
+        (data / 'One.txt').write_text('1')
+        output = place / 'list.txt'
+        self.assertEqual(0, listing_of(place / f'Folivant-{VERSION}', data, output))
+        self.assertTrue(output.read_bytes().endswith(b'\\Data\\One.txt\r\n'), output.read_bytes())
+
+
+class Installation(unittest.TestCase):
+    def tearDown(self):
+        for place in (user_place(), PREFIX / 'drive_c/Program Files/Folivant'):
+            if place.exists():
+                uninstall(place, '/DeleteSettings')
+
+    def expect_no_trace(self, settings=False):
+        for root in ('HKCU\\Software', 'HKLM\\Software'):
+            for key, values in registry(root).items():
+                if settings and 'Folivant 3.0' in key:
+                    continue
+                text = key + repr(values)
+                for word in ('Folivant', '.s2f', '.fvf'):
+                    self.assertNotIn(word.lower(), text.lower())
+        left = [str(p) for top in (PREFIX / 'drive_c', HOME) for p in top.rglob('*') if 'folivant' in p.name.lower()]
+        self.assertEqual([], left)
+
+    def opened_path(self, line):
+        """Starts the line, closes the window that comes, and returns the folder that the program then remembers: None when
+        it was given a list of files, which it does not keep."""
+        wine('reg', 'delete', r'HKCU\Software\Folivant 3.0', '/f')
+        started = run_line(line)
+        window = []
+
+        def shown():
+            found = subprocess.run(['xdotool', 'search', '--onlyvisible', '--name', '^Folivant$'], text=True,
+                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout.split()
+            window[:] = found
+            return bool(found)
+
+        wait_until(shown, 'the main window')
+        time.sleep(0.5)
+        subprocess.run(['xdotool', 'windowactivate', '--sync', window[0], 'key', '--clearmodifiers', 'alt+F4'],
+                       stderr=subprocess.DEVNULL)
+        started.wait(PATIENCE)
+        wait_until(lambda: value(r'HKCU\Software\Folivant 3.0\Settings', 'TextWidth') is not None, 'the settings')
+        time.sleep(1)  # the rest of them
+        return value(r'HKCU\Software\Folivant 3.0\Settings', 'Path')
+
+    def test_for_the_current_user_and_away_again(self):
+        self.assertEqual(0, install(dist).returncode)
+        place = user_place()
+        packed = {name.split('/', 1)[1] for name in zipfile.ZipFile(dist / PORTABLE).namelist()}
+        there = {str(p.relative_to(place)) for p in place.rglob('*') if p.is_file()}
+        self.assertEqual(packed | {'Uninstall.exe', 'files.lst'}, there)
+        entry = registry('HKCU\\' + UNINSTALL)['HKEY_CURRENT_USER\\' + UNINSTALL]
+        self.assertEqual('Folivant', entry['DisplayName'])
+        self.assertEqual(VERSION, entry['DisplayVersion'])
+        self.assertEqual(place.resolve(), unix(entry['InstallLocation']).resolve())
+        self.assertTrue(entry['QuietUninstallString'].endswith('Uninstall.exe" /S'))
+        self.assertEqual({}, registry('HKLM\\' + UNINSTALL), 'nothing for other users')
+        self.assertEqual('{86C86720-42A0-1069-A2E8-08002B30309D}',
+                         value(r'HKCU\Software\Classes\Folivant.SendTo\shellex\DropHandler'))
+        self.assertIsNone(value(r'HKCU\Software\Classes\Directory\shell\Folivant'))
+        self.assertTrue(any(user_folder().rglob('Start Menu/Programs/Folivant.lnk')))
+        data = scratch / 'Data'
+        data.mkdir(exist_ok=True)
+        (data / 'One.txt').write_text('1')
+        self.assertEqual(0, listing_of(place, data, scratch / 'installed.txt'))
+        self.assertTrue(any(user_folder().rglob('SendTo/Folivant.s2f')), 'made by the first start')
+        uninstall(place, '/DeleteSettings')
+        self.expect_no_trace()
+
+    def test_for_all_users_with_the_folder_entry(self):
+        install(dist, '/AllUsers', '/FolderEntry')
+        place = PREFIX / 'drive_c/Program Files/Folivant'
+        self.assertTrue((place / 'Folivant.exe').exists())
+        self.assertEqual(VERSION, value('HKLM\\' + UNINSTALL, 'DisplayVersion'))
+        self.assertEqual({}, registry('HKCU\\' + UNINSTALL))
+        self.assertEqual(r'"C:\Program Files\Folivant\Folivant.exe" "%1"',
+                         value(r'HKLM\Software\Classes\Directory\shell\Folivant\command'))
+        uninstall(place, '/DeleteSettings')
+        self.expect_no_trace()
+
+    def test_upgrade_keeps_settings_and_choices_and_removes_old_files(self):
+        older = scratch / 'older-build'
+        older.mkdir()
+        for path in [BUILD / 'Folivant.exe', *BUILD.glob('*.ini')]:
+            shutil.copy(path, older)
+        (older / 'klingon.ini').write_text('[Messages]\r\n')
+        (older / 'help/old').mkdir(parents=True)
+        (older / 'help/old/page.html').write_text('old')
+        install(pack(older, 'older', '3.9.9'), '/FolderEntry')
+        place = user_place()
+        self.assertEqual('3.9.9', value('HKCU\\' + UNINSTALL, 'DisplayVersion'))
+        self.assertTrue((place / 'klingon.ini').exists())
+        (place / 'mine.ini').write_text('[Messages]\r\n')
+        wine('reg', 'add', r'HKCU\Software\Folivant 3.0\Settings', '/v', 'TextViewer', '/d', 'mine.exe', '/f')
+        install(dist)
+        self.assertEqual(VERSION, value('HKCU\\' + UNINSTALL, 'DisplayVersion'))
+        self.assertEqual('mine.exe', value(r'HKCU\Software\Folivant 3.0\Settings', 'TextViewer'))
+        self.assertFalse((place / 'klingon.ini').exists())
+        self.assertFalse((place / 'help/old').exists())
+        self.assertTrue((place / 'mine.ini').exists(), "the user's own file")
+        self.assertIsNotNone(value(r'HKCU\Software\Classes\Directory\shell\Folivant\command'), 'chosen before')
+        (place / 'mine.ini').unlink()
+        uninstall(place)
+        self.expect_no_trace(settings=True)
+        self.assertEqual('mine.exe', value(r'HKCU\Software\Folivant 3.0\Settings', 'TextViewer'), 'kept unless asked')
+        wine('reg', 'delete', r'HKCU\Software\Folivant 3.0', '/f')
+
+    def test_associations_start_the_program_with_folder_file_and_filter(self):
+        install(dist, '/FolderEntry')
+        folder = PREFIX / 'drive_c/My Data'
+        folder.mkdir(exist_ok=True)
+        (folder / 'paths.txt').write_text('C:\\My Data\\paths.txt\r\n')
+        filters = folder / 'my set.fvf'
+        filters.write_bytes(b'[Folivant 3.5]\r\nPath=C:\\windows\r\n')
+        classes = 'HKCU\\Software\\Classes\\'
+
+        def command(name):
+            return value(classes + name + r'\shell\open\command')
+
+        sent = command(value(classes + '.s2f'))
+        self.assertEqual('c:\\my data', self.opened_path(sent.replace('%2', '"C:\\My Data"')).lower())
+        self.assertEqual('c:\\my data', self.opened_path(sent.replace('%2', 'C:\\My Data')).lower(), 'quotes dropped')
+        self.assertIsNone(self.opened_path(sent.replace('%2', '"C:\\My Data\\paths.txt"')))
+        filter_set = command(value(classes + '.fvf'))
+        self.assertEqual('c:\\windows', self.opened_path(filter_set.replace('%1', r'C:\My Data\my set.fvf')).lower())
+        entry = value(classes + r'Directory\shell\Folivant\command')
+        self.assertEqual('c:\\my data', self.opened_path(entry.replace('%1', 'C:\\My Data')).lower())
+        # The system's own look-up of the association
+        self.assertEqual('c:\\windows', self.opened_path(r'start "" "C:\My Data\my set.fvf"').lower())
+
+    def test_a_folder_of_the_users_choice(self):
+        run_line(windows(dist / SETUP) + r' /S /D=C:\My Tools\Fo li').wait(PATIENCE)
+        place = PREFIX / 'drive_c/My Tools/Fo li'
+        wait_until(lambda: (place / 'Uninstall.exe').exists(), 'the installation')
+        time.sleep(1)
+        install(dist)
+        self.assertFalse(user_place().exists(), 'an upgrade goes where the program is')
+        uninstall(place, '/DeleteSettings')
+        (PREFIX / 'drive_c/My Tools').rmdir()
+        self.expect_no_trace()
+
+
+if __name__ == '__main__':
+    unittest.main(argv=[sys.argv[0], *sys.argv[2:]])
