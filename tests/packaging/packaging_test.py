@@ -245,7 +245,7 @@ class Installation(unittest.TestCase):
         time.sleep(0.5)
         subprocess.run(['xdotool', 'windowactivate', '--sync', window[0], 'key', '--clearmodifiers', 'alt+F4'],
                        stderr=subprocess.DEVNULL)
-        started.wait(PATIENCE)
+        self.assertIsNotNone(started.wait(PATIENCE))
         wait_until(lambda: value(r'HKCU\Software\Folivant 3.0\Settings', 'TextWidth') is not None, 'the settings')
         time.sleep(1)  # the rest of them
         return value(r'HKCU\Software\Folivant 3.0\Settings', 'Path')
@@ -282,6 +282,10 @@ class Installation(unittest.TestCase):
         self.assertEqual({}, registry('HKCU\\' + UNINSTALL))
         self.assertEqual(r'"C:\Program Files\Folivant\Folivant.exe" "%1"',
                          value(r'HKLM\Software\Classes\Directory\shell\Folivant\command'))
+        # The system's own look-up of the association; Wine knows those of all users alone.
+        filters = PREFIX / 'drive_c/my set.fvf'
+        filters.write_bytes(b'[Folivant 3.5]\r\nPath=C:\\windows\r\n')
+        self.assertEqual('c:\\windows', self.opened_path(r'start "" "C:\my set.fvf"').lower())
         uninstall(place, '/DeleteSettings')
         self.expect_no_trace()
 
@@ -332,8 +336,6 @@ class Installation(unittest.TestCase):
         self.assertEqual('c:\\windows', self.opened_path(filter_set.replace('%1', r'C:\My Data\my set.fvf')).lower())
         entry = value(classes + r'Directory\shell\Folivant\command')
         self.assertEqual('c:\\my data', self.opened_path(entry.replace('%1', 'C:\\My Data')).lower())
-        # The system's own look-up of the association
-        self.assertEqual('c:\\windows', self.opened_path(r'start "" "C:\My Data\my set.fvf"').lower())
 
     def test_a_folder_of_the_users_choice(self):
         run_line(windows(dist / SETUP) + r' /S /D=C:\My Tools\Fo li').wait(PATIENCE)
