@@ -37,7 +37,7 @@ constexpr DateToken kDateTokens[] = {
 
 const DateToken* TokenAt(std::wstring_view pattern) {
   for (const DateToken& token : kDateTokens) {
-    if (pattern.substr(0, token.Letters.size()) == token.Letters) {
+    if (pattern.front() == token.Letters.front() && pattern.starts_with(token.Letters)) {
       return &token;
     }
   }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/mdlFileRoutines.h"
+
 namespace folivant {
 
 std::int32_t DivideShare(std::int32_t share, std::size_t parts) {
@@ -34,9 +36,25 @@ void NameStack::CutTo(std::size_t first) {
   }
 }
 
+void Ancestors::FindAboveStart(const WalkPath& path) {
+  aboveStartFound_ = true;
+  for (std::wstring above = GetFolder(path.OnDiskAt(entries_.front().Mark)); !above.empty(); above = GetFolder(above)) {
+    if (const auto identity = platform::IdentityOf(AddBackslash(above))) {
+      aboveStart_.push_back(*identity);
+    }
+  }
+}
+
 bool Ancestors::Contain(const WalkPath& path) {
   const std::optional<platform::FileIdentity> identity = platform::IdentityOf(path.OnDisk());
-  return identity && std::any_of(entries_.begin(), entries_.end(), [&](Entry& entry) {
+  if (!identity) {
+    return false;
+  }
+  if (!aboveStartFound_) {
+    FindAboveStart(path);
+  }
+  const bool above = std::find(aboveStart_.begin(), aboveStart_.end(), *identity) != aboveStart_.end();
+  return above || std::any_of(entries_.begin(), entries_.end(), [&](Entry& entry) {
            if (!entry.Asked) {
              entry.Identity = platform::IdentityOf(path.OnDiskAt(entry.Mark));
              entry.Asked = true;

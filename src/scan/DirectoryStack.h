@@ -48,8 +48,8 @@ class NameStack {
   std::vector<std::uint32_t> order_;
 };
 
-/// The directories that the walk is in, outermost first, by the length of their path. Identities are asked for only
-/// when a link is met: on Windows each costs an open file.
+/// The directories that the walk is in, outermost first, by the length of their path, and those above its start.
+/// Identities are asked for only when a link is met: on Windows each costs an open file.
 class Ancestors {
  public:
   void Push(WalkPath::Mark mark) { entries_.push_back({mark, {}, false}); }
@@ -63,7 +63,11 @@ class Ancestors {
     std::optional<platform::FileIdentity> Identity;
     bool Asked;
   };
+  void FindAboveStart(const WalkPath& path);
+
   std::vector<Entry> entries_;
+  std::vector<platform::FileIdentity> aboveStart_;
+  bool aboveStartFound_ = false;
 };
 
 }  // namespace folivant

@@ -17,6 +17,26 @@ constexpr std::uint64_t kMinutesPerDay = 24 * 60;
 constexpr std::size_t kSizeDigits = 15;
 constexpr std::size_t kExtensionLength = 5;
 
+struct AttributeLetter {
+  std::uint32_t Bit;
+  wchar_t Letter;
+};
+constexpr std::array<AttributeLetter, 5> kLetters = {{{platform::kDirectory, L'd'},
+                                                      {platform::kArchive, L'a'},
+                                                      {platform::kReadOnly, L'r'},
+                                                      {platform::kSystem, L's'},
+                                                      {platform::kHidden, L'h'}}};
+/// The texts of all combinations: they cost no room in any arena.
+constexpr auto kAttributeTexts = [] {
+  std::array<std::array<wchar_t, kLetters.size()>, 1U << kLetters.size()> texts{};
+  for (std::size_t combination = 0; combination < texts.size(); ++combination) {
+    for (std::size_t i = 0; i < kLetters.size(); ++i) {
+      texts[combination][i] = (combination >> i & 1U) != 0 ? kLetters[i].Letter : L' ';
+    }
+  }
+  return texts;
+}();
+
 void PutTwoDigits(std::uint64_t number, wchar_t* out) {
   out[0] = static_cast<wchar_t>(L'0' + number / 10);
   out[1] = static_cast<wchar_t>(L'0' + number % 10);
@@ -24,16 +44,16 @@ void PutTwoDigits(std::uint64_t number, wchar_t* out) {
 
 }  // namespace
 
-std::array<wchar_t, 5> AttributeText(const platform::FindData& entry) {
-  const auto letter = [&](std::uint32_t bit, wchar_t c) { return (entry.Attributes & bit) != 0 ? c : L' '; };
-  return {letter(platform::kDirectory, L'd'), letter(platform::kArchive, L'a'), letter(platform::kReadOnly, L'r'),
-          letter(platform::kSystem, L's'), letter(platform::kHidden, L'h')};
+std::wstring_view AttributeText(const platform::FindData& entry) {
+  std::size_t combination = 0;
+  for (std::size_t i = 0; i < kLetters.size(); ++i) {
+    combination |= (entry.Attributes & kLetters[i].Bit) != 0 ? std::size_t{1} << i : 0;
+  }
+  return {kAttributeTexts[combination].data(), kLetters.size()};
 }
 
 FileRecordFiller::FileRecordFiller(const WalkSettings& settings)
-    : settings_(settings),
-      datePattern_(settings.DatePattern + L" hh:nn"),
-      directorySize_(settings.Texts[Text::DirectorySizeText] + L"   ") {}
+    : settings_(settings), directorySize_(settings.Texts[Text::DirectorySizeText] + L"   ") {}
 
 platform::ShortNames FileRecordFiller::ShortNames() const {
   const bool used = settings_.Format.Files.DosName || settings_.Filter.OrderBy == OrderBy::DosName;
@@ -47,11 +67,10 @@ FileRecord FileRecordFiller::FillFileRecord(platform::FindData& entry, std::int3
   if (ShortNames() == platform::ShortNames::Read) {
     record.DosName = AddDosName(entry, texts);
   }
-  record.SizeText = entry.IsDirectory() ? std::wstring_view(directorySize_) : AddSize(entry, texts);
+  record.SizeText = entry.IsDirectory() ? texts.Add(directorySize_) : AddSize(entry, texts);
   entry.LastWrite = platform::ToLocalFileTime(entry.LastWrite);
   record.DateText = AddDate(entry.LastWrite, texts);
-  const std::array<wchar_t, 5> attributes = AttributeText(entry);
-  record.AttrText = texts.Add({attributes.data(), attributes.size()});
+  record.AttrText = AttributeText(entry);
   MakeSortKey(entry, record);
   record.SortKey = sortKey_;
   record.Level = level;
@@ -70,20 +89,29 @@ std::wstring_view FileRecordFiller::AddSize(const platform::FindData& entry, Tex
   return texts.Add(sizeText_);
 }
 
+/// The run's date pattern for the day, and "hh:nn".
 std::wstring_view FileRecordFiller::AddDate(std::uint64_t localFileTime, TextArena& texts) {
-  const std::uint64_t minute = localFileTime / kTicksPerMinute;
-  if (minute != lastMinute_) {
-    if (lastMinute_ == ~0ULL || minute / kMinutesPerDay != lastMinute_ / kMinutesPerDay) {
-      dateText_.clear();
-      AppendDate(CalendarTimeOf(localFileTime), datePattern_, dateText_);
-    } else {  // another minute of the same day: only the "hh:nn" at the end differs
-      wchar_t* const time = dateText_.data() + dateText_.size() - 5;
-      PutTwoDigits(minute / 60 % 24, time);
-      PutTwoDigits(minute % 60, time + 3);
-    }
-    lastMinute_ = minute;
+  const std::wstring_view day = DayText(localFileTime);
+  constexpr std::size_t kTimeLength = 6;
+  wchar_t* const text = texts.Reserve(day.size() + kTimeLength);
+  wchar_t* const time = text + day.copy(text, day.size());
+  const std::uint64_t minute = localFileTime / kTicksPerMinute % kMinutesPerDay;
+  time[0] = L' ';
+  PutTwoDigits(minute / 60, time + 1);
+  time[3] = L':';
+  PutTwoDigits(minute % 60, time + 4);
+  return texts.Keep(day.size() + kTimeLength);
+}
+
+std::wstring_view FileRecordFiller::DayText(std::uint64_t localFileTime) {
+  const std::uint64_t number = localFileTime / (kTicksPerMinute * kMinutesPerDay);
+  Day& day = days_[number % days_.size()];
+  if (day.Number != number) {
+    day.Number = number;
+    day.Text.clear();
+    AppendDate(CalendarTimeOf(localFileTime), settings_.DatePattern, day.Text);
   }
-  return texts.Add(dateText_);
+  return day.Text;
 }
 
 void FileRecordFiller::MakeSortKey(platform::FindData& entry, const FileRecord& record) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/FindFiles.h"
 #include "scan/ScanTree.h"
@@ -12,11 +13,12 @@
 
 namespace folivant {
 
-/// "darsh": directory, archive, read-only, system, hidden; a blank in the place of an attribute that is not set.
-std::array<wchar_t, 5> AttributeText(const platform::FindData& entry);
+/// "darsh": directory, archive, read-only, system, hidden; a blank in the place of an attribute that is not set. The
+/// text lives as long as the process.
+std::wstring_view AttributeText(const platform::FindData& entry);
 
-/// Fills the records of one run. What repeats between entries (the date of the last one, the size text of directories)
-/// is kept.
+/// Fills the records of one run. What repeats between entries (the texts of days, the size text of directories) is
+/// kept.
 class FileRecordFiller {
  public:
   explicit FileRecordFiller(const WalkSettings& settings);
@@ -32,14 +34,18 @@ class FileRecordFiller {
   std::wstring_view AddDosName(const platform::FindData& entry, TextArena& texts) const;
   std::wstring_view AddSize(const platform::FindData& entry, TextArena& texts);
   std::wstring_view AddDate(std::uint64_t localFileTime, TextArena& texts);
+  std::wstring_view DayText(std::uint64_t localFileTime);
   void MakeSortKey(platform::FindData& entry, const FileRecord& record);
 
+  struct Day {
+    std::uint64_t Number = ~0ULL;  ///< since 1601
+    std::wstring Text;
+  };
+
   const WalkSettings& settings_;
-  const std::wstring datePattern_;  ///< with hours and minutes
   const std::wstring directorySize_;
   std::wstring sizeText_;
-  std::wstring dateText_;             ///< of lastMinute_
-  std::uint64_t lastMinute_ = ~0ULL;  ///< since 1601
+  std::array<Day, 64> days_;  ///< by the last bits of their number: entries of a tree share a few
   std::wstring sortKey_;
 };
 

@@ -98,15 +98,21 @@ std::wstring FitPathToWidth(std::wstring_view path, double width, const TextMeas
     return std::wstring(path);
   }
   const std::size_t last = path.rfind(L'\\');
-  std::wstring_view leading = last == path.npos ? std::wstring_view() : path.substr(0, last);
-  const std::wstring tail = L"...\\" + std::wstring(last == path.npos ? path : path.substr(last + 1));
-  for (;;) {
-    std::wstring candidate = std::wstring(leading) + tail;
-    if (leading.empty() || form.WidthOf(candidate) < width) {
-      return candidate;
+  const std::wstring_view leading = path.substr(0, last == path.npos ? 0 : last);
+  const std::wstring tail = L"...\\" + std::wstring(path.substr(last + 1));  // without a backslash the whole path
+  const auto candidate = [&](std::size_t kept) { return std::wstring(leading.substr(0, kept)) + tail; };
+  // The longest leading part that fits, by halving: one measurement per character would make deep paths slow to show.
+  std::size_t fits = 0;
+  std::size_t tooLong = leading.size() + 1;
+  while (fits + 1 < tooLong) {
+    const std::size_t middle = fits + (tooLong - fits) / 2;
+    if (form.WidthOf(candidate(middle)) < width) {
+      fits = middle;
+    } else {
+      tooLong = middle;
     }
-    leading.remove_suffix(1);
   }
+  return candidate(fits);
 }
 
 }  // namespace folivant

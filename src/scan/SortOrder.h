@@ -23,15 +23,24 @@ class EntrySorter {
 
  private:
   struct Key {
-    std::uint64_t Prefix;  ///< the first eight bytes, most significant first
-    std::uint32_t Start;   ///< in bytes_
+    std::uint64_t Chunk;  ///< eight bytes as a number that orders as they do
+    std::uint32_t Start;  ///< in bytes_
     std::uint32_t Length;
     std::uint32_t Entry;
   };
-  int Compare(const Key& a, const Key& b) const;
+  /// Keys that are equal in their first Depth bytes.
+  struct Range {
+    std::size_t First;
+    std::size_t Last;
+    std::size_t Depth;
+  };
+  bool LoadChunks(const Range& range);
+  void SortRange(const Range& range, bool ascending);
+  void SortRun(const Range& run, bool ascending);
 
   std::string bytes_;
   std::vector<Key> keys_;
+  std::vector<Range> ranges_;  ///< still to be sorted
 };
 
 }  // namespace folivant

@@ -82,6 +82,7 @@ bool SetStartPath(const std::wstring& path) {
 
 void RunListing(ListingWriter& output, Progress& progress) {
   ChooseDatePattern();
+  progress.LetEventsThrough();
   Tree.ResetTotals();
   mdlVars::PageNumber = 0;
   RunGuard guard(output);

@@ -39,7 +39,7 @@ std::uint64_t FileTime(const platform::CalendarTime& time) {
 }
 
 FakeDir& FakeDir::File(std::wstring_view name, std::uint64_t size) {
-  last_ = &tree_.Add(node_, name, platform::kArchive);
+  last_ = &tree_->Add(*node_, name, platform::kArchive);
   last_->Size = size;
   return *this;
 }
@@ -51,23 +51,23 @@ FakeDir& FakeDir::FileWith(std::wstring_view name, std::string content) {
 }
 
 FakeDir& FakeDir::Folder(std::wstring_view name) {
-  last_ = &tree_.Add(node_, name, platform::kDirectory);
+  last_ = &tree_->Add(*node_, name, platform::kDirectory);
   return *this;
 }
 
 FakeDir& FakeDir::Link(std::wstring_view name, std::wstring_view target) {
-  last_ = &tree_.Add(node_, name, platform::kDirectory | platform::kLink);
+  last_ = &tree_->Add(*node_, name, platform::kDirectory | platform::kLink);
   last_->LinkTarget = target;
   return *this;
 }
 
 FakeDir FakeDir::Dir(std::wstring_view name) {
-  for (FakeNode* child : node_.Children) {
+  for (FakeNode* child : node_->Children) {
     if (child->Name == name) {
-      return {tree_, *child};
+      return {*tree_, *child};
     }
   }
-  return {tree_, tree_.Add(node_, name, platform::kDirectory)};
+  return {*tree_, tree_->Add(*node_, name, platform::kDirectory)};
 }
 
 FakeDir& FakeDir::Short(std::wstring_view shortName) {

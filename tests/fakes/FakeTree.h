@@ -47,7 +47,7 @@ class FakeTree;
 /// last, or the directory itself while nothing was added through this handle.
 class FakeDir {
  public:
-  FakeDir(FakeTree& tree, FakeNode& node) : tree_(tree), node_(node), last_(&node) {}
+  FakeDir(FakeTree& tree, FakeNode& node) : tree_(&tree), node_(&node), last_(&node) {}
 
   /// An archived file of `size` bytes, last written 2001-02-03 04:05:06 UTC.
   FakeDir& File(std::wstring_view name, std::uint64_t size = 0);
@@ -68,8 +68,8 @@ class FakeDir {
   FakeDir& FailsAfter(std::size_t entries);    ///< enumerating it breaks off
 
  private:
-  FakeTree& tree_;
-  FakeNode& node_;
+  FakeTree* tree_;
+  FakeNode* node_;
   FakeNode* last_;
 };
 

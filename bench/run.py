@@ -1,0 +1,315 @@
+#!/usr/bin/env python3
+"""Measures Folivant against the cost of merely looking at the same files.
+
+Builds the native release and the Windows program, makes the trees in a scratch directory (removed at the end), runs
+whole processes in alternating pairs with a warm cache, and prints tables of ratios: the median of the paired ratios.
+With --write the tables replace what stands between the markers in docs/benchmarks.md and README.md.
+"""
+import argparse
+import os
+import pathlib
+import random
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+
+HOUSE = pathlib.Path(__file__).resolve().parent.parent
+WINDOWS_COMPILER = 'x86_64-w64-mingw32-g++-posix'
+BEGIN, END = '<!-- benchmarks: begin -->', '<!-- benchmarks: end -->'
+
+
+def build(scratch, windows):
+    def run(*command):
+        subprocess.run(command, cwd=HOUSE, check=True, stdout=subprocess.DEVNULL)
+    run('cmake', '--preset', 'host-release')
+    run('cmake', '--build', 'build/host-release', '--target', 'folivant-host')
+    for name in ('floor', 'measure'):
+        run('g++', '-std=c++20', '-O2', f'bench/{name}.cpp', '-o', scratch / name)
+    if windows:
+        run('cmake', '--preset', 'windows')
+        run('cmake', '--build', 'build/windows', '--target', 'Folivant')
+        run(WINDOWS_COMPILER, '-std=c++20', '-O2', '-static', '-municode', 'bench/floor_windows.cpp', '-o',
+            scratch / 'floor.exe')
+        build_empty(scratch, run)
+
+
+def build_empty(scratch, run):
+    """A program that does nothing but links the same system libraries: one function of each is referred to."""
+    exe = HOUSE / 'build/windows/Folivant.exe'
+    imports = subprocess.run(['x86_64-w64-mingw32-objdump', '-p', exe], capture_output=True, text=True,
+                             check=True).stdout
+    functions = []
+    for section in imports.split('DLL Name: ')[1:]:
+        found = re.search(r'^\s+[0-9a-f]+\s+\d+\s+(\w+)', section, re.M)
+        if found and not section.lower().startswith(('msvcrt', 'kernel32', 'api-ms')):
+            functions.append(found.group(1))
+    source = scratch / 'empty.cpp'
+    source.write_text('\n'.join(f'extern "C" __declspec(dllimport) void {name}();' for name in functions) +
+                      '\nvoid (*volatile keep[])() = {' + ', '.join(functions) + '};\n'
+                      'extern "C" int __stdcall WinMain(void*, void*, char*, int) { return keep[0] == nullptr; }\n')
+    libraries = re.search(r'target_link_libraries\(folivant_platform PUBLIC (comctl32[^)]*)\)',
+                          (HOUSE / 'src/CMakeLists.txt').read_text()).group(1).split()
+    run(WINDOWS_COMPILER, '-O2', '-static', '-mwindows', source, '-o', scratch / 'empty.exe',
+        *[f'-l{name}' for name in libraries])
+    return functions
+
+
+class Trees:
+    """Files of many names, sizes and dates, the same in every run."""
+
+    def __init__(self, scratch):
+        self.scratch = scratch
+        self.random = random.Random(20010203)
+        self.name_length = 0
+
+    def files(self, directory, count):
+        os.makedirs(directory, exist_ok=True)
+        handle = os.open(directory, os.O_RDONLY)
+        for number in range(count):
+            letters = ''.join(self.random.choices('abcdefghijklmnopqrstuvwxyz', k=self.random.randint(4, 14)))
+            name = f'{letters}{number}.{self.random.choice(("txt", "cpp", "html", "jpeg", "md"))}'
+            self.name_length += len(name)
+            file = os.open(name, os.O_CREAT | os.O_WRONLY, 0o644, dir_fd=handle)
+            os.ftruncate(file, self.random.choice((0, 777, 54_321, 9_876_543)))
+            os.utime(file, (0, self.random.randint(300_000_000, 1_700_000_000)))
+            os.close(file)
+        os.close(handle)
+
+    def wide(self, name, directories, per_directory):
+        root = self.scratch / name
+        for number in range(directories):
+            self.files(root / f'group {number // 100}' / f'folder {number}', per_directory)
+        return root
+
+    def flat(self, count):
+        root = self.scratch / f'flat{count}'
+        self.files(root, count)
+        return root
+
+    def chain(self, depth):
+        root = self.scratch / 'chain'
+        self.files(root.joinpath(*['level'] * depth), 1)
+        return root
+
+    def empty(self):
+        root = self.scratch / 'empty'
+        root.mkdir()
+        return root
+
+
+class Bench:
+    def __init__(self, scratch, pairs):
+        self.scratch, self.pairs, self.clock, self.slow_too = scratch, pairs, 'wall', False
+        self.settings = scratch / 'settings'
+        self.environment = dict(os.environ, XDG_CONFIG_HOME=str(self.settings), LANG='C.UTF-8', LC_ALL='C.UTF-8')
+
+    def once(self, command, output=None):
+        """Time in seconds and peak memory in kilobytes of one run."""
+        with open(output or os.devnull, 'wb') as sink:
+            done = subprocess.run([self.scratch / 'measure', *command], stdout=sink, stderr=subprocess.PIPE,
+                                  env=self.environment, check=True, timeout=600)
+        found = re.search(r'^measured (\S+) (\S+) (\d+) (-?\d+)$', done.stderr.decode(errors='replace'), re.M)
+        if found is None or found.group(4) != '0':
+            sys.exit(f'{command} failed: {done.stderr.decode(errors="replace")}')
+        return float(found.group(1 if self.clock == 'wall' else 2)), int(found.group(3))
+
+    def ratio(self, first, second, pairs=None):
+        """Median of the ratios of paired runs, in alternating order, after one run of each to warm the cache."""
+        for command, output in (first, second):
+            self.once(command, output)
+        ratios = []
+        for number in range(pairs or self.pairs):
+            order = (first, second) if number % 2 == 0 else (second, first)
+            times = {id(run): self.once(*run)[0] for run in order}
+            ratios.append(times[id(first)] / times[id(second)])
+        return statistics.median(ratios)
+
+    def filter_file(self, name, **keys):
+        path = self.scratch / f'{name}.fvf'
+        lines = ['[Folivant 3.5]', 'Filter=1000', 'FilterName=*.*', *[f'{key}={value}' for key, value in keys.items()]]
+        path.write_text('\r\n'.join(lines) + '\r\n')
+        return path
+
+
+def dos(path):
+    return 'Z:' + str(path).replace('/', '\\')
+
+
+def listing(program, tree, output, kind='t', filter_file=None):
+    """A command-line run; without a filter file of its own in style 1, ordered by name."""
+    chosen = filter_file or output.with_name('usual.fvf')
+    return [*program, '/f', dos(chosen), '/d', dos(tree), '/t', kind, '/o', dos(output), '/g']
+
+
+def table(title, head, rows):
+    lines = [f'### {title}', '', '| ' + ' | '.join(head) + ' |', '|' + ' --- |' * len(head)]
+    lines += ['| ' + ' | '.join(str(cell) for cell in row) + ' |' for row in rows] + ['']
+    print('\n'.join(lines), flush=True)  # as they come: a run takes a while
+    return lines
+
+
+def native(bench, trees):
+    host = [HOUSE / 'build/host-release/folivant-host']
+    out = bench.scratch / 'list.out'
+    others = {'bfs -printf': lambda t: ['bfs', t, '-printf', '%p %s %t\n'],
+              'find -printf': lambda t: ['find', t, '-printf', '%p %s %t\n'],
+              'tree -sD': lambda t: ['tree', '-sD', t],
+              'ls -lR': lambda t: ['ls', '-lR', t]}
+    others = {name: command for name, command in others.items() if shutil.which(name.split()[0])}
+    rows = []
+    for name, tree in trees.items():
+        floor = ([bench.scratch / 'floor', tree], None)
+        row = [name, f'{bench.ratio((listing(host, tree, out), None), floor):.2f}']
+        for command in others.values():
+            row.append(f'{bench.ratio((command(tree), out), floor, max(3, bench.pairs // 3)):.2f}')
+        rows.append(row)
+    lines = table('Native, whole process, against the floor', ['Tree', 'Folivant', *others], rows)
+
+    tree = trees[WIDE]
+    rows = []
+    for kind, name in (('h', 'HTML'), ('x', 'XML'), ('a', 'tab-delimited'), ('c', 'CSV')):
+        ratio = bench.ratio((listing(host, tree, out, kind), None), (listing(host, tree, out), None))
+        rows.append([name, f'{ratio:.2f}'])
+    return lines + table('Other kinds of file against text, native', ['Kind', 'Ratio'], rows)
+
+
+def orders(bench, small, large):
+    host = [HOUSE / 'build/host-release/folivant-host']
+    out = bench.scratch / 'list.out'
+    rows = []
+    for code, name in enumerate(('none', 'name', 'MS-DOS name', 'size', 'date', 'extension')):
+        row = [name]
+        for ascending in ('True', 'False'):
+            chosen = bench.filter_file(f'order{code}{ascending}', OrderBy=code, OrderAZ=ascending, Format=1)
+            first, second = ((listing(host, tree, out, filter_file=chosen), None) for tree in (large, small))
+            row.append(f'{bench.ratio(first, second, max(3, bench.pairs // 2)):.2f}')
+        rows.append(row)
+    return table('200,000 files in one directory against 100,000', ['Order', 'A to Z', 'Z to A'], rows)
+
+
+def memory(bench, few, many, directories, name_length):
+    """Peaks of the native program."""
+    host = [HOUSE / 'build/host-release/folivant-host']
+    out = bench.scratch / 'list.out'
+
+    def peak(tree, style):
+        chosen = bench.filter_file(f'style{style}', OrderBy=1, OrderAZ='True', Format=style)
+        return bench.once(listing(host, tree, out, filter_file=chosen))[1]
+    rows = []
+    for style, name in ((0, 'No subdirectories'), (1, 'Include subdirectories'), (4, 'Full-path list')):
+        rows.append([name, f'{peak(few, style):,} kB', f'{peak(many, style):,} kB'])
+    lines = table('Peak memory, streaming styles', ['Style', '300 directories', '3,000 directories'], rows)
+    # Texts of an entry: its name, eight characters of size or fewer, sixteen of date; four bytes each.
+    entries = (directories[1] - directories[0]) * 100
+    tree = (peak(many, 2) - peak(few, 2)) * 1024 / entries
+    # The texts of a node: its name.
+    nodes = directories[1] - directories[0]
+    view = (peak(many, 3) - peak(few, 3)) * 1024 / nodes
+    rows = [['Tree-style, per entry', f'{tree:.0f}', f'{tree - 4 * (name_length + 5 + 16):.0f}'],
+            ['Directory view, per directory', f'{view:.0f}', f'{view - 4 * 11:.0f}']]
+    return lines + table('Memory of the collecting styles, bytes', ['Style', 'All', 'Beyond texts'], rows)
+
+
+def under_wine(bench, trees, empty):
+    exe = ['wine', HOUSE / 'build/windows/Folivant.exe']
+    out = bench.scratch / 'list.out'
+    rows = []
+    for name, tree in trees.items():
+        floor = (['wine', bench.scratch / 'floor.exe', dos(tree)], None)
+        row = [name, f'{bench.ratio((listing(exe, tree, out), None), floor):.2f}']
+        if bench.slow_too:
+            row.append(f'{bench.ratio((["wine", "cmd", "/c", "dir", "/s", dos(tree)], out), floor, 1):.1f}')
+        rows.append(row)
+    head = ['Tree', 'Folivant.exe'] + (['cmd dir /s'] if bench.slow_too else [])
+    lines = table('Under Wine, whole process, against the floor', head, rows)
+    tree = next(iter(trees.values()))
+    rows = []
+    for kind, name in (('h', 'HTML'), ('x', 'XML')):
+        rows.append([f'{name} against text', f'{bench.ratio((listing(exe, tree, out, kind), None), (listing(exe, tree, out), None)):.2f}'])
+    rows.append(['Empty folder against an empty program',
+                 f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "empty.exe"], None), 3 * bench.pairs):.2f}'])
+    return lines + table('Under Wine, other runs', ['Run', 'Ratio'], rows)
+
+
+def start_wine(bench):
+    """A prefix of its own with a server that stays; returns what ends it."""
+    prefix = bench.scratch / 'prefix'
+    home = bench.scratch / 'home'
+    home.mkdir()
+    bench.environment.update(WINEPREFIX=str(prefix), WINEDEBUG='-all', HOME=str(home),
+                             WINEDLLOVERRIDES='winedbg.exe=d;winemenubuilder.exe=d')
+    bench.environment.pop('DISPLAY', None)
+    quiet = dict(stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=bench.environment)
+    subprocess.run(['wine', 'wineboot', '-i'], check=True, timeout=300, **quiet)
+    subprocess.run(['/usr/lib/wine/wineserver64', '-w'], timeout=300, **quiet)
+    subprocess.run(['/usr/lib/wine/wineserver64', '-p'], **quiet)
+    subprocess.run(['wine', 'wineboot'], timeout=300, **quiet)
+    return lambda: subprocess.run(['/usr/lib/wine/wineserver64', '-k'], **quiet)
+
+
+def put_between_markers(path, text):
+    content = path.read_text() if path.exists() else ''
+    if BEGIN not in content:
+        return
+    before, rest = content.split(BEGIN, 1)
+    path.write_text(f'{before}{BEGIN}\n{text}\n{END}{rest.split(END, 1)[1]}')
+
+
+WIDE = '300,000 files in 3,000 directories'
+
+
+def main():
+    options = argparse.ArgumentParser(description=__doc__)
+    options.add_argument('--pairs', type=int, default=9)
+    options.add_argument('--only', choices=('native', 'wine', 'orders', 'memory'), action='append')
+    options.add_argument('--clock', choices=('wall', 'cpu'), default='wall',
+                         help='cpu for a busy machine; under Wine the server\'s share is not in it')
+    options.add_argument('--slow', action='store_true', help='the command interpreter too: minutes per tree')
+    options.add_argument('--scale', type=float, default=1.0, help='share of the trees, for trying the script')
+    options.add_argument('--write', action='store_true')
+    chosen = options.parse_args()
+    parts = chosen.only or ('native', 'orders', 'memory', 'wine')
+    with tempfile.TemporaryDirectory(prefix='folivant-bench-') as name:
+        scratch = pathlib.Path(name)
+        build(scratch, 'wine' in parts)
+        bench = Bench(scratch, chosen.pairs)
+        bench.slow_too = chosen.slow
+        bench.clock = chosen.clock
+        bench.filter_file('usual', OrderBy=1, OrderAZ='True', Format=1)
+        lines = measure(bench, Trees(scratch), parts, chosen.scale)
+    text = '\n'.join(lines)
+    if chosen.write:
+        for path in (HOUSE / 'docs/benchmarks.md', HOUSE / 'README.md'):
+            put_between_markers(path, text)
+
+
+def measure(bench, make, parts, scale):
+    many = max(1, int(3000 * scale))
+    trees = {WIDE: make.wide('wide', many, 100)}
+    name_length = make.name_length / (many * 100)
+    few = make.wide('few', max(1, many // 10), 100)
+    large = max(2, int(200_000 * scale))
+    trees['100,000 files in one directory'] = small_flat = make.flat(large // 2)
+    trees['200,000 files in one directory'] = large_flat = make.flat(large)
+    trees['chain of 300 directories'] = make.chain(300)
+    lines = []
+    if 'native' in parts:
+        lines += native(bench, trees)
+    if 'orders' in parts:
+        lines += orders(bench, small_flat, large_flat)
+    if 'memory' in parts:
+        lines += memory(bench, few, trees[WIDE], (max(1, many // 10), many), name_length)
+    if 'wine' in parts:
+        end_wine = start_wine(bench)
+        try:
+            lines += under_wine(bench, trees, make.empty())
+        finally:
+            end_wine()
+    return lines
+
+
+if __name__ == '__main__':
+    main()

@@ -1,0 +1,112 @@
+#include "scan/DirectoryViewWalk.h"
+
+#include "scan/ListingTest.h"
+
+namespace folivant {
+namespace {
+
+using testing::ElementsAre;
+
+class DirectoryViewWalkTest : public ListingTest {
+ protected:
+  void SetUp() override {
+    ListingTest::SetUp();
+    Tree().Dir(L"C:\\Data").Folder(L"B").Folder(L"A").File(L"top.txt", 1).File(L"top.bak", 2);
+    Tree().Dir(L"C:\\Data\\A").Folder(L"DEEP").File(L"a.txt", 10);
+    Tree().Dir(L"C:\\Data\\A\\DEEP").File(L"d.txt", 100).File(L"e.txt", 1'000);
+  }
+};
+
+TEST_F(DirectoryViewWalkTest, CountsEachDirectoryAndEverythingBelow) {
+  EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 A C:\\Data\\A 1 10 3 1110",
+                                       L"2 DEEP C:\\Data\\A\\DEEP 2 1100 2 1100", L"1 B C:\\Data\\B 0 0 0 0", L"end"));
+}
+
+TEST_F(DirectoryViewWalkTest, TheDepthLimitHidesNodesButNotTheirTotals) {
+  mdlVars::Format.SubLevel = 1;
+  EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 A C:\\Data\\A 1 10 3 1110",
+                                       L"1 B C:\\Data\\B 0 0 0 0", L"end"));
+}
+
+TEST_F(DirectoryViewWalkTest, ANegativeSubLevelShowsNoNode) {
+  mdlVars::Format.SubLevel = -1;
+  EXPECT_THAT(List(kView), ElementsAre(L"begin", L"end"));
+}
+
+TEST_F(DirectoryViewWalkTest, OnlyFilesThatPassTheFilterCount) {
+  mdlVars::Filter.FilterName = L"*.txt";
+  mdlVars::Format.SubLevel = 1;
+  EXPECT_THAT(List(kView), testing::Contains(L"0 C:\\Data C:\\Data 1 1 4 1111"));
+}
+
+TEST_F(DirectoryViewWalkTest, WithDirectoriesRequiredNoFileCounts) {
+  mdlVars::Filter.AttrOn = true;
+  mdlVars::Filter.Attributes[kAttrDirectory] = AttributeChoice::MustHave;
+  EXPECT_THAT(List(kView), testing::Contains(L"0 C:\\Data C:\\Data 0 0 0 0"));
+}
+
+TEST_F(DirectoryViewWalkTest, DirectionTurnsTheSubdirectoriesRound) {
+  mdlVars::Filter.OrderAZ = false;
+  EXPECT_THAT(List(kView),
+              ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 B C:\\Data\\B 0 0 0 0",
+                          L"1 A C:\\Data\\A 1 10 3 1110", L"2 DEEP C:\\Data\\A\\DEEP 2 1100 2 1100", L"end"));
+}
+
+TEST_F(DirectoryViewWalkTest, AnUnreadableDirectoryKeepsZeroCountsAndIsNotCounted) {
+  Tree().Dir(L"C:\\Data\\A").Unreadable();
+  EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 2 3", L"1 A C:\\Data\\A 0 0 0 0",
+                                       L"1 B C:\\Data\\B 0 0 0 0", L"end"));
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 2);
+  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+}
+
+TEST_F(DirectoryViewWalkTest, TotalsOfTheRunAreThoseOfTheStartDirectory) {
+  mdlVars::Format.SubLevel = 1;
+  List(kView);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 5);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 1'113);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 4);
+}
+
+TEST_F(DirectoryViewWalkTest, ALinkToAnAncestorKeepsZeroCounts) {
+  Tree().Dir(L"C:\\Data\\B").Link(L"Up", L"C:\\Data");
+  EXPECT_THAT(List(kView), testing::Contains(L"2 Up C:\\Data\\B\\Up 0 0 0 0"));
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 4);
+}
+
+TEST_F(DirectoryViewWalkTest, SharesGoDownTheTree) {
+  List(kView);
+  EXPECT_THAT(Watcher.Shares, ElementsAre(50, 50));  // DEEP and B
+}
+
+TEST_F(DirectoryViewWalkTest, ARunCancelledWhileScanningShowsNoNode) {
+  Watcher.CancelIn(L"C:\\Data\\A\\DEEP");
+  EXPECT_THAT(List(kView), ElementsAre(L"begin", L"abort"));
+  EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\A", L"C:\\Data\\A\\DEEP"));
+}
+
+TEST_F(DirectoryViewWalkTest, ARunCancelledWhileShowingStopsThere) {
+  Writer.OnEvent = [&] { Watcher.CancelNow = Writer.Events.size() == 3; };
+  EXPECT_THAT(List(kView),
+              ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 A C:\\Data\\A 1 10 3 1110", L"abort"));
+}
+
+TEST_F(DirectoryViewWalkTest, DepthIsNotLimitedByTheStack) {
+  constexpr std::int32_t kDepth = 20'000;
+  fakes::FakeDir directory = Tree().Dir(L"C:\\Data\\B");
+  for (int i = 0; i < kDepth; ++i) {
+    directory = directory.Dir(L"d");
+  }
+  directory.File(L"bottom.txt", 10'000);
+  Watcher.OnDirectory = [&](std::wstring_view) { Watcher.Shown.clear(); };
+  mdlVars::Format.SubLevel = 1;
+  EXPECT_THAT(List(kView), testing::Contains(L"1 B C:\\Data\\B 0 0 1 10000"));
+}
+
+TEST_F(DirectoryViewWalkTest, TheListIsEmptyAfterTheRun) {
+  List(kView);
+  EXPECT_TRUE(mdlVars::Tree.DirNodes.empty());
+}
+
+}  // namespace
+}  // namespace folivant

@@ -1,0 +1,262 @@
+#include "scan/DirectoryWalk.h"
+
+#include "scan/ListingTest.h"
+
+namespace folivant {
+namespace {
+
+using testing::ElementsAre;
+
+using DirectoryWalkTest = ListingTest;
+
+TEST_F(DirectoryWalkTest, ListsDirectoriesDepthFirstInSortedOrder) {
+  Tree().Dir(L"C:\\Data").File(L"z.txt", 1).Folder(L"Two").Folder(L"One").File(L"a.txt", 2);
+  Tree().Dir(L"C:\\Data\\One").File(L"x.txt", 3).Folder(L"Deep");
+  Tree().Dir(L"C:\\Data\\One\\Deep").File(L"y.txt", 4);
+  EXPECT_THAT(List(kDeep),
+              ElementsAre(L"begin", L"0 C:\\Data: One Two A.txt Z.txt (4 files, 3 b )",
+                          L"1 C:\\Data\\One: Deep X.txt (2 files, 3 b )",
+                          L"2 C:\\Data\\One\\Deep: Y.txt (1 file, 4 b )", L"1 C:\\Data\\Two: (0 files, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, FullPathListRaisesTheSameEvents) {
+  Tree().Dir(L"C:\\Data\\Sub").File(L"a.txt");
+  const std::vector<std::wstring> streamed = List(kDeep);
+  EXPECT_EQ(List(kFull), streamed);
+}
+
+TEST_F(DirectoryWalkTest, NoSubdirectoriesNeverDescends) {
+  Tree().Dir(L"C:\\Data\\Sub").File(L"a.txt");
+  for (const std::int32_t subLevel : {0, 5}) {
+    mdlVars::Format.SubLevel = subLevel;
+    EXPECT_THAT(List(kFlat), ElementsAre(L"begin", L"0 C:\\Data: Sub (1 file, 0 b )", L"end"));
+  }
+}
+
+TEST_F(DirectoryWalkTest, ADirectoryAmongTheEntriesHasItsOwnSizeText) {
+  Tree().Dir(L"C:\\Data").Folder(L"Sub").File(L"n.bin", 12'345).File(L"o.bin", 9'999);
+  Writer.Details = true;
+  EXPECT_THAT(List(kFlat), ElementsAre(L"begin",
+                                       L"0 C:\\Data: Sub||<DIR>   |2001/02/03 04:05|d     "
+                                       L"N.bin||12 kb|2001/02/03 04:05| a    "
+                                       L"O.bin||9,999 b |2001/02/03 04:05| a    (3 files, 21 kb)",
+                                       L"end"));
+}
+
+TEST_F(DirectoryWalkTest, SubLevelLimitsTheDepth) {
+  Tree().Dir(L"C:\\Data\\A\\B\\C").File(L"f");
+  const auto directories = [&](std::int32_t subLevel) {
+    mdlVars::Format.SubLevel = subLevel;
+    return List(kDeep).size() - 2;  // without begin and end
+  };
+  EXPECT_EQ(directories(1), 2U);
+  EXPECT_EQ(directories(2), 3U);
+  EXPECT_EQ(directories(0), 4U);   // no limit
+  EXPECT_EQ(directories(-1), 1U);  // the start directory alone
+}
+
+TEST_F(DirectoryWalkTest, TheFilterDecidesAboutListedSubdirectoriesButNotAboutDescent) {
+  Tree().Dir(L"C:\\Data").Folder(L"Sub").File(L"a.txt");
+  Tree().Dir(L"C:\\Data\\Sub").File(L"b.txt");
+  mdlVars::Filter.AttrOn = true;
+  mdlVars::Filter.Attributes[kAttrDirectory] = AttributeChoice::MustNotHave;
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: A.txt (1 file, 0 b )",
+                                       L"1 C:\\Data\\Sub: B.txt (1 file, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, PathsBelowTheStartKeepTheSpellingOnDisk) {
+  Tree().Dir(L"C:\\DATA\\SUB").File(L"A.TXT");
+  EXPECT_THAT(List(kDeep, L"c:\\data"), ElementsAre(L"begin", L"0 C:\\Data: Sub (1 file, 0 b )",
+                                                    L"1 C:\\Data\\SUB: A.txt (1 file, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, ADriveRootKeepsItsOneBackslash) {
+  Tree().Dir(L"D:\\Sub");
+  EXPECT_THAT(List(kDeep, L"d:\\"),
+              ElementsAre(L"begin", L"0 D:\\: Sub (1 file, 0 b )", L"1 D:\\Sub: (0 files, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, AnUnreadableDirectoryIsListedByItsParentAndSkippedSilently) {
+  Tree().Dir(L"C:\\Data").Folder(L"Locked").Unreadable().Folder(L"Open");
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: Locked Open (2 files, 0 b )",
+                                       L"1 C:\\Data\\Open: (0 files, 0 b )", L"end"));
+  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+  EXPECT_THAT(Watcher.Shares, ElementsAre(50));  // nothing is reported for the locked one
+}
+
+TEST_F(DirectoryWalkTest, AReadableTreeIsNotCalledUnreadable) {
+  Tree().Dir(L"C:\\Data\\Sub").File(L"a.txt");
+  List(kDeep);
+  EXPECT_FALSE(mdlVars::Tree.Unreadable);
+}
+
+TEST_F(DirectoryWalkTest, AnUnreadableStartDirectoryListsNothing) {
+  Tree().Dir(L"C:\\Data").Unreadable();
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"end"));
+  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 0);
+}
+
+TEST_F(DirectoryWalkTest, ADirectoryThatVanishesBeforeItIsEnteredIsSkipped) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B");
+  Watcher.OnDirectory = [](std::wstring_view path) {
+    if (path == L"C:\\Data\\A") {
+      fakes::Tree().Remove(L"C:\\Data\\B");
+    }
+  };
+  EXPECT_THAT(List(kDeep),
+              ElementsAre(L"begin", L"0 C:\\Data: A B (2 files, 0 b )", L"1 C:\\Data\\A: (0 files, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, AnEnumerationThatBreaksOffListsWhatItGave) {
+  Tree().Dir(L"C:\\Data").FailsAfter(1).File(L"a.txt").File(L"b.txt");
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: A.txt (1 file, 0 b )", L"end"));
+  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+}
+
+TEST_F(DirectoryWalkTest, ALinkToADirectoryItIsInIsListedButNotEntered) {
+  Tree().Dir(L"C:\\Data").Folder(L"Sub");
+  Tree().Dir(L"C:\\Data\\Sub").Link(L"Up", L"C:\\Data").File(L"a.txt");
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: Sub (1 file, 0 b )",
+                                       L"1 C:\\Data\\Sub: Up A.txt (2 files, 0 b )", L"end"));
+  EXPECT_FALSE(mdlVars::Tree.Unreadable);
+}
+
+TEST_F(DirectoryWalkTest, ALinkToADirectoryAboveTheStartIsNotEntered) {
+  Tree().Dir(L"C:\\Top\\Data").Link(L"Up", L"C:\\Top").Link(L"Root", L"C:\\");
+  EXPECT_THAT(List(kDeep, L"C:\\Top\\Data"),
+              ElementsAre(L"begin", L"0 C:\\Top\\Data: Root Up (2 files, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, OtherLinksAreEntered) {
+  Tree().Dir(L"C:\\Other").File(L"a.txt", 7);
+  Tree().Dir(L"C:\\Data").Link(L"Away", L"C:\\Other").Link(L"Same", L"C:\\Other");
+  EXPECT_THAT(List(kDeep),
+              ElementsAre(L"begin", L"0 C:\\Data: Away Same (2 files, 0 b )", L"1 C:\\Data\\Away: A.txt (1 file, 7 b )",
+                          L"1 C:\\Data\\Same: A.txt (1 file, 7 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, TwoLinksThatLeadToEachOtherEnd) {
+  Tree().Dir(L"C:\\One").Link(L"Two", L"C:\\Two");
+  Tree().Dir(L"C:\\Two").Link(L"One", L"C:\\One");
+  EXPECT_THAT(List(kDeep, L"C:\\One"),
+              ElementsAre(L"begin", L"0 C:\\One: Two (1 file, 0 b )", L"1 C:\\One\\Two: One (1 file, 0 b )", L"end"));
+}
+
+TEST_F(DirectoryWalkTest, DepthIsNotLimitedByTheStack) {
+  constexpr std::size_t kDepth = 20'000;
+  fakes::FakeDir directory = Tree().Dir(L"C:\\Data");
+  for (std::size_t i = 0; i < kDepth; ++i) {
+    directory = directory.Dir(L"d");
+  }
+  directory.File(L"bottom.txt", 5);
+  Watcher.OnDirectory = [&](std::wstring_view) { Watcher.Shown.clear(); };
+  Writer.Silent = true;
+  List(kDeep);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 5);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, static_cast<std::int32_t>(kDepth) + 1);
+}
+
+TEST_F(DirectoryWalkTest, TotalsCountEntriesAndDirectoriesThatListMoreThanSubdirectories) {
+  Tree().Dir(L"C:\\Data").Folder(L"Sub").File(L"a.txt", 1'000);
+  Tree().Dir(L"C:\\Data\\Sub").Folder(L"Empty").File(L"b.txt", 500);
+  Tree().Dir(L"C:\\Data\\Sub\\Empty").Folder(L"OnlyFolders");
+  List(kDeep);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 1'500);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 5);  // two files and three subdirectories among the entries
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 2);   // those that hold a file
+}
+
+TEST_F(DirectoryWalkTest, ADirectoryWhoseSubdirectoriesAreFilteredOutMayNotCount) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B").File(L"x.txt").File(L"y.txt");
+  mdlVars::Filter.AttrOn = true;
+  mdlVars::Filter.Attributes[kAttrDirectory] = AttributeChoice::MustNotHave;
+  List(kFlat);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 2);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 0);  // two entries are not more than two subdirectories
+}
+
+TEST_F(DirectoryWalkTest, SizesBeyondFourGigabytesStayExact) {
+  Tree().Dir(L"C:\\Data").File(L"a", 0x1'8000'0000ULL).File(L"b", 0xFFFF'FFFFULL);
+  EXPECT_THAT(List(kFlat), ElementsAre(L"begin", L"0 C:\\Data: A B (2 files, 9 Gb)", L"end"));
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 0x1'8000'0000LL + 0xFFFF'FFFFLL);
+}
+
+TEST_F(DirectoryWalkTest, SharesDivideAmongSubdirectories) {
+  Tree().Dir(L"C:\\Four").Folder(L"A").Folder(L"B").Folder(L"C").Folder(L"D");
+  List(kDeep, L"C:\\Four");
+  EXPECT_THAT(Watcher.Shares, ElementsAre(25, 25, 25, 25));
+  Watcher.Shares.clear();
+  Tree().Dir(L"C:\\Three").Folder(L"A").Folder(L"B").Folder(L"C");
+  List(kDeep, L"C:\\Three");
+  EXPECT_THAT(Watcher.Shares, ElementsAre(33, 33, 33));
+}
+
+TEST_F(DirectoryWalkTest, ADirectoryWithoutSubdirectoriesReportsItsWholeShareAtOnce) {
+  Tree().Dir(L"C:\\Data").File(L"a");
+  List(kDeep);
+  EXPECT_THAT(Watcher.Shares, ElementsAre(100));
+}
+
+TEST_F(DirectoryWalkTest, ADirectoryWithSubdirectoriesReportsNothingItself) {
+  Tree().Dir(L"C:\\Data\\Sub");
+  List(kFlat);
+  EXPECT_TRUE(Watcher.Shares.empty());
+}
+
+TEST_F(DirectoryWalkTest, HalvesOfSharesGoToTheEvenNumber) {
+  EXPECT_EQ(DivideShare(25, 2), 12);
+  EXPECT_EQ(DivideShare(35, 2), 18);
+  EXPECT_EQ(DivideShare(100, 3), 33);
+  EXPECT_EQ(DivideShare(50, 3), 17);
+  EXPECT_EQ(DivideShare(1, 3), 0);
+}
+
+TEST_F(DirectoryWalkTest, EachDirectoryIsShownBeforeItIsRead) {
+  Tree().Dir(L"C:\\Data\\Locked").Unreadable();
+  List(kDeep);
+  EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\Locked"));
+}
+
+TEST_F(DirectoryWalkTest, EventsGetThroughForEveryEntryEvenIfItIsNotKept) {
+  Tree().Dir(L"C:\\Data").File(L"a").File(L"b").File(L"c");
+  mdlVars::Filter.FilterName = L"a";
+  List(kDeep);
+  EXPECT_GE(Watcher.Pumped, 4);  // the directory and its three entries
+}
+
+TEST_F(DirectoryWalkTest, ACancelledRunListsTheDirectoryThatItIsReadingToItsEnd) {
+  Tree().Dir(L"C:\\Data").File(L"a").File(L"b").File(L"c");
+  Watcher.OnPump = [&] { Watcher.CancelNow = true; };
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: A B C (3 files, 0 b )", L"abort"));
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 3);
+}
+
+TEST_F(DirectoryWalkTest, CancelIsSeenAfterASubdirectoryNotBefore) {
+  Tree().Dir(L"C:\\Data\\A\\Deep");
+  Tree().Dir(L"C:\\Data\\B");
+  Watcher.CancelIn(L"C:\\Data");
+  // The first subdirectory is still scanned, all the way down; then every level returns.
+  EXPECT_THAT(List(kDeep),
+              ElementsAre(L"begin", L"0 C:\\Data: A B (2 files, 0 b )", L"1 C:\\Data\\A: Deep (1 file, 0 b )",
+                          L"2 C:\\Data\\A\\Deep: (0 files, 0 b )", L"abort"));
+}
+
+TEST_F(DirectoryWalkTest, CancelSkipsTheTotalsOfDirectoriesThatTheRunIsIn) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").File(L"top.txt", 100);
+  Tree().Dir(L"C:\\Data\\A").File(L"a.txt", 7);
+  Watcher.CancelIn(L"C:\\Data\\A");
+  List(kDeep);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 7);
+  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 1);
+  EXPECT_TRUE(mdlVars::Tree.Cancelled);
+}
+
+TEST_F(DirectoryWalkTest, CancelIsSeenAfterAnUnreadableSubdirectoryToo) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Unreadable().Folder(L"B");
+  Watcher.CancelIn(L"C:\\Data\\A");
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: A B (2 files, 0 b )", L"abort"));
+}
+
+}  // namespace
+}  // namespace folivant
