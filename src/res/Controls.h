@@ -66,9 +66,9 @@
 #define fraSize 1039
 #define fraDate 1040
 #define fraAttr 1041
-#define chkY 1050  // to 1054: archive, read-only, hidden, system, directory
-#define chkX 1055  // to 1059
-#define chkN 1060  // to 1064
+#define chkY 1050     // to 1054: archive, read-only, hidden, system, directory
+#define chkX 1055     // to 1059
+#define chkN 1060     // to 1064
 #define lblAttr 1065  // to 1069
 #define optName 1070
 #define optExt 1071

@@ -87,7 +87,7 @@ void FindResults::FetchTexts(std::vector<FoundItem>& rows, std::int32_t first, s
   const std::size_t bytes = CellOf(count, 0) * kCellBytes;
   window_.Read(kTextsOffset, std::span(block_).subspan(kTextsOffset, bytes));
   for (std::int32_t row = 0; row < count; ++row) {
-    FoundItem& item = rows.at(static_cast<std::size_t>(first + row));
+    FoundItem& item = rows.at(static_cast<std::size_t>(first) + static_cast<std::size_t>(row));
     item.Name = GetFindCell(CellOf(row, 0));
     item.InFolder = GetFindCell(CellOf(row, 1));
     item.Size = GetFindCell(CellOf(row, 2));

@@ -1,4 +1,5 @@
-// A program that stays: a hidden window and a message loop, so that the desktop is up before the windows under test are.
+// A program that stays: a hidden window and a message loop, so that the desktop is up before the windows under test
+// are.
 #include "platform/win32/Win32.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
