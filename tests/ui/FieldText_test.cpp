@@ -1,0 +1,82 @@
+#include "ui/FieldText.h"
+
+#include <gtest/gtest.h>
+
+namespace folivant {
+namespace {
+
+// The tests' locale is English (United States): "," between thousands, "." before decimals.
+
+TEST(ParseWholeNumber, TakesSignBlanksAndSeparators) {
+  EXPECT_EQ(ParseWholeNumber(L"12"), 12);
+  EXPECT_EQ(ParseWholeNumber(L"  -7 "), -7);
+  EXPECT_EQ(ParseWholeNumber(L"+3"), 3);
+  EXPECT_EQ(ParseWholeNumber(L"1,204"), 1204);
+}
+
+TEST(ParseWholeNumber, RoundsHalvesToEven) {
+  EXPECT_EQ(ParseWholeNumber(L"2.5"), 2);
+  EXPECT_EQ(ParseWholeNumber(L"3.5"), 4);
+  EXPECT_EQ(ParseWholeNumber(L"-2.5"), -2);
+  EXPECT_EQ(ParseWholeNumber(L"2.51"), 3);
+}
+
+TEST(ParseWholeNumber, RefusesWhatIsNoNumber) {
+  for (const wchar_t* text : {L"", L" ", L"abc", L"1a", L"1 2", L"--1", L"1-", L".", L"1.2.3", L"0x10", L"1e3"}) {
+    EXPECT_EQ(ParseWholeNumber(text), std::nullopt) << testing::PrintToString(std::wstring(text));
+  }
+}
+
+TEST(ParseWholeNumber, RefusesWhatDoesNotFitIn32Bits) {
+  EXPECT_EQ(ParseWholeNumber(L"2147483647"), 2147483647);
+  EXPECT_EQ(ParseWholeNumber(L"2147483648"), std::nullopt);
+  EXPECT_EQ(ParseWholeNumber(L"-2147483648"), -2147483648LL);
+  EXPECT_EQ(ParseWholeNumber(L"-2147483649"), std::nullopt);
+  EXPECT_EQ(ParseWholeNumber(L"2147483647.5"), std::nullopt) << "rounds beyond the limit";
+}
+
+TEST(ParseSingle, TakesFractions) {
+  EXPECT_EQ(ParseSingle(L"0.5"), 0.5F);
+  EXPECT_EQ(ParseSingle(L".5"), 0.5F);
+  EXPECT_EQ(ParseSingle(L"-12.75"), -12.75F);
+  EXPECT_EQ(ParseSingle(L"20"), 20.0F);
+  EXPECT_EQ(ParseSingle(L"wide"), std::nullopt);
+  EXPECT_EQ(ParseSingle(L""), std::nullopt);
+}
+
+TEST(LeadingWholeNumber, TakesTheBeginning) {
+  EXPECT_EQ(LeadingWholeNumber(L"80"), 80);
+  EXPECT_EQ(LeadingWholeNumber(L" 80 characters"), 80);
+  EXPECT_EQ(LeadingWholeNumber(L"-3x"), -3);
+  EXPECT_EQ(LeadingWholeNumber(L"+4"), 4);
+  EXPECT_EQ(LeadingWholeNumber(L"2.5.1"), 2);
+}
+
+TEST(LeadingWholeNumber, IsZeroWithoutOne) {
+  EXPECT_EQ(LeadingWholeNumber(L""), 0);
+  EXPECT_EQ(LeadingWholeNumber(L"wide 80"), 0);
+  EXPECT_EQ(LeadingWholeNumber(L"-"), 0);
+}
+
+TEST(LeadingWholeNumber, StopsAtTheLimits) {
+  EXPECT_EQ(LeadingWholeNumber(L"99999999999"), 2147483647);
+  EXPECT_EQ(LeadingWholeNumber(L"-99999999999"), -2147483648LL);
+}
+
+TEST(SingleText, HasNoZerosAtTheEnd) {
+  EXPECT_EQ(SingleText(20.0F), L"20");
+  EXPECT_EQ(SingleText(0.5F), L"0.5");
+  EXPECT_EQ(SingleText(0.13F), L"0.13");
+  EXPECT_EQ(SingleText(-1.25F), L"-1.25");
+  EXPECT_EQ(SingleText(0.0F), L"0");
+}
+
+TEST(FieldName, IsTheCaptionWithoutItsMarks) {
+  EXPECT_EQ(FieldName(L"&Size:"), L"Size");
+  EXPECT_EQ(FieldName(L"Max. subdirectory &level:"), L"Max. subdirectory level");
+  EXPECT_EQ(FieldName(L"Date format :"), L"Date format");
+  EXPECT_EQ(FieldName(L":"), L"");
+}
+
+}  // namespace
+}  // namespace folivant
