@@ -131,6 +131,19 @@ RECT Window::Rectangle() const {
   return rectangle;
 }
 
+Window Window::Control(int id) const {
+  if (const HWND own = GetDlgItem(handle_, id); own != nullptr) {
+    return Window(own);
+  }
+  for (HWND page = GetWindow(handle_, GW_CHILD); page != nullptr; page = GetWindow(page, GW_HWNDNEXT)) {
+    const bool isPage = Window(page).ClassName() == L"#32770";
+    if (const HWND onPage = isPage ? GetDlgItem(page, id) : nullptr; onPage != nullptr) {
+      return Window(onPage);
+    }
+  }
+  return Window();
+}
+
 void Window::SetText(int id, std::wstring_view text) const {
   SendMessageW(Control(id).Handle(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
 }

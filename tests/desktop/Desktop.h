@@ -58,7 +58,8 @@ class Window {
   bool IsShown() const { return IsWindowVisible(handle_) != 0; }
   RECT Rectangle() const;  ///< in screen coordinates
 
-  Window Control(int id) const { return Window(GetDlgItem(handle_, id)); }
+  /// A control of the window or of one of its pages.
+  Window Control(int id) const;
   std::wstring TextOf(int id) const { return Control(id).Text(); }
   void SetText(int id, std::wstring_view text) const;
   bool IsChecked(int id) const;

@@ -1,0 +1,271 @@
+// The dialogs: opened, changed, confirmed, opened again, cancelled, and what the store holds afterwards.
+#include "desktop/MainWindow.h"
+
+#include <commctrl.h>
+
+namespace folivant::desktop {
+namespace {
+
+class Dialogs : public MainWindowTest {
+ protected:
+  Dialogs() : program(Argument()), main(Main(program)) {}
+  ~Dialogs() override { Close(program, main); }
+
+  Window Show(int button, int title) const { return Open(program, main, button, title); }
+  static void Dismiss(Window dialog, int button) {
+    dialog.Press(button);
+    EXPECT_TRUE(dialog.WaitUntilGone());
+  }
+  /// Presses OK with a text that does not convert: one message that names the field, the dialog stays, and the focus
+  /// is on the field.
+  void ExpectFieldProblem(Window dialog, int field, const std::wstring& name) const {
+    dialog.Press(cmdOK);
+    const Window box = program.WaitForBox(dialog);
+    EXPECT_NE(box.BoxText().find(name), std::wstring::npos) << testing::PrintToString(box.BoxText());
+    box.Answer(IDOK);
+    EXPECT_TRUE(dialog);
+    EXPECT_TRUE(WaitUntil([&] {
+      GUITHREADINFO focus{};
+      focus.cbSize = sizeof focus;
+      GetGUIThreadInfo(GetWindowThreadProcessId(dialog.Handle(), nullptr), &focus);
+      return focus.hwndFocus == dialog.Control(field).Handle();
+    })) << "the focus is on the field";
+  }
+  static void Check(Window dialog, int box, bool wanted) {
+    if (dialog.IsChecked(box) != wanted) {
+      dialog.Click(box);
+    }
+    EXPECT_EQ(dialog.IsChecked(box), wanted);
+  }
+
+  Program program;
+  Window main;
+};
+
+TEST_F(Dialogs, TheFilterOpensWithItsDefaults) {
+  const Window filter = Show(cmdFilter, 200);
+  EXPECT_TRUE(filter.IsChecked(chkName));
+  EXPECT_FALSE(filter.IsChecked(chkSize));
+  EXPECT_FALSE(filter.IsChecked(chkDate));
+  EXPECT_FALSE(filter.IsChecked(chkAttr));
+  EXPECT_EQ(filter.TextOf(txtName), L"*.*");
+  EXPECT_EQ(filter.TextOf(txtSize), L"0");
+  EXPECT_EQ(filter.TextOf(cmbSize), Message(214));
+  const int expected[] = {chkX, chkX + 1, chkN + 2, chkN + 3, chkX + 4};  // "22002"
+  for (const int button : expected) {
+    EXPECT_TRUE(filter.IsChecked(button)) << button;
+  }
+  EXPECT_TRUE(filter.IsChecked(optName));
+  EXPECT_TRUE(filter.IsChecked(optAZ));
+  EXPECT_TRUE(filter.Control(txtName).IsEnabled());
+  EXPECT_FALSE(filter.Control(txtSize).IsEnabled()) << "follows its check box";
+  EXPECT_EQ(filter.TextOf(optExt), L"Extention");
+  Dismiss(filter, cmdCancel);
+}
+
+TEST_F(Dialogs, TheFilterStoresWhatWasChosen) {
+  Window filter = Show(cmdFilter, 200);
+  filter.SetText(txtName, L"*.txt, *.doc");
+  Check(filter, chkSize, true);
+  EXPECT_TRUE(filter.Control(txtSize).IsEnabled());
+  filter.SetText(txtSize, L"1,000");
+  filter.Choose(cmbSize, 1);
+  Check(filter, chkAttr, true);
+  filter.Click(chkY);      // archive
+  filter.Click(chkN + 1);  // read-only
+  filter.Click(chkX + 2);  // hidden
+  filter.Click(optExt);
+  filter.Click(optZA);
+  Dismiss(filter, cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"Filter"), L"1101");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterName"), L"*.txt, *.doc");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterSizeMin"), L"False");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterSize"), L"1000");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"1980/01/01");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMax"), L"2039/12/31");
+  EXPECT_EQ(ReadStore(L"Filter", L"Attr"), L"10202");
+  EXPECT_EQ(ReadStore(L"Filter", L"OrderBy"), L"5");
+  EXPECT_EQ(ReadStore(L"Filter", L"OrderAZ"), L"False");
+  EXPECT_TRUE(main.TextOf(lblFilter).starts_with(L"*.txt, *.doc, <")) << "the main window follows";
+
+  filter = Show(cmdFilter, 200);
+  EXPECT_EQ(filter.TextOf(txtName), L"*.txt, *.doc");
+  EXPECT_EQ(filter.TextOf(txtSize), L"1000");
+  EXPECT_EQ(filter.TextOf(cmbSize), Message(215));
+  EXPECT_TRUE(filter.IsChecked(chkY));
+  EXPECT_TRUE(filter.IsChecked(optZA));
+  filter.SetText(txtName, L"*.bak");
+  Dismiss(filter, cmdCancel);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterName"), L"*.txt, *.doc") << "cancel changes nothing";
+}
+
+TEST_F(Dialogs, TheFilterNamesASizeThatIsNoNumber) {
+  const Window filter = Show(cmdFilter, 200);
+  filter.SetText(txtName, L"*.zip");
+  filter.SetText(txtSize, L"big");
+  ExpectFieldProblem(filter, txtSize, L"Size");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterName"), std::nullopt) << "nothing is stored";
+  Dismiss(filter, cmdCancel);
+}
+
+TEST_F(Dialogs, TheFormatShowsAPictureForEachStyle) {
+  const Window format = Show(cmdFormat, 201);
+  EXPECT_TRUE(format.IsChecked(optSub));
+  std::vector<LRESULT> pictures;
+  for (const int style : {optNoSub, optSub, optSubTree, optTree, optFull, optFind}) {
+    format.Click(style);
+    EXPECT_TRUE(format.IsChecked(style));
+    const LRESULT picture = SendMessageW(format.Control(picPreview).Handle(), STM_GETIMAGE, IMAGE_BITMAP, 0);
+    EXPECT_NE(picture, 0) << style;
+    EXPECT_TRUE(pictures.empty() || pictures.back() != picture) << style;
+    pictures.push_back(picture);
+  }
+  Dismiss(format, cmdCancel);
+  EXPECT_EQ(main.TextOf(lblFormat), Message(25)) << "cancel changes nothing";
+}
+
+TEST_F(Dialogs, TheFormatStoresTheStyleAndADoubleClickIsOK) {
+  Window format = Show(cmdFormat, 201);
+  format.Click(optTree);
+  Dismiss(format, cmdOK);
+  EXPECT_EQ(ReadStore(L"Settings", L"Format"), L"3");
+  EXPECT_EQ(main.TextOf(lblFormat), Message(27));
+  format = Show(cmdFormat, 201);
+  EXPECT_TRUE(format.IsChecked(optTree));
+  const HWND full = format.Control(optFull).Handle();
+  format.Click(optFull);
+  PostMessageW(format.Handle(), WM_COMMAND, MAKEWPARAM(optFull, BN_DOUBLECLICKED), reinterpret_cast<LPARAM>(full));
+  EXPECT_TRUE(format.WaitUntilGone());
+  EXPECT_EQ(ReadStore(L"Settings", L"Format"), L"4");
+}
+
+TEST_F(Dialogs, TheColumnsStoreTheirSwitchesAndTheLevel) {
+  const Window format = Show(cmdFormat, 201);
+  Window columns = Open(program, format, Command1, 202);
+  const std::pair<int, bool> defaults[] = {{chkName, true},  {chkDOS, false},    {chkSize, true},
+                                           {chkTime, true},  {chkAttr, false},   {chkTFiles, true},
+                                           {chkTSize, true}, {chkTTFiles, true}, {chkTTSize, true}};
+  for (const auto& [box, on] : defaults) {
+    EXPECT_EQ(columns.IsChecked(box), on) << box;
+  }
+  EXPECT_EQ(columns.TextOf(txtLevel), L"0");
+  Check(columns, chkDOS, true);
+  Check(columns, chkTime, false);
+  Check(columns, chkTTFiles, false);
+  columns.SetText(txtLevel, L"-2");
+  Dismiss(columns, cmdOK);
+  EXPECT_EQ(ReadStore(L"Format", L"FShow"), L"11100");
+  EXPECT_EQ(ReadStore(L"Format", L"TShow"), L"1101");
+  EXPECT_EQ(ReadStore(L"Format", L"SubLevel"), L"-2") << "negative levels are accepted as typed";
+
+  columns = Open(program, format, Command1, 202);
+  EXPECT_TRUE(columns.IsChecked(chkDOS));
+  columns.SetText(txtLevel, L"deep");
+  Check(columns, chkDOS, false);
+  ExpectFieldProblem(columns, txtLevel, L"level");
+  EXPECT_EQ(ReadStore(L"Format", L"FShow"), L"11100") << "nothing is stored";
+  Dismiss(columns, cmdCancel);
+  Dismiss(format, cmdCancel);
+}
+
+TEST_F(Dialogs, TheOptionsStoreEveryPage) {
+  Window options = Show(cmdOptions, 204);
+  EXPECT_EQ(options.TextOf(txtViewer), L"notepad.exe");
+  EXPECT_EQ(options.TextOf(txtWidth), L"80");
+  EXPECT_EQ(options.TextOf(txtHeight), L"26");
+  EXPECT_EQ(options.TextOf(cmbDate), L"yyyy/mm/dd");
+  EXPECT_EQ(options.TextOf(txtLeft), L"20");
+  EXPECT_EQ(options.TextOf(txtTop), L"15");
+  EXPECT_TRUE(options.IsChecked(optPort));
+  EXPECT_TRUE(options.IsChecked(chkFontHF));
+  EXPECT_FALSE(options.Control(cmdFontHF).IsEnabled()) << "follows the 80 % rule";
+  EXPECT_TRUE(options.TextOf(lblLegend + 6).starts_with(L"%n  ")) << "the legend";
+
+  options.SetText(txtViewer, L"viewer.exe");
+  options.SetText(txtWidth, L"132 wide");
+  options.SetText(txtHeight, L"tall");
+  options.Choose(cmbDate, 3);
+  Check(options, chkExit, false);
+  Check(options, chkEmptyDirs, true);
+  options.SetText(txtLeft, L"25.5");
+  options.Click(optLand);
+  options.SetText(txtCopies, L"2");
+  options.Click(chkFontHF);
+  EXPECT_TRUE(options.Control(cmdFontHF).IsEnabled());
+  options.SetText(txtHeader, L"Head %n");
+  Dismiss(options, cmdOK);
+  const std::pair<const wchar_t*, const wchar_t*> stored[] = {
+      {L"TextViewer", L"viewer.exe"}, {L"TextWidth", L"132"},  {L"TextHeight", L"0"},    {L"DateFormat", L"3"},
+      {L"ExitWhenDone", L"False"},    {L"EmptyDirs", L"True"}, {L"MarginLeft", L"25.5"}, {L"Port", L"False"},
+      {L"PrinterCopies", L"2"},       {L"Font80HF", L"False"}, {L"Header", L"Head %n"}};
+  for (const auto& [key, value] : stored) {
+    EXPECT_EQ(ReadStore(L"Settings", key), value) << testing::PrintToString(std::wstring(key));
+  }
+  options = Show(cmdOptions, 204);
+  EXPECT_EQ(options.TextOf(txtWidth), L"132");
+  EXPECT_TRUE(options.IsChecked(optLand));
+  options.SetText(txtViewer, L"other.exe");
+  Dismiss(options, cmdCancel);
+  EXPECT_EQ(ReadStore(L"Settings", L"TextViewer"), L"viewer.exe") << "cancel stores nothing";
+}
+
+TEST_F(Dialogs, TheUnitChangesTheLabelsAndNotTheNumbers) {
+  const Window options = Show(cmdOptions, 204);
+  EXPECT_EQ(options.TextOf(lblUnit), Message(278));
+  options.Click(optInches);
+  options.SetText(txtLeft, L"0.5");
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(options.TextOf(lblUnit + i), Message(277));
+  }
+  options.Click(optMilimeter);
+  EXPECT_EQ(options.TextOf(txtLeft), L"0.5");
+  EXPECT_EQ(options.TextOf(lblUnit), Message(278));
+  Dismiss(options, cmdCancel);
+}
+
+TEST_F(Dialogs, TheOptionsNameAMarginOrCopiesThatAreNoNumber) {
+  const Window options = Show(cmdOptions, 204);
+  options.SetText(txtViewer, L"viewer.exe");
+  options.SetText(txtTop, L"high");
+  ExpectFieldProblem(options, txtTop, L"Top");
+  EXPECT_TRUE(options.Control(txtTop).IsShown()) << "its page came to the front";
+  options.SetText(txtTop, L"15");
+  options.SetText(txtCopies, L"40000");
+  ExpectFieldProblem(options, txtCopies, L"Copies");
+  EXPECT_NE(ReadStore(L"Settings", L"TextViewer"), L"viewer.exe") << "nothing is stored";
+  Dismiss(options, cmdCancel);
+}
+
+TEST_F(Dialogs, TheOptionsRememberTheirPageHoweverTheyAreClosed) {
+  Window options = Show(cmdOptions, 204);
+  EXPECT_EQ(SendMessageW(options.Control(TabStrip).Handle(), TCM_GETCURSEL, 0, 0), 0);
+  EXPECT_TRUE(options.Control(txtViewer).IsShown());
+  SendMessageW(options.Control(TabStrip).Handle(), TCM_SETCURFOCUS, 3, 0);
+  EXPECT_TRUE(options.Control(txtHeader).IsShown());
+  EXPECT_FALSE(options.Control(txtViewer).IsShown());
+  Dismiss(options, cmdCancel);
+  EXPECT_EQ(ReadStore(L"Settings", L"LastTab"), L"4");
+  options = Show(cmdOptions, 204);
+  EXPECT_TRUE(options.Control(txtHeader).IsShown());
+  SendMessageW(options.Control(TabStrip).Handle(), TCM_SETCURFOCUS, 1, 0);
+  options.Close();
+  EXPECT_TRUE(options.WaitUntilGone());
+  EXPECT_EQ(ReadStore(L"Settings", L"LastTab"), L"2");
+}
+
+TEST_F(Dialogs, AFieldIsSelectedWhenItGetsTheFocus) {
+  const Window columns = [this] {
+    const Window format = Show(cmdFormat, 201);
+    return Open(program, format, Command1, 202);
+  }();
+  const Window level = columns.Control(txtLevel);
+  columns.SetText(txtLevel, L"12345");
+  SendMessageW(columns.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(columns.Control(chkName).Handle()), TRUE);
+  SendMessageW(columns.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(level.Handle()), TRUE);
+  EXPECT_TRUE(WaitUntil([&] { return SendMessageW(level.Handle(), EM_GETSEL, 0, 0) == MAKELONG(0, 5); }, 3'000));
+  Dismiss(columns, cmdCancel);
+  Dismiss(program.WaitForWindow(Message(201), main), cmdCancel);
+}
+
+}  // namespace
+}  // namespace folivant::desktop

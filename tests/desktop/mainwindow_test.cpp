@@ -1,0 +1,249 @@
+// The main window: what it shows, each destination from its OK button, filter files, and what comes back at the next
+// start.
+#include "desktop/MainWindow.h"
+
+namespace folivant::desktop {
+namespace {
+
+using MainWindow = MainWindowTest;
+
+TEST_F(MainWindow, ShowsTheNextListingAndItsTexts) {
+  const Program program(Argument());
+  const Window main = Main(program);
+  EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data")) << "the tail of a path is never cut";
+  EXPECT_EQ(main.TextOf(lblFilter), L"*.*");
+  EXPECT_EQ(main.TextOf(lblFormat), Message(25));
+  EXPECT_TRUE(main.IsChecked(optFile));
+  const std::pair<int, int> captions[] = {{Label1, 0},      {Label3, 1},    {Label2, 2},     {fraTo, 3},
+                                          {cmdBrowse, 4},   {cmdFilter, 5}, {cmdFormat, 6},  {optPrinter, 7},
+                                          {optFile, 8},     {optScreen, 9}, {cmdLoad, 10},   {cmdSave, 11},
+                                          {cmdOptions, 12}, {cmdOK, 13},    {cmdCancel, 14}, {cmdHelp, 15}};
+  for (const auto& [control, message] : captions) {
+    EXPECT_EQ(main.TextOf(control), Message(message)) << control;
+  }
+  EXPECT_EQ(main.DefaultButton(), cmdOK);
+  Close(program, main);
+}
+
+TEST_F(MainWindow, AFileRunAppliesExtensionRuleAndOverwriteQuestion) {
+  const std::wstring file = scratch / L"list.txt";
+  {
+    const Program program(Argument());
+    const Window main = Main(program);
+    main.Press(cmdOK);
+    Confirm(program.WaitForBox(main), scratch / L"list", 3);  // CSV: gets ".txt", on purpose
+    EXPECT_EQ(program.WaitForExit(), 0u) << "ends after a file run, as \"ExitWhenDone\" says";
+  }
+  EXPECT_NE(ReadBytes(file).find("A.txt;"), std::string::npos) << ReadBytes(file);
+  EXPECT_EQ(ReadStore(L"Settings", L"OutputTo"), L"1") << "closing saved the settings";
+
+  scratch.File(L"list.txt", "old");
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Press(cmdOK);
+  const Window dialog = program.WaitForBox(main);
+  Confirm(dialog, file, 0);
+  EXPECT_TRUE(dialog.WaitUntilGone());
+  const Window question = program.WaitForBox(main);
+  std::wstring text = question.BoxText();
+  std::erase(text, L'\r');
+  EXPECT_EQ(text, Message(169) + L"\n" + file + L"\n" + Message(170));
+  EXPECT_EQ(question.DefaultButton(), IDNO);
+  question.Answer(IDNO);
+  EXPECT_EQ(ReadBytes(file), "old");
+  const Window again = program.WaitForBox(main);
+  Confirm(again, L"");  // the name just chosen is still there
+  EXPECT_TRUE(again.WaitUntilGone());
+  program.WaitForBox(main).Answer(IDYES);
+  EXPECT_EQ(program.WaitForExit(), 0u);
+  EXPECT_NE(ReadBytes(file).find("A.txt"), std::string::npos);
+}
+
+TEST_F(MainWindow, ACancelledSaveDialogListsNothing) {
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Press(cmdOK);
+  const Window dialog = program.WaitForBox(main);
+  PostMessageW(dialog.Handle(), WM_COMMAND, IDCANCEL, 0);
+  EXPECT_TRUE(dialog.WaitUntilGone());
+  EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+  EXPECT_EQ(program.Windows().size(), 1u) << "no message";
+  Close(program, main);
+}
+
+// The program itself stands in for the viewer: started with a file, it shows that it got one.
+TEST_F(MainWindow, TwoScreenRunsWriteTheSameFileAndStartTheViewer) {
+  wchar_t temporary[MAX_PATH];
+  GetTempPathW(MAX_PATH, temporary);
+  const std::wstring file = std::wstring(temporary) + L"~fv00001.tmp";
+  WriteStore(L"Settings", L"TextViewer", ProgramPath());
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Click(optScreen);
+  for (int run = 1; run <= 2; ++run) {
+    DeleteFileW(file.c_str());
+    main.Press(cmdOK);
+    Window viewer;
+    ASSERT_TRUE(WaitUntil([&] {
+      viewer = Window();
+      for (HWND each = GetTopWindow(nullptr); each != nullptr; each = GetWindow(each, GW_HWNDNEXT)) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(each, &owner);
+        if (owner != program.Id() && IsWindowVisible(each) && Window(each).Text() == L"Folivant") {
+          viewer = Window(each);
+        }
+      }
+      return static_cast<bool>(viewer);
+    })) << "run "
+        << run;
+    EXPECT_EQ(viewer.TextOf(lblFormat), Message(144));
+    viewer.Close();
+    EXPECT_TRUE(viewer.WaitUntilGone());
+    EXPECT_NE(ReadBytes(file).find("A.txt"), std::string::npos) << "run " << run;
+    EXPECT_TRUE(main.IsEnabled()) << "the window stays open";
+  }
+  Close(program, main);
+}
+
+TEST_F(MainWindow, AFailedRunSaysSoAndRestoresTheWindow) {
+  const std::wstring file = scratch.File(L"held.txt", "held");
+  const platform::OwnedFile held(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Press(cmdOK);
+  const Window dialog = program.WaitForBox(main);
+  Confirm(dialog, file, 0);
+  EXPECT_TRUE(dialog.WaitUntilGone());
+  program.WaitForBox(main).Answer(IDYES);
+  const Window box = program.WaitForBox(main);
+  EXPECT_NE(box.BoxText().find(file), std::wstring::npos) << "names the file";
+  EXPECT_NE(box.BoxText().find(L"(32)"), std::wstring::npos) << "and the system's number";
+  box.Answer(IDOK);
+  EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+  EXPECT_EQ(program.Windows().size(), 1u) << "the progress window is gone";
+  Close(program, main);
+}
+
+TEST_F(MainWindow, AFileArgumentShowsThePathListAndDisablesThreeButtons) {
+  const Program program(L'"' + scratch.File(L"paths.lst", "C:\\\r\n") + L'"');
+  const Window main = Main(program);
+  EXPECT_EQ(main.TextOf(lblPath), Message(144));
+  EXPECT_EQ(main.TextOf(lblFormat), Message(144));
+  for (const int button : {cmdBrowse, cmdFilter, cmdFormat}) {
+    EXPECT_FALSE(main.Control(button).IsEnabled());
+  }
+  EXPECT_TRUE(main.Control(cmdOptions).IsEnabled());
+  WriteStore(L"Settings", L"Format", L"2");
+  Close(program, main);
+  EXPECT_EQ(ReadStore(L"Settings", L"Format"), L"2") << "this style is never stored";
+}
+
+TEST_F(MainWindow, AFilterFileCarriesTheListingAndNoHabits) {
+  const std::wstring file = scratch / L"set.fvf";
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Press(cmdSave);
+  const Window dialog = program.WaitForBox(main);
+  Confirm(dialog, scratch / L"set");  // ".fvf" is added
+  EXPECT_TRUE(dialog.WaitUntilGone());
+  ASSERT_TRUE(WaitUntil([&] { return Exists(file) && main.IsEnabled(); }));
+  const auto value = [&](const wchar_t* key) {
+    wchar_t text[300];
+    GetPrivateProfileStringW(L"Folivant 3.5", key, L"(missing)", text, 300, file.c_str());
+    return std::wstring(text);
+  };
+  EXPECT_EQ(value(L"FilterName"), L"*.*");
+  EXPECT_EQ(value(L"OutputTo"), L"1");
+  EXPECT_TRUE(value(L"Path").ends_with(L"\\Data"));
+  for (const wchar_t* key :
+       {L"TextViewer", L"TextWidth", L"Language", L"PrinterName", L"ExitWhenDone", L"FilesFirst"}) {
+    EXPECT_EQ(value(key), L"(missing)") << testing::PrintToString(std::wstring(key));
+  }
+
+  WritePrivateProfileStringW(L"Folivant 3.5", L"FilterName", L"*.doc", file.c_str());
+  WritePrivateProfileStringW(L"Folivant 3.5", L"Format", L"4", file.c_str());
+  WritePrivateProfileStringW(L"Folivant 3.5", L"OutputTo", L"2", file.c_str());
+  main.Press(cmdLoad);
+  const Window open = program.WaitForBox(main);
+  Confirm(open, file);
+  EXPECT_TRUE(open.WaitUntilGone());
+  EXPECT_TRUE(WaitUntil([&] { return main.TextOf(lblFilter) == L"*.doc"; }));
+  EXPECT_EQ(main.TextOf(lblFormat), Message(28));
+  EXPECT_TRUE(main.IsChecked(optScreen));
+  EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data"));
+  Close(program, main);
+}
+
+TEST_F(MainWindow, AnUnknownLanguageFileFallsBackToEnglish) {
+  WriteStore(L"Settings", L"Language", L"nowhere.ini");
+  const Program program(Argument());
+  const Window main = Main(program);
+  EXPECT_EQ(main.TextOf(cmdBrowse), Message(4));
+  Close(program, main);
+}
+
+TEST_F(MainWindow, ComesBackWhereItStood) {
+  RECT moved{};
+  {
+    const Program program(Argument());
+    const Window main = Main(program);
+    SetWindowPos(main.Handle(), nullptr, 90, 70, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    WaitUntil([&] { return main.Rectangle().left == 90; }, 2'000);
+    moved = main.Rectangle();
+    Close(program, main);
+  }
+  {
+    const Program program(Argument());
+    const Window main = Main(program);
+    EXPECT_TRUE(WaitUntil([&] { return std::abs(main.Rectangle().left - moved.left) <= 8; }, 3'000));
+    EXPECT_LE(std::abs(main.Rectangle().top - moved.top), 40) << "but for the frame of the window manager";
+    Close(program, main);
+  }
+  WriteStore(L"Settings", L"WindowPlace", L"-20000,-20000");
+  const Program program(Argument());
+  const Window main = Main(program);
+  EXPECT_GT(main.Rectangle().left, -100) << "that screen does not exist";
+  Close(program, main);
+}
+
+// Where there is no printer the file destination is chosen at every start; the rest comes back.
+TEST_F(MainWindow, EverythingComesBackAtTheNextStartButTheOrientation) {
+  {
+    const Program program(Argument());
+    const Window main = Main(program);
+    const Window filter = Open(program, main, cmdFilter, 200);
+    filter.SetText(txtName, L"*.doc");
+    filter.Press(cmdOK);
+    EXPECT_TRUE(filter.WaitUntilGone());
+    const Window options = Open(program, main, cmdOptions, 204);
+    options.Click(optLand);
+    options.SetText(txtFooter, L"Foot");
+    options.Press(cmdOK);
+    EXPECT_TRUE(options.WaitUntilGone());
+    Close(program, main);
+  }
+  const Program program(L"");
+  const Window main = Main(program);
+  EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data"));
+  EXPECT_EQ(main.TextOf(lblFilter), L"*.doc");
+  const Window options = Open(program, main, cmdOptions, 204);
+  EXPECT_EQ(options.TextOf(txtFooter), L"Foot");
+  EXPECT_TRUE(options.IsChecked(optPort)) << "landscape does not come back, on purpose";
+  options.Press(cmdCancel);
+  EXPECT_TRUE(options.WaitUntilGone());
+  Close(program, main);
+}
+
+TEST_F(MainWindow, DialogsKeepTheMainWindowInert) {
+  const Program program(Argument());
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  EXPECT_FALSE(main.IsEnabled());
+  filter.Press(cmdCancel);
+  EXPECT_TRUE(filter.WaitUntilGone());
+  EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+  Close(program, main);
+}
+
+}  // namespace
+}  // namespace folivant::desktop
