@@ -17,8 +17,11 @@ for name in Budget.xls Readme.txt Letters/Bank.doc Letters/Offer.doc Accounts/20
   head -c 23456 /dev/zero >"$data/$name"
 done
 
-setting() { wine reg add "HKCU\\Software\\Folivant 3.0\\Settings" /v "$1" /d "$2" /f >/dev/null 2>&1 </dev/null; }
-# The caption number of a text of the language, without its mnemonic's mark.
+# setting KEY VALUE [SECTION]
+setting() {
+  wine reg add "HKCU\\Software\\Folivant 3.0\\${3:-Settings}" /v "$1" /d "$2" /f >/dev/null 2>&1 </dev/null
+}
+# A text of the language without its mnemonic's mark, and the mnemonic.
 text() { sed -n "s/^$1=//p" "$root/lang/$language" | tr -d '&\r'; }
 mnemonic() { sed -n "s/^$1=//p" "$root/lang/$language" | sed -n 's/.*&\(.\).*/\1/p' | tr 'A-Z' 'a-z'; }
 
@@ -38,7 +41,10 @@ picture() {
 press() { xdotool key "$@"; }
 
 setting Language "$language"
-setting Filter 1111
+setting Filter 1111 Filter
+setting FilterName '*.doc, *.xls, *.txt' Filter
+setting FilterSize 10 Filter
+setting FilterDateMin 2025/01/01 Filter
 start() {
   wine "$program" 'C:\Data' </dev/null >/dev/null 2>&1 &
   started=$!

@@ -98,7 +98,7 @@ std::vector<std::wstring> LanguageFiles() {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Languages, testing::ValuesIn(LanguageFiles()),
-                         [](const auto& info) { return std::filesystem::path(info.param).stem().string(); });
+                         [](const auto& each) { return std::filesystem::path(each.param).stem().string(); });
 
 }  // namespace
 }  // namespace folivant::desktop
