@@ -76,11 +76,13 @@ void AddList(HWND view, const wchar_t* rowsFile) {
   const HWND list = CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT, 0, 0, 620, 260, view,
                                     nullptr, nullptr, nullptr);
   AddColumns(list);
+  SendMessageW(list, WM_SETREDRAW, FALSE, 0);
   std::ifstream file(std::string(rowsFile, rowsFile + wcslen(rowsFile)), std::ios::binary);
   std::string line;
   for (int row = 0; std::getline(file, line); ++row) {
     AddRow(list, row, Wide(line));
   }
+  SendMessageW(list, WM_SETREDRAW, TRUE, 0);
   SetWindowSubclass(list, WatchList, kWatch, 0);
 }
 

@@ -194,6 +194,8 @@ TEST(PrintFromFind, CrossesIntoTheOtherProgramAtMostFiveTimesARow) {
   EXPECT_EQ("lists 1 rows 10000", Capture(run));
   EXPECT_EQ(40'000, FindWindows().GetItemMessages);
   EXPECT_LE(FindWindows().Calls, 50'000);
+  // The number of rows, each cell's message, and two copies for each of the 157 blocks of up to 64 rows.
+  EXPECT_EQ(1 + 40'000 + 2 * 157, FindWindows().Calls);
 }
 
 TEST(PrintFromFind, CutsCellsToWhatFitsIn260Bytes) {
