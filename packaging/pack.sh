@@ -24,9 +24,7 @@ portable=Folivant-$version-portable.zip
 
 stage_program() {
   cp "$build/Folivant.exe" "$build"/*.ini "$stage"
-  if [ -d "$build/help" ]; then
-    cp -r "$build/help" "$stage"
-  fi
+  cp -r "$build/help" "$stage"
   sed 's/$/\r/' "$root/CHANGELOG.md" >"$stage/Changes.txt"
   find "$work" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
 }
