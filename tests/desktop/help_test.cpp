@@ -1,0 +1,60 @@
+// Help: F1 and the Help button open the language's manual where there is no help file.
+#include "desktop/MainWindow.h"
+
+namespace folivant::desktop {
+namespace {
+
+/// The program itself stands in for the browser: started with a file, it shows that it got one. Only under Wine, where
+/// the test may say which program opens pages.
+class Help : public MainWindowTest {
+ protected:
+  void SetUp() override {
+    if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr) {
+      GTEST_SKIP() << "would open the user's browser";
+    }
+    const std::wstring command = L"\"" + ProgramPath() + L"\" \"%1\"";
+    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kOpen, nullptr, REG_SZ, command.c_str(),
+                              static_cast<DWORD>((command.size() + 1) * sizeof(wchar_t))),
+              ERROR_SUCCESS);
+  }
+
+  /// Waits for the window of another process than `program`, and closes it.
+  void ExpectPageOpened(const Program& program) const {
+    Window page;
+    ASSERT_TRUE(WaitUntil([&] {
+      for (HWND each = GetTopWindow(nullptr); each != nullptr; each = GetWindow(each, GW_HWNDNEXT)) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(each, &owner);
+        if (owner != program.Id() && IsWindowVisible(each) != 0 && Window(each).Text() == L"Folivant") {
+          page = Window(each);
+        }
+      }
+      return static_cast<bool>(page);
+    }));
+    EXPECT_EQ(page.TextOf(lblFormat), Message(144));
+    page.Close();
+    EXPECT_TRUE(page.WaitUntilGone());
+  }
+
+  static constexpr const wchar_t* kOpen = L"Software\\Classes\\htmlfile\\shell\\open\\command";
+};
+
+TEST_F(Help, F1AndTheButtonOpenTheManual) {
+  ASSERT_TRUE(Exists(ProgramFolder() + L"\\help\\english.html")) << "the build puts the manual beside the program";
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Activate();
+  PressKey(VK_F1);
+  ExpectPageOpened(program);
+  main.Press(cmdHelp);
+  ExpectPageOpened(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  filter.Activate();
+  PressKey(VK_F1);
+  ExpectPageOpened(program);
+  filter.Answer(cmdCancel);
+  Close(program, main);
+}
+
+}  // namespace
+}  // namespace folivant::desktop
