@@ -83,3 +83,12 @@ for name in general printer font header-footer language; do
   stop
 done
 rm -f "$out/ignored.png"
+
+# An HTML listing as a browser shows it, for the README.
+if [ "$language" = english.ini ]; then
+  printf '[Folivant 3.5]\r\nHeader=%%p, %%d\r\n' >"$data.fvf"
+  wine "$program" /f 'C:\Data.fvf' /d 'C:\Data' /t h /o 'C:\Data.html' /g </dev/null >/dev/null 2>&1
+  chromium --headless --no-sandbox --disable-gpu --hide-scrollbars --disable-background-networking --disable-sync \
+    --disable-component-update --no-first-run --user-data-dir="$TMPDIR/browser" --window-size=640,760 \
+    --screenshot="$root/docs/pictures/html.png" "file://$data.html" >/dev/null 2>&1
+fi
