@@ -115,7 +115,7 @@ TEST_F(MainWindow, AFailedRunSaysSoAndRestoresTheWindow) {
   Confirm(dialog, file, 0);
   EXPECT_TRUE(dialog.WaitUntilGone());
   program.WaitForBox(main).Answer(IDYES);
-  const Window box = program.WaitForBox(main);
+  const Window box = program.WaitForWindow(L"Folivant", main);  // by its title: the progress window may still be there
   EXPECT_NE(box.BoxText().find(file), std::wstring::npos) << "names the file";
   EXPECT_NE(box.BoxText().find(L"(32)"), std::wstring::npos) << "and the system's number";
   box.Answer(IDOK);
