@@ -116,7 +116,8 @@ class Document:
 
 class PrintTest(unittest.TestCase):
     def setUp(self):
-        self.work = pathlib.Path(tempfile.mkdtemp(prefix="print"))
+        # A path that always fits a line: listings shorten longer ones.
+        self.work = pathlib.Path(tempfile.mkdtemp(prefix="print", dir="/tmp"))
         self.addCleanup(shutil.rmtree, self.work, ignore_errors=True)
         self.tree = self.work / "Tree"
         self.tree.mkdir()
