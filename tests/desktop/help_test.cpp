@@ -12,9 +12,13 @@ class Help : public MainWindowTest {
     if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr) {
       GTEST_SKIP() << "would open the user's browser";
     }
-    const std::wstring command = L"\"" + ProgramPath() + L"\" \"%1\"";
-    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kOpen, nullptr, REG_SZ, command.c_str(),
-                              static_cast<DWORD>((command.size() + 1) * sizeof(wchar_t))),
+    SetDefault(L"Software\\Classes\\.html", L"htmlfile");
+    SetDefault(L"Software\\Classes\\htmlfile\\shell\\open\\command", L"\"" + ProgramPath() + L"\" \"%1\"");
+  }
+
+  static void SetDefault(const wchar_t* key, const std::wstring& value) {
+    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, nullptr, REG_SZ, value.c_str(),
+                              static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))),
               ERROR_SUCCESS);
   }
 
@@ -35,8 +39,6 @@ class Help : public MainWindowTest {
     page.Close();
     EXPECT_TRUE(page.WaitUntilGone());
   }
-
-  static constexpr const wchar_t* kOpen = L"Software\\Classes\\htmlfile\\shell\\open\\command";
 };
 
 TEST_F(Help, F1AndTheButtonOpenTheManual) {
