@@ -4,6 +4,39 @@
 namespace folivant::desktop {
 namespace {
 
+/// Sets the default value of a machine-wide key, and puts the old one back.
+class MachineDefault {
+ public:
+  MachineDefault(const wchar_t* key, const std::wstring& value) : key_(key) {
+    wchar_t old[512];
+    DWORD bytes = sizeof old;
+    if (RegGetValueW(HKEY_LOCAL_MACHINE, key, nullptr, RRF_RT_ANY | RRF_NOEXPAND, nullptr, old, &bytes) ==
+        ERROR_SUCCESS) {
+      old_ = old;
+    }
+    Set(value);
+  }
+  ~MachineDefault() {
+    if (old_) {
+      Set(*old_);
+    } else {
+      RegDeleteTreeW(HKEY_LOCAL_MACHINE, key_);
+    }
+  }
+  MachineDefault(const MachineDefault&) = delete;
+  MachineDefault& operator=(const MachineDefault&) = delete;
+
+ private:
+  void Set(const std::wstring& value) const {
+    EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key_, nullptr, REG_SZ, value.c_str(),
+                              static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))),
+              ERROR_SUCCESS);
+  }
+
+  const wchar_t* key_;
+  std::optional<std::wstring> old_;
+};
+
 /// The program itself stands in for the browser: started with a file, it shows that it got one. Only under Wine, where
 /// the test may say which program opens pages.
 class Help : public MainWindowTest {
@@ -12,14 +45,8 @@ class Help : public MainWindowTest {
     if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr) {
       GTEST_SKIP() << "would open the user's browser";
     }
-    SetDefault(L"Software\\Classes\\.html", L"htmlfile");
-    SetDefault(L"Software\\Classes\\htmlfile\\shell\\open\\command", L"\"" + ProgramPath() + L"\" \"%1\"");
-  }
-
-  static void SetDefault(const wchar_t* key, const std::wstring& value) {
-    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, nullptr, REG_SZ, value.c_str(),
-                              static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))),
-              ERROR_SUCCESS);
+    extension_.emplace(L"Software\\Classes\\.html", L"htmlfile");
+    command_.emplace(L"Software\\Classes\\htmlfile\\shell\\open\\command", L"\"" + ProgramPath() + L"\" \"%1\"");
   }
 
   /// Waits for the window of another process than `program`, and closes it.
@@ -39,6 +66,10 @@ class Help : public MainWindowTest {
     page.Close();
     EXPECT_TRUE(page.WaitUntilGone());
   }
+
+ private:
+  std::optional<MachineDefault> extension_;
+  std::optional<MachineDefault> command_;
 };
 
 TEST_F(Help, F1AndTheButtonOpenTheManual) {
