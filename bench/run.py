@@ -37,7 +37,8 @@ def build(scratch, windows):
 
 
 def build_empty(scratch, run):
-    """A program that does nothing but links the same system libraries: one function of each is referred to."""
+    """A program that does nothing but links the libraries the program loads at its start: one function of each is
+    referred to."""
     exe = HOUSE / 'build/windows/Folivant.exe'
     imports = subprocess.run(['x86_64-w64-mingw32-objdump', '-p', exe], capture_output=True, text=True,
                              check=True).stdout
@@ -50,7 +51,7 @@ def build_empty(scratch, run):
     source.write_text('\n'.join(f'extern "C" __declspec(dllimport) void {name}();' for name in functions) +
                       '\nvoid (*volatile keep[])() = {' + ', '.join(functions) + '};\n'
                       'extern "C" int __stdcall WinMain(void*, void*, char*, int) { return keep[0] == nullptr; }\n')
-    libraries = re.search(r'target_link_libraries\(folivant_platform PUBLIC (comctl32[^)]*)\)',
+    libraries = re.search(r'target_link_libraries\(folivant_platform PUBLIC (shell32[^)]*)\)',
                           (HOUSE / 'src/CMakeLists.txt').read_text()).group(1).split()
     run(WINDOWS_COMPILER, '-O2', '-static', '-mwindows', source, '-o', scratch / 'empty.exe',
         *[f'-l{name}' for name in libraries])

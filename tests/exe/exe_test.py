@@ -5,6 +5,7 @@ set up (links, unreadable folders, a full disk, odd names, no display). Run insi
     tests/exe/exe_test.py EXE HOST [unittest arguments]
 """
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -50,16 +51,19 @@ class ExeTest(unittest.TestCase):
         path.write_text('\r\n'.join(['[Folivant 3.5]', 'Header=Listing', *lines, '']))
         return path
 
-    def run_program(self, *lines, kind='t', native=False, output=None, tree=None, environment=None):
-        """One /g run; returns its status, what it said on stderr, and the listing (None when there is none). Without a
-        directory among the arguments when the filter file names one."""
-        output = output or self.work / ('native.out' if native else 'exe.out')
+    def command(self, *lines, output, kind='t', native=False, tree=None):
+        """A /g run. Without a directory among the arguments when the filter file names one."""
         directory = ['/d', windows_path(tree or self.tree)]
         if tree is None and any(line.startswith('Path=') for line in lines):
             directory = []
         arguments = ['/f', windows_path(self.filter_file(*lines)), *directory, '/t', kind, '/o', windows_path(output), '/g']
-        command = [*([HOST] if native else [RUN_WINDOWS, EXE]), *arguments]
-        done = subprocess.run(command, capture_output=True, timeout=120, env=environment)
+        return [*([HOST] if native else [RUN_WINDOWS, EXE]), *arguments]
+
+    def run_program(self, *lines, native=False, output=None, environment=None, **options):
+        """One /g run; returns its status, what it said on stderr, and the listing (None when there is none)."""
+        output = output or self.work / ('native.out' if native else 'exe.out')
+        done = subprocess.run(self.command(*lines, output=output, native=native, **options), capture_output=True, timeout=120,
+                              env=environment)
         listing = output.read_bytes() if output.is_file() else None
         return done.returncode, done.stderr, listing
 
@@ -288,6 +292,32 @@ class Failures(ExeTest):
                 status, _, listing = self.run_program(*lines, native=native, tree=self.work / 'Gone')
                 self.assertEqual(status, 2)
                 self.assertEqual(listing, b'')
+
+    def test_directory_that_vanishes_during_the_run_gives_status_2_and_the_rest(self):
+        for native in [False, True]:
+            with self.subTest(native=native):
+                for number in range(2500):
+                    self.file(f'Folder{number:04}/File.txt')
+                self.file('Zone/Inner/Lost.txt')
+                output = self.work / f'{native}.txt'
+                run = subprocess.Popen(self.command('Format=4', output=output, native=native), stderr=subprocess.DEVNULL)
+                # The first lines are on disk: the tree itself has been read, its last directory not yet.
+                while not (output.is_file() and output.stat().st_size > 0):
+                    self.assertIsNone(run.poll(), 'the run ended before it wrote anything')
+                    time.sleep(0.001)
+                shutil.rmtree(self.tree / 'Zone')
+                self.assertEqual(run.wait(timeout=120), 2)
+                names = [line.rsplit('\\', 1)[1] for line in output.read_text('cp1252').splitlines()]
+                self.assertEqual(names.count('File.txt'), 2500)
+                self.assertIn('Zone', names)
+                self.assertNotIn('Lost.txt', names)
+
+    def test_a_run_loads_none_of_the_libraries_of_the_windows(self):
+        status, log, _ = self.run_program('Format=4', environment={**os.environ, 'WINEDEBUG': '+loaddll'})
+        self.assertEqual(status, 0, log)
+        loaded = {name.lower() for name in re.findall(r'Loaded L"[^"]*\\([^"\\]+)"', log.decode(errors='replace'))}
+        self.assertIn('kernel32.dll', loaded)
+        self.assertFalse(loaded & {'comctl32.dll', 'comdlg32.dll', 'ole32.dll', 'uxtheme.dll', 'winmm.dll', 'winspool.drv'})
 
     def test_no_display_is_needed(self):
         environment = {name: value for name, value in os.environ.items() if name != 'DISPLAY'}
