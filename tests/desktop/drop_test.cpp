@@ -9,16 +9,11 @@ namespace {
 
 using Drop = MainWindowTest;
 
-POINT MiddleOf(Window window) {
-  const RECT box = window.Rectangle();
-  return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
-}
-
 TEST_F(Drop, AFolderOnTheDirectoryLineIsTaken) {
   const Program program(Argument());
   const Window main = Main(program);
   main.Activate();
-  EXPECT_EQ(DragTo(Data() + L"\\Sub", MiddleOf(main.Control(lblPath))), DWORD{DROPEFFECT_COPY});
+  EXPECT_EQ(DragTo(Data() + L"\\Sub", main.Control(lblPath)), DWORD{DROPEFFECT_COPY});
   EXPECT_TRUE(WaitUntil([&] { return main.TextOf(lblPath).ends_with(L"\\Sub"); }));
   Close(program, main);
   EXPECT_TRUE(ReadStore(L"Settings", L"Path").value_or(L"").ends_with(L"\\Data\\Sub"));
@@ -28,7 +23,7 @@ TEST_F(Drop, AnythingBesideTheDirectoryLineIsRefused) {
   const Program program(Argument());
   const Window main = Main(program);
   main.Activate();
-  EXPECT_EQ(DragTo(Data() + L"\\Sub", MiddleOf(main.Control(fraTo))), DWORD{DROPEFFECT_NONE});
+  EXPECT_EQ(DragTo(Data() + L"\\Sub", main.Control(fraTo)), DWORD{DROPEFFECT_NONE});
   EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data"));
   Close(program, main);
 }
