@@ -9,6 +9,7 @@ namespace folivant::desktop {
 namespace {
 
 constexpr DWORD kPollEvery = 15;
+constexpr DWORD kStandsStill = 300;  // milliseconds without a change before a window counts as at rest
 const wchar_t* const kStore = L"Software\\Folivant 3.0";
 const wchar_t* const kSavedStore = L"Software\\Folivant 3.0 (set aside by a test)";
 
@@ -23,6 +24,22 @@ INPUT Key(WORD key, DWORD flags = 0) {
   input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
   input.ki.dwFlags = flags;
   return input;
+}
+
+// Each event names its place, so that nothing that moves the pointer in between can take a click elsewhere.
+INPUT Mouse(POINT screen, DWORD flags) {
+  const auto share = [](LONG at, int size) { return static_cast<LONG>((at * LONGLONG{65'536} + size - 1) / size); };
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = share(screen.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = share(screen.y, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+  return input;
+}
+
+bool IsMouseAt(POINT screen) {
+  POINT now{};
+  return GetCursorPos(&now) != 0 && now.x == screen.x && now.y == screen.y;
 }
 
 void CopyStore(const wchar_t* from, const wchar_t* to) {
@@ -176,6 +193,42 @@ void Window::Activate() const {
   WaitUntil([&] { return GetForegroundWindow() == handle_; }, 2'000);
 }
 
+// A window manager may still move, raise or activate what a program has just shown, and the system may move the pointer
+// once more when the windows below it have changed.
+std::optional<POINT> Window::BringMouseOver(std::optional<POINT> inside) const {
+  const HWND top = GetAncestor(handle_, GA_ROOT);
+  POINT target{};
+  const auto stands = [&] {
+    const RECT place = Rectangle();
+    const POINT now = inside ? POINT{place.left + inside->x, place.top + inside->y}
+                             : POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    const bool moved = now.x != target.x || now.y != target.y;
+    target = now;
+    return !moved && GetForegroundWindow() == top && IsMouseAt(target) && WindowFromPoint(target) == handle_;
+  };
+  ULONGLONG restless = GetTickCount64();
+  const bool ready = WaitUntil([&] {
+    if (!stands()) {
+      restless = GetTickCount64();
+      SetForegroundWindow(top);
+      MoveMouse(target);
+    }
+    return GetTickCount64() - restless >= kStandsStill;
+  });
+  EXPECT_TRUE(ready) << "the mouse does not come to rest over the control";
+  return ready ? std::optional(target) : std::nullopt;
+}
+
+void Window::ClickInside(std::optional<POINT> inside, int times) const {
+  const std::optional<POINT> target = BringMouseOver(inside);
+  std::vector<INPUT> inputs;
+  for (int click = 0; target && click < times; ++click) {
+    inputs.push_back(Mouse(*target, MOUSEEVENTF_LEFTDOWN));
+    inputs.push_back(Mouse(*target, MOUSEEVENTF_LEFTUP));
+  }
+  Send(inputs);
+}
+
 int Window::DefaultButton() const {
   for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
     const bool isButton = Window(child).ClassName() == L"Button";
@@ -221,14 +274,8 @@ void TypeText(std::wstring_view text) {
   }
 }
 
-void ClickAt(POINT screen) {
-  SetCursorPos(screen.x, screen.y);
-  INPUT down{};
-  down.type = INPUT_MOUSE;
-  down.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  INPUT up = down;
-  up.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  Send({down, up});
+void MoveMouse(POINT screen, DWORD flags) {
+  Send({Mouse(screen, flags)});
 }
 
 Program::Program(const std::wstring& arguments, const std::wstring& folder, const std::wstring& executable) {

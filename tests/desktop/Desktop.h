@@ -74,6 +74,12 @@ class Window {
   bool WaitUntilGone(DWORD milliseconds = kPatience) const;
   /// Brings the window to the front and gives it the focus.
   void Activate() const;
+  /// Brings the top-level window to the front and the mouse over this very control, `inside` it from its upper left
+  /// corner or in its middle, and waits until all of that has stood still for a while. Returns where the mouse is;
+  /// fails the test and returns nothing when that does not come about.
+  std::optional<POINT> BringMouseOver(std::optional<POINT> inside = {}) const;
+  /// A real click there, or with `times` 2 a double click.
+  void ClickInside(std::optional<POINT> inside = {}, int times = 1) const;
 
   // A message box:
   std::wstring BoxText() const { return TextOf(0xFFFF); }
@@ -88,7 +94,8 @@ class Window {
 /// Real input to whatever window is in front. `key` is a virtual-key code.
 void PressKey(WORD key, bool alt = false, bool shift = false, bool control = false);
 void TypeText(std::wstring_view text);
-void ClickAt(POINT screen);
+/// Moves the mouse, as a hand would; `flags` (MOUSEEVENTF_LEFTDOWN and the like) are what its buttons do there.
+void MoveMouse(POINT screen, DWORD flags = 0);
 
 /// The program, or another one, running. Ended when it is still running at the end of the test.
 class Program {

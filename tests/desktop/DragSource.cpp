@@ -2,7 +2,6 @@
 
 #include <shlobj.h>
 
-#include <atomic>
 #include <thread>
 
 #ifdef __GNUC__
@@ -44,14 +43,12 @@ IDataObject* ObjectOf(const std::wstring& path) {
 struct Drag {
   IDataObject* Object = nullptr;
   DWORD Effect = DROPEFFECT_NONE;
-  std::atomic<bool> Begun = false;
   bool Done = false;
 };
 
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* drag = reinterpret_cast<Drag*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (message == WM_LBUTTONDOWN && drag != nullptr) {
-    drag->Begun = true;
     Source source;
     DWORD effect = DROPEFFECT_NONE;
     const HRESULT result = DoDragDrop(drag->Object, &source, DROPEFFECT_COPY | DROPEFFECT_MOVE, &effect);
@@ -62,64 +59,25 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
-void Button(DWORD flags) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  SendInput(1, &input, sizeof input);
-}
-
-/// Presses on the source until it takes the press: a window manager may still be putting the window in its place.
-void PressOn(HWND source, POINT at, const std::atomic<bool>& begun) {
-  for (int attempt = 0; attempt < 5 && !begun; ++attempt) {
-    SetCursorPos(at.x, at.y);
-    WaitUntil([&] { return WindowFromPoint(at) == source; }, 2'000);
-    Button(MOUSEEVENTF_LEFTDOWN);
-    if (!WaitUntil([&] { return begun.load(); }, 1'000)) {
-      Button(MOUSEEVENTF_LEFTUP);
-    }
-  }
-}
-
-POINT MiddleOf(HWND window) {
-  RECT box{};
-  GetWindowRect(window, &box);
-  return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
-}
-
-/// Moves the mouse in steps onto the middle of the target, wherever a window manager may have put it meanwhile.
-void MoveOnto(HWND target, POINT from) {
+/// As a hand would: press, move in steps, let go.
+void DragMouse(Window source, POINT to) {
+  const POINT from = source.BringMouseOver().value_or(POINT{});
+  MoveMouse(from, MOUSEEVENTF_LEFTDOWN);
   constexpr int kSteps = 8;
   for (int step = 1; step <= kSteps; ++step) {
     Sleep(100);
-    const POINT to = MiddleOf(target);
-    SetCursorPos(from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps);
-    Button(MOUSEEVENTF_MOVE);
+    MoveMouse({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
   }
-  WaitUntil(
-      [&] {
-        const POINT to = MiddleOf(target);
-        SetCursorPos(to.x, to.y);
-        Button(MOUSEEVENTF_MOVE);
-        return WindowFromPoint(to) == target;
-      },
-      2'000);
-}
-
-/// As a hand would: press, move, let go.
-void DragWithMouse(HWND source, POINT from, HWND target, const std::atomic<bool>& begun) {
-  PressOn(source, from, begun);
-  MoveOnto(target, from);
   Sleep(300);
-  Button(MOUSEEVENTF_LEFTUP);
+  MoveMouse(to, MOUSEEVENTF_LEFTUP);
 }
 
 }  // namespace
 
 DWORD DragTo(const std::wstring& path, Window target) {
+  const POINT aim = target.BringMouseOver().value_or(POINT{});  // at rest before anything is dragged to it
   OleInitialize(nullptr);
-  Drag drag;
-  drag.Object = ObjectOf(path);
+  Drag drag{ObjectOf(path)};
   EXPECT_NE(drag.Object, nullptr);
   WNDCLASSW kind{};
   kind.lpfnWndProc = Procedure;
@@ -128,7 +86,7 @@ DWORD DragTo(const std::wstring& path, Window target) {
   const HWND window = CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kind.lpszClassName, L"Drag",
                                       WS_POPUP | WS_VISIBLE, 20, 20, 80, 80, nullptr, nullptr, nullptr, nullptr);
   SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&drag));
-  std::thread mouse([&] { DragWithMouse(window, {60, 60}, target.Handle(), drag.Begun); });
+  std::thread mouse([&] { DragMouse(Window(window), aim); });
   WaitUntil([&] {
     MSG message{};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {

@@ -12,7 +12,6 @@ using Drop = MainWindowTest;
 TEST_F(Drop, AFolderOnTheDirectoryLineIsTaken) {
   const Program program(Argument());
   const Window main = Main(program);
-  main.Activate();
   EXPECT_EQ(DragTo(Data() + L"\\Sub", main.Control(lblPath)), DWORD{DROPEFFECT_COPY});
   EXPECT_TRUE(WaitUntil([&] { return main.TextOf(lblPath).ends_with(L"\\Sub"); }));
   Close(program, main);
@@ -22,7 +21,6 @@ TEST_F(Drop, AFolderOnTheDirectoryLineIsTaken) {
 TEST_F(Drop, AnythingBesideTheDirectoryLineIsRefused) {
   const Program program(Argument());
   const Window main = Main(program);
-  main.Activate();
   EXPECT_EQ(DragTo(Data() + L"\\Sub", main.Control(fraTo)), DWORD{DROPEFFECT_NONE});
   EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data"));
   Close(program, main);

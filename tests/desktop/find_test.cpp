@@ -173,11 +173,8 @@ TEST_F(FindListing, ADoubleClickChooses) {
   const auto program = Run(L'c');
   const Window dialog = Dialog(*program);
   const bool firstIsOne = Row(dialog, 0) == L"Find: one";
-  const RECT list = dialog.Control(lstFind).Rectangle();
-  dialog.Activate();
-  const POINT second{list.left + 20, list.top + Ask(dialog, LB_GETITEMHEIGHT) * 3 / 2 + 2};
-  ClickAt(second);
-  ClickAt(second);
+  const POINT second{20, Ask(dialog, LB_GETITEMHEIGHT) * 3 / 2 + 2};
+  dialog.Control(lstFind).ClickInside(second, 2);
   EXPECT_EQ(program->WaitForExit(), 0u);
   EXPECT_NE(ReadBytes(Output()).find(firstIsOne ? "Find: two" : "Find: one"), std::string::npos);
 }

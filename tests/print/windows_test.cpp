@@ -136,9 +136,7 @@ TEST_F(Printers, AStoredPrinterThatIsGoneIsNotChosenAndOkStoresAnEmptyName) {
 TEST_F(Printers, AClickOnAPictureChoosesItsMode) {
   const Program program(L"");
   OpenPrinters(program);
-  printers.Activate();
-  const RECT picture = printers.Control(picDuplex + 2).Rectangle();
-  ClickAt({(picture.left + picture.right) / 2, (picture.top + picture.bottom) / 2});
+  printers.Control(picDuplex + 2).ClickInside();
   EXPECT_TRUE(WaitUntil([this] { return printers.IsChecked(optDuplex + 2); }));
   EXPECT_FALSE(printers.IsChecked(optDuplex));
 }
