@@ -17,3 +17,6 @@ fi
 rm -rf dist
 packaging/pack.sh build/windows dist
 cat dist/SHA256SUMS
+if grep -qE '^[A-Z]+=.*(Unknown|\.example)' packaging/package.conf; then
+  echo "Do not publish dist/manifests: packaging/package.conf still has placeholders for licence or addresses." >&2
+fi
