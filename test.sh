@@ -13,6 +13,4 @@ done
 
 # One ctest over both build trees, so that one closing line counts everything.
 printf 'subdirs(host windows)\n' >build/CTestTestfile.cmake
-# Real mouse clicks, and now and then the start of a Windows program under Wine, get lost on a busy machine: what fails is
-# run again, up to three times in all, and the output shows every failure.
-tests/env/with-wine.sh ctest --test-dir build --output-on-failure --repeat until-pass:3 -j "$jobs" "$@" </dev/null
+tests/env/with-wine.sh ctest --test-dir build --output-on-failure -j "$jobs" "$@" </dev/null
