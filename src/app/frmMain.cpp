@@ -89,6 +89,7 @@ class frmMain final : public frmBase, private TextMeasure {
   void ShowEverything();
 
   void cmdBrowse_Click();
+  void cmdOptions_Click();
   void cmdLoad_Click();
   void cmdSave_Click();
   void cmdOK_Click();
@@ -147,7 +148,7 @@ void frmMain::Form_Load() {
     MakeFormatLabel();
     MakePathLabel();
   });
-  OnClick(cmdOptions, [this] { ShowOptionsDialog(*this); });
+  OnClick(cmdOptions, [this] { cmdOptions_Click(); });
   OnClick(cmdLoad, [this] { cmdLoad_Click(); });
   OnClick(cmdSave, [this] { cmdSave_Click(); });
   OnClick(cmdOK, [this] { cmdOK_Click(); });
@@ -234,6 +235,12 @@ void frmMain::cmdBrowse_Click() {
 void frmMain::lblPath_Drop(const std::wstring& path) {
   SetStartPath(path);
   ShowEverything();
+}
+
+/// The options are the first to show the printer's name, so the default printer is asked for here.
+void frmMain::cmdOptions_Click() {
+  ResolvePrinterName();
+  ShowOptionsDialog(*this);
 }
 
 void frmMain::cmdLoad_Click() {

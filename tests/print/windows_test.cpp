@@ -133,6 +133,14 @@ TEST_F(Printers, AStoredPrinterThatIsGoneIsNotChosenAndOkStoresAnEmptyName) {
   EXPECT_EQ(Printer(L"PrinterName"), L"");
 }
 
+TEST_F(Printers, WithoutAChoiceTheOptionsShowTheDefaultPrinter) {
+  WriteStore(L"Settings", L"PrinterName", L"(no printer)");
+  const Program program(L"");
+  OpenPrinters(program);
+  EXPECT_EQ(Page(options, lblPrinter).TextOf(lblPrinter), L"Plain");
+  EXPECT_EQ(Chosen(printers, cmbPrinter), L"Plain");
+}
+
 TEST_F(Printers, AClickOnAPictureChoosesItsMode) {
   const Program program(L"");
   OpenPrinters(program);
