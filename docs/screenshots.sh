@@ -1,94 +1,186 @@
 #!/bin/bash
-# Takes the pictures of every window for the manual and the README: docs/screenshots.sh [LANGUAGE FILE [OUTPUT FOLDER]].
-# Starts the built program in a world of its own (tests/env/with-wine.sh) and opens each window with real keys.
+# Takes the pictures of every window for the manuals and the README: docs/screenshots.sh [LANGUAGE...], all languages when
+# none is named. Builds the Windows program, starts it in a world of its own (tests/env/with-wine.sh, with a print server of
+# its own) and leaves the pictures in help/pictures/LANGUAGE. Look at them before they are committed.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
-language=${1:-english.ini}
-out=${2:-$root/help/pictures}
-program=$root/build/windows/Folivant.exe
+build=$root/build/windows
+program=$build/Folivant.exe
 if [ -z "${FOLIVANT_SCREENSHOTS:-}" ]; then
-  FOLIVANT_SCREENSHOTS=1 exec "$root/tests/env/with-wine.sh" "$0" "$language" "$out"
+  cmake --build "$build" --target Folivant languages resident press FindStandIn
+  export FOLIVANT_SCREENSHOTS=1
+  exec "$root/tests/env/with-wine.sh" python3 -c '
+import subprocess, sys
+sys.path.insert(0, sys.argv[1])
+from print_server import PrintServer
+server = PrintServer({"Office": (18, 24, 30, 36)})
+try:
+    sys.exit(subprocess.run(sys.argv[2:], env=server.environment, stdin=subprocess.DEVNULL).returncode)
+finally:
+    server.remove()' "$root/tests/print" "$0" "$@"
 fi
 
-mkdir -p "$out"
+# How each language writes short dates; the windows show them.
+declare -A short_date=([english]='M/d/yyyy' [dutch]='d-M-yyyy' [german]='dd.MM.yyyy' [french]='dd/MM/yyyy'
+  [spanish]='dd/MM/yyyy' [italian]='dd/MM/yyyy' [portuguese]='dd/MM/yyyy' [polish]='dd.MM.yyyy' [russian]='dd.MM.yyyy')
+
+xdotool mousemove 1270 1015 # controls change their look below the pointer
 data=$WINEPREFIX/drive_c/Data
 mkdir -p "$data/Letters" "$data/Accounts/2025" "$data/Pictures"
 for name in Budget.xls Readme.txt Letters/Bank.doc Letters/Offer.doc Accounts/2025/January.csv Pictures/Garden.jpg; do
   head -c 23456 /dev/zero >"$data/$name"
+done
+# A tree whose listing takes long enough to look at its progress.
+for year in 2021 2022 2023 2024 2025; do
+  for month in 01 02 03 04 05 06 07 08 09 10 11 12; do
+    mkdir -p "$WINEPREFIX/drive_c/Archive/$year/$month"
+    (cd "$WINEPREFIX/drive_c/Archive/$year/$month" && touch $(seq -f 'Letter%.0f.doc' 2500))
+  done
 done
 
 # setting KEY VALUE [SECTION]
 setting() {
   wine reg add "HKCU\\Software\\Folivant 3.0\\${3:-Settings}" /v "$1" /d "$2" /f >/dev/null 2>&1 </dev/null
 }
-# A text of the language without its mnemonic's mark, and the mnemonic.
-text() { sed -n "s/^$1=//p" "$root/lang/$language" | tr -d '&\r'; }
-mnemonic() { sed -n "s/^$1=//p" "$root/lang/$language" | sed -n 's/.*&\(.\).*/\1/p' | tr 'A-Z' 'a-z'; }
-
-# picture NAME TITLE: waits for the window and takes it with its frame
-picture() {
-  local window=
-  for _ in $(seq 100); do
-    window=$(xdotool search --onlyvisible --name "^$2\$" 2>/dev/null | tail -1)
-    [ -n "$window" ] && break
+# text NUMBER: the text of the language without its mnemonic's mark
+text() { sed -n "s/^$1=//p" "$root/lang/$language.ini" | tr -d '&\r'; }
+# press TITLE CONTROL
+press() {
+  local number
+  number=$(sed -n "s/^#define $2 \([0-9]*\).*/\1/p" "$root/src/res/Controls.h")
+  wine "$build/press.exe" "$1" "${number:-$2}" </dev/null >/dev/null 2>&1 || { echo "$language: no \"$1\" with $2" >&2; exit 1; }
+}
+# window TITLE: its number, once it is on the screen
+window() {
+  local found=
+  for _ in $(seq 300); do
+    found=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -1)
+    [ -n "$found" ] && echo "$found" && return
     sleep 0.2
   done
-  [ -n "$window" ] || { echo "No window \"$2\"" >&2; exit 1; }
-  xdotool windowactivate --sync "$window" 2>/dev/null || true
-  sleep 0.7
-  import -frame -window "$window" "$out/$1.png"
+  echo "$language: no window \"$1\"" >&2
+  exit 1
 }
-press() { xdotool key "$@"; }
+# shrink FROM TO: in few colours, which suffice for windows
+shrink() {
+  convert "$1" +dither -colors 256 -strip -define png:compression-level=9 -define png:exclude-chunk=all "PNG8:$2"
+}
+# picture NAME TITLE: takes the window with its frame
+picture() {
+  local shown
+  shown=$(window "$2")
+  [ "$1" = progress ] || xdotool windowactivate --sync "$shown" 2>/dev/null || true
+  sleep 0.7
+  import -frame -window "$shown" "$TMPDIR/$1.png"
+  shrink "$TMPDIR/$1.png" "$out/$1.png"
+}
 
-setting Language "$language"
-setting Filter 1111 Filter
-setting FilterName '*.doc, *.xls, *.txt' Filter
-setting FilterSize 10 Filter
-setting FilterDateMin 2025/01/01 Filter
+# start [FOLDER]
 start() {
-  wine "$program" 'C:\Data' </dev/null >/dev/null 2>&1 &
+  wine "$program" "${1:-C:\\Data}" </dev/null >/dev/null 2>&1 &
   started=$!
+  main=$(window Folivant)
 }
 stop() {
-  press Escape
+  press Folivant cmdCancel
   wait $started
 }
 
-start
-picture main Folivant
-press "alt+$(mnemonic 5)"
-picture filter "$(text 200)"
-press Escape
-sleep 0.5
-press "alt+$(mnemonic 6)"
-picture format "$(text 201)"
-press "alt+$(mnemonic 234)"
-picture columns "$(text 202)"
-press Escape
-sleep 0.5
-press Escape
-sleep 0.5
-stop
-
-page=0
-for name in general printer font header-footer language; do
-  page=$((page + 1))
-  setting LastTab $page
+take_main_and_its_dialogs() {
   start
-  picture ignored Folivant
-  press "alt+$(mnemonic 12)"
-  picture "options-$name" "$(text 204)"
-  press Escape
-  sleep 0.5
+  picture main Folivant
+  press Folivant cmdFilter
+  picture filter "$(text 200)"
+  press "$(text 200)" cmdCancel
+  press Folivant cmdFormat
+  picture format "$(text 201)"
+  press "$(text 201)" Command1
+  picture columns "$(text 202)"
+  press "$(text 202)" cmdCancel
+  press "$(text 201)" cmdCancel
   stop
+}
+
+take_options() {
+  local page=0 name
+  for name in general printer font header-footer language; do
+    page=$((page + 1))
+    setting LastTab $page
+    start
+    press Folivant cmdOptions
+    picture "options-$name" "$(text 204)"
+    if [ $name = printer ]; then
+      press "$(text 204)" cmdPrinter
+      picture printer "$(text 205)"
+      press "$(text 205)" cmdCancel
+    fi
+    press "$(text 204)" cmdCancel
+    stop
+  done
+}
+
+# The question that Cancel asks holds the run, so its window stands still; the question itself is moved out of the way.
+take_progress() {
+  start 'C:\Archive'
+  press Folivant optScreen
+  press Folivant cmdOK
+  window "$(text 203)" >/dev/null
+  press "$(text 203)" cmdCancel
+  sleep 1
+  xdotool getactivewindow windowmove 20 700
+  picture progress "$(text 203)"
+  press Folivant 6 # Yes
+  sleep 1
+  stop
+}
+
+take_find() {
+  local title shown standins=()
+  printf 'Bank.doc\tC:\\Data\\Letters\t23 kb\tDOC\t1/1/2025 10:00\n' >"$WINEPREFIX/drive_c/rows.txt"
+  for title in '*.doc - C:\Data' 'Bank*.* - C:\'; do
+    wine "$build/FindStandIn.exe" "$title" 'C:\rows.txt' </dev/null >/dev/null 2>&1 &
+    standins+=($!)
+    sleep 1 # the later one stands first in the list
+  done
+  start
+  press Folivant optScreen
+  press Folivant cmdFormat
+  press "$(text 201)" optFind
+  press "$(text 201)" cmdOK
+  press Folivant cmdOK
+  picture find "$(text 206)"
+  press "$(text 206)" cmdCancel
+  sleep 1
+  stop
+  for shown in $(xdotool search --onlyvisible --name ' - C:' 2>/dev/null); do
+    xdotool windowclose "$shown" 2>/dev/null || true
+  done
+  kill "${standins[@]}" 2>/dev/null || true
+}
+
+[ $# -gt 0 ] || set -- $(cd "$root/lang" && ls *.ini | sed 's/\.ini$//')
+for language in "$@"; do
+  out=$root/help/pictures/$language
+  mkdir -p "$out"
+  wine reg delete 'HKCU\Software\Folivant 3.0' /f >/dev/null 2>&1 </dev/null || true
+  wine reg add 'HKCU\Control Panel\International' /v sShortDate /d "${short_date[$language]}" /f >/dev/null 2>&1 </dev/null
+  setting Language "$language.ini"
+  setting Filter 1111 Filter
+  setting FilterName '*.doc, *.txt' Filter
+  setting FilterSize 10 Filter
+  setting FilterDateMin 2025/01/01 Filter
+  take_main_and_its_dialogs
+  take_options
+  take_progress
+  take_find
+  echo "$language: $(ls "$out" | wc -l) pictures"
 done
-rm -f "$out/ignored.png"
 
 # An HTML listing as a browser shows it, for the README.
-if [ "$language" = english.ini ]; then
-  printf '[Folivant 3.5]\r\nHeader=%%p, %%d\r\n' >"$data.fvf"
-  wine "$program" /f 'C:\Data.fvf' /d 'C:\Data' /t h /o 'C:\Data.html' /g </dev/null >/dev/null 2>&1
-  chromium --headless --no-sandbox --disable-gpu --hide-scrollbars --disable-background-networking --disable-sync \
-    --disable-component-update --no-first-run --user-data-dir="$TMPDIR/browser" --window-size=640,760 \
-    --screenshot="$root/docs/pictures/html.png" "file://$data.html" >/dev/null 2>&1
-fi
+printf '[Folivant 3.5]\r\nHeader=%%p, %%d\r\n' >"$data.fvf"
+wine reg delete 'HKCU\Software\Folivant 3.0' /f >/dev/null 2>&1 </dev/null || true
+wine "$program" /f 'C:\Data.fvf' /d 'C:\Data' /t h /o 'C:\Data.html' /g </dev/null >/dev/null 2>&1
+chromium --headless --no-sandbox --disable-gpu --hide-scrollbars --disable-background-networking --disable-sync \
+  --disable-component-update --no-first-run --user-data-dir="$TMPDIR/browser" --window-size=640,620 \
+  --screenshot="$TMPDIR/html.png" "file://$data.html" >/dev/null 2>&1
+shrink "$TMPDIR/html.png" "$root/docs/pictures/html.png"
