@@ -16,6 +16,7 @@
 #include "scan/Progress.h"
 #include "scan/mdlScan.h"
 #include "ui/ErrorText.h"
+#include "ui/Help.h"
 #include "ui/Language.h"
 
 namespace folivant {
@@ -129,7 +130,9 @@ Ending ParseCommandLine(const std::wstring& line) {
 /// The texts of messages depend on a setting, so bad settings are reported once the language is there.
 void LoadSettingsAndLanguage() {
   const std::vector<BadSetting> bad = LoadSettings();
-  mdlVars::HelpFile = LoadLanguage(platform::ProgramFolder(), mdlVars::General.Language, mdlVars::Texts);
+  const std::wstring folder = platform::ProgramFolder();
+  mdlVars::HelpFile = LoadLanguage(folder, mdlVars::General.Language, mdlVars::Texts);
+  mdlVars::ManualFile = ManualFile(folder, mdlVars::General.Language);
   ReportBadSettings(bad);
 }
 

@@ -19,6 +19,7 @@ bool UseFilterFile = false;
 
 Messages Texts;
 std::wstring HelpFile;
+std::wstring ManualFile;
 
 ListingRun& Run() {
   static ListingRun run{Texts, General, Printer, Filter, Format, Tree, OutputKind, OutputFile, DatePattern, PageNumber};

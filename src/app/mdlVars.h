@@ -32,7 +32,8 @@ extern bool
     UseFilterFile;  ///< redirects file-capable settings to FilterFile; raised around one complete load or save only
 
 extern Messages Texts;
-extern std::wstring HelpFile;  ///< full path
+extern std::wstring HelpFile;    ///< full path
+extern std::wstring ManualFile;  ///< full path of the page that stands in for it
 
 /// The records above as writers see them.
 ListingRun& Run();

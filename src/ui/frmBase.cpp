@@ -8,7 +8,6 @@
 #include "platform/RuntimeError.h"
 #include "platform/win32/Shell.h"
 #include "ui/ErrorText.h"
-#include "ui/Help.h"
 #include "ui/Language.h"
 
 namespace folivant {
@@ -56,7 +55,7 @@ void frmBase::ShowHelp() {
   if (platform::PathExists(mdlVars::HelpFile)) {
     platform::OpenHelpFile(Window(), mdlVars::HelpFile);
   } else {
-    platform::OpenDocument(Window(), ManualFile(platform::ProgramFolder(), mdlVars::General.Language));
+    platform::OpenDocument(Window(), mdlVars::ManualFile);
   }
 }
 

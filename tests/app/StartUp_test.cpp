@@ -264,6 +264,7 @@ TEST_F(StartUp, TheLanguageOfTheSettingsIsLoaded) {
   Start(L"");
   EXPECT_EQ(mdlVars::Texts[Text::NoPrinter], L"Geen printer.");
   EXPECT_EQ(mdlVars::HelpFile, L"C:\\Program Files\\Folivant\\folvnt40.hlp");
+  EXPECT_EQ(mdlVars::ManualFile, L"C:\\Program Files\\Folivant\\help\\english.html") << "there is no Dutch one";
 }
 
 class SendTo : public StartUp {

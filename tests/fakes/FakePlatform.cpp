@@ -29,6 +29,7 @@ class ResetBeforeEachTest final : public testing::EmptyTestEventListener {
     mdlVars::UseFilterFile = false;
     mdlVars::Texts = {};
     mdlVars::HelpFile.clear();
+    mdlVars::ManualFile.clear();
   }
 };
 
