@@ -193,6 +193,14 @@ void Window::Activate() const {
   WaitUntil([&] { return GetForegroundWindow() == handle_; }, 2'000);
 }
 
+/// Whether what lies at a point hands its clicks to `control`: a group box stands above the controls inside it and lets
+/// the mouse through, but another process is told of the box.
+static bool Hits(HWND found, HWND control) {
+  const bool groupBox =
+      Window(found).ClassName() == L"Button" && (GetWindowLongPtrW(found, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+  return found == control || (groupBox && GetParent(found) == GetParent(control));
+}
+
 // A window manager may still move, raise or activate what a program has just shown, and the system may move the pointer
 // once more when the windows below it have changed.
 std::optional<POINT> Window::BringMouseOver(std::optional<POINT> inside) const {
@@ -204,7 +212,7 @@ std::optional<POINT> Window::BringMouseOver(std::optional<POINT> inside) const {
                              : POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
     const bool moved = now.x != target.x || now.y != target.y;
     target = now;
-    return !moved && GetForegroundWindow() == top && IsMouseAt(target) && WindowFromPoint(target) == handle_;
+    return !moved && GetForegroundWindow() == top && IsMouseAt(target) && Hits(WindowFromPoint(target), handle_);
   };
   ULONGLONG restless = GetTickCount64();
   const bool ready = WaitUntil([&] {
