@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """docs/messages.md lists every message number with its English text and the sources that use it. It is written from
-src/ui/Text.h and lang/english.ini; without --write it is only compared.
+src/ui/Text.h and lang/english.ini; without --write it is only compared. No number may lie beyond the table that holds the
+texts: reading there would end the program.
 
     tests/house/messages.py REPOSITORY [--write]
 """
@@ -58,15 +59,22 @@ def page():
     return '\n'.join(rows) + '\n', unused
 
 
+def numbers_beyond_the_table():
+    size = int(re.search(r'kCount = (\d+);', (ROOT / 'src/ui/Messages.h').read_text(encoding='utf-8'))[1])
+    named = re.findall(r'^  (\w+) = (\d+),', (ROOT / 'src/ui/Text.h').read_text(encoding='utf-8'), re.M)
+    return [f'{number} ({name}): numbers end at {size - 1}' for name, number in named if int(number) >= size]
+
+
 def main():
     text, unused = page()
+    beyond = numbers_beyond_the_table()
     if '--write' in sys.argv:
         PAGE.write_text(text, encoding='utf-8')
     stale = not PAGE.exists() or PAGE.read_text(encoding='utf-8') != text
     if stale:
         print('docs/messages.md is not what the sources say: run tests/house/messages.py . --write')
-    print('\n'.join(unused))
-    return 1 if stale else 0
+    print('\n'.join(beyond + unused))
+    return 1 if stale or beyond else 0
 
 
 sys.exit(main())
