@@ -235,6 +235,21 @@ def under_wine(bench, trees, empty):
     return lines + table('Under Wine, other runs', ['Run', 'Ratio'], rows)
 
 
+def window(bench, tree, empty, filter_file):
+    """The main window on a display of its own; its program compares by itself."""
+    for command in (['cmake', '--preset', 'windows'], ['cmake', '--build', 'build/windows', '--target', 'window_bench']):
+        subprocess.run(command, cwd=HOUSE, check=True, stdout=subprocess.DEVNULL)
+    done = subprocess.run(['tests/env/with-wine.sh', 'wine', 'build/windows/window_bench.exe', dos(filter_file), dos(tree),
+                           dos(empty), str(bench.pairs)], cwd=HOUSE, capture_output=True, text=True, check=True,
+                          stdin=subprocess.DEVNULL)
+    ratio = re.search(r'window (\S+) times', done.stdout).group(1)
+    median, longest, count = re.search(r'median (\d+) longest (\d+) ms of (\d+)', done.stdout).groups()
+    return table(f'The main window, {WIDE}', ['', ''],
+                 [['Run from the window against the same with /g', ratio],
+                  ['From Cancel to its question, median', f'{median} ms'],
+                  [f'From Cancel to its question, longest of {count}', f'{longest} ms']])
+
+
 def pages(scratch):
     """The page writer on a printer in memory; its program compares by itself."""
     libraries = [HOUSE / f'build/host-release/src/libfolivant_{name}.a' for name in ('core', 'platform', 'core')]
@@ -276,17 +291,17 @@ WIDE = '300,000 files in 3,000 directories'
 def main():
     options = argparse.ArgumentParser(description=__doc__)
     options.add_argument('--pairs', type=int, default=9)
-    options.add_argument('--only', choices=('native', 'wine', 'orders', 'memory', 'pages'), action='append')
+    options.add_argument('--only', choices=('native', 'wine', 'orders', 'memory', 'pages', 'window'), action='append')
     options.add_argument('--clock', choices=('wall', 'cpu'), default='wall',
                          help='cpu for a busy machine; under Wine the server\'s share is not in it')
     options.add_argument('--slow', action='store_true', help='the command interpreter too: minutes per tree')
     options.add_argument('--scale', type=float, default=1.0, help='share of the trees, for trying the script')
     options.add_argument('--write', action='store_true')
     chosen = options.parse_args()
-    parts = chosen.only or ('native', 'orders', 'memory', 'pages', 'wine')
+    parts = chosen.only or ('native', 'orders', 'memory', 'pages', 'wine', 'window')
     with tempfile.TemporaryDirectory(prefix='folivant-bench-') as name:
         scratch = pathlib.Path(name)
-        build(scratch, 'wine' in parts)
+        build(scratch, 'wine' in parts or 'window' in parts)
         bench = Bench(scratch, chosen.pairs)
         bench.slow_too = chosen.slow
         bench.clock = chosen.clock
@@ -309,6 +324,7 @@ def measure(bench, make, parts, scale):
     trees['100,000 files in one directory'] = small_flat = make.flat(large // 2)
     trees['200,000 files in one directory'] = large_flat = make.flat(large)
     trees['chain of 300 directories'] = make.chain(300)
+    empty = make.empty()
     lines = []
     if 'native' in parts:
         lines += native(bench, trees)
@@ -319,9 +335,11 @@ def measure(bench, make, parts, scale):
     if 'wine' in parts:
         end_wine = start_wine(bench)
         try:
-            lines += under_wine(bench, trees, make.empty())
+            lines += under_wine(bench, trees, empty)
         finally:
             end_wine()
+    if 'window' in parts:
+        lines += window(bench, trees[WIDE], empty, bench.scratch / 'usual.fvf')
     return lines
 
 
