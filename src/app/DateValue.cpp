@@ -11,6 +11,16 @@ constexpr std::chrono::sys_days kDayZero = std::chrono::year{1899} / 12 / 30;
 
 }  // namespace
 
+platform::CalendarTime CalendarTimeOn(std::int64_t days, int seconds) {
+  const std::chrono::year_month_day day(kDayZero + std::chrono::days(days));
+  return {static_cast<int>(day.year()),
+          static_cast<int>(static_cast<unsigned>(day.month())),
+          static_cast<int>(static_cast<unsigned>(day.day())),
+          seconds / 3600,
+          seconds / 60 % 60,
+          seconds % 60};
+}
+
 DateValue ToDateValue(const platform::CalendarTime& time) {
   // The first of the month carries the day over where it lies outside its month.
   const std::chrono::sys_days month = std::chrono::year{time.Year} / time.Month / 1;
@@ -23,14 +33,7 @@ platform::CalendarTime ToCalendarTime(DateValue date) {
   const std::int64_t seconds = std::llround(date * static_cast<double>(kSecondsPerDay));
   const std::int64_t days =
       seconds >= 0 ? seconds / kSecondsPerDay : -((-seconds + kSecondsPerDay - 1) / kSecondsPerDay);
-  const int rest = static_cast<int>(seconds - days * kSecondsPerDay);
-  const std::chrono::year_month_day day(kDayZero + std::chrono::days(days));
-  return {static_cast<int>(day.year()),
-          static_cast<int>(static_cast<unsigned>(day.month())),
-          static_cast<int>(static_cast<unsigned>(day.day())),
-          rest / 3600,
-          rest / 60 % 60,
-          rest % 60};
+  return CalendarTimeOn(days, static_cast<int>(seconds - days * kSecondsPerDay));
 }
 
 }  // namespace folivant

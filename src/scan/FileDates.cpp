@@ -1,7 +1,5 @@
 #include "scan/FileDates.h"
 
-#include <chrono>
-
 #include "platform/Clock.h"
 
 namespace folivant {
@@ -9,21 +7,14 @@ namespace {
 
 constexpr std::uint64_t kTicksPerSecond = 10'000'000;
 constexpr std::uint64_t kSecondsPerDay = 24 * 60 * 60;
-constexpr std::chrono::sys_days kFileTimeZero = std::chrono::year{1601} / 1 / 1;
+constexpr std::int64_t kFirstDay = -109'205;  ///< 1601-01-01, when file times begin, in days since 1899-12-30
 
 }  // namespace
 
 platform::CalendarTime CalendarTimeOf(std::uint64_t localFileTime) {
   const std::uint64_t seconds = localFileTime / kTicksPerSecond;
-  const int rest = static_cast<int>(seconds % kSecondsPerDay);
-  const std::chrono::year_month_day day(kFileTimeZero +
-                                        std::chrono::days(static_cast<std::int64_t>(seconds / kSecondsPerDay)));
-  return {static_cast<int>(day.year()),
-          static_cast<int>(static_cast<unsigned>(day.month())),
-          static_cast<int>(static_cast<unsigned>(day.day())),
-          rest / 3600,
-          rest / 60 % 60,
-          rest % 60};
+  return CalendarTimeOn(static_cast<std::int64_t>(seconds / kSecondsPerDay) + kFirstDay,
+                        static_cast<int>(seconds % kSecondsPerDay));
 }
 
 platform::CalendarTime FileTimeOf(std::uint64_t& fileTime) {

@@ -38,6 +38,12 @@ TEST(DateValueTest, EverySecondSurvivesTheWayThereAndBack) {
   }
 }
 
+TEST(DateValueTest, ADayAndItsSecondsAreACalendarTime) {
+  EXPECT_TRUE(SameTime(CalendarTimeOn(0, 0), {1899, 12, 30, 0, 0, 0}));
+  EXPECT_TRUE(SameTime(CalendarTimeOn(36'526, 3'723), {2000, 1, 1, 1, 2, 3}));
+  EXPECT_TRUE(SameTime(CalendarTimeOn(-1, 86'399), {1899, 12, 29, 23, 59, 59}));
+}
+
 TEST(DateValueTest, RoundsToTheNearestSecond) {
   const double second = 1 / 86'400.0;
   EXPECT_TRUE(SameTime(ToCalendarTime(36'526 + 0.6 * second), {2000, 1, 1, 0, 0, 1}));
