@@ -8,6 +8,7 @@
 #include "output/OutputKind.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"
+#include "scan/Progress.h"
 #include "scan/ScanTree.h"
 #include "ui/Messages.h"
 
@@ -24,6 +25,7 @@ struct ListingRun {
   const std::wstring& OutputFile;
   const std::wstring& DatePattern;  ///< the run's date pattern, such as "yyyy/mm/dd"
   std::int16_t& PageNumber;         ///< advanced by the page writer alone; 0 in the file writers
+  Progress* Watcher = nullptr;      ///< during a run, for a writer that takes long over one event
 };
 
 }  // namespace folivant

@@ -103,6 +103,9 @@ void PrinterWriter::BreakPage(double linesToKeepFree) {
   if (page_->Y() > bodyBottom_ - linesToKeepFree * lineHeight_) {
     page_->NextPage();
     StartPage();
+    if (run_.Watcher != nullptr) {
+      run_.Watcher->LetEventsThrough();  // a directory may fill hundreds of pages
+    }
   }
 }
 

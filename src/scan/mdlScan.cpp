@@ -15,7 +15,7 @@ using mdlVars::Tree;
 /// Leaves nothing behind, however a run ends: an error closes what the writer has open, and the lists are emptied.
 class RunGuard {
  public:
-  explicit RunGuard(ListingWriter& output) : output_(output) {}
+  RunGuard(ListingWriter& output, Progress& progress) : output_(output) { mdlVars::Run().Watcher = &progress; }
   RunGuard(const RunGuard&) = delete;
   RunGuard& operator=(const RunGuard&) = delete;
   ~RunGuard() {
@@ -23,6 +23,7 @@ class RunGuard {
       output_.AbortListing();
     }
     Tree.ReleaseLists();
+    mdlVars::Run().Watcher = nullptr;
   }
   void End() {
     if (!Tree.Cancelled) {
@@ -58,6 +59,7 @@ void ListTree(const WalkSettings& settings, ListingWriter& output, Progress& pro
   DirectoryWalk walk(settings, Tree, output, progress);  // owns the size text that the directories' records share
   walk.ScanDirectory();
   for (const std::uint32_t index : Tree.TreeList) {  // does not look at the cancel flag, on purpose
+    progress.LetEventsThrough();
     const FileRecord& record = Tree.TreeRecords[index];
     if (record.Level > kHiddenLevel) {
       output.TreeEntry(record);
@@ -85,7 +87,7 @@ void RunListing(ListingWriter& output, Progress& progress) {
   progress.LetEventsThrough();
   Tree.ResetTotals();
   mdlVars::PageNumber = 0;
-  RunGuard guard(output);
+  RunGuard guard(output, progress);
   output.BeginListing();
   const NamePatterns patterns = mdlVars::Filter.NameOn ? NamePatterns(mdlVars::Filter.FilterName) : NamePatterns();
   const WalkSettings settings{mdlVars::Filter,  patterns,       mdlVars::Format,

@@ -57,6 +57,19 @@ TEST_F(MdlScanTest, ARunAfterACancelledOneIsNotCancelled) {
   EXPECT_FALSE(mdlVars::Tree.Unreadable);
 }
 
+TEST_F(MdlScanTest, EventsRunWhileATreeIsWritten) {
+  Tree().Dir(L"C:\\Data").File(L"a").File(L"b").File(L"c");
+  int atFirstEntry = 0;
+  Writer.OnEvent = [&] {
+    if (Writer.Events.back().find(L" a") != std::wstring::npos) {
+      atFirstEntry = Watcher.Pumped;
+    }
+  };
+  List(ListingStyle::TreeStyle);
+  EXPECT_GE(Watcher.Pumped, atFirstEntry + 2) << "b and c";
+  Writer.OnEvent = [] {};
+}
+
 TEST_F(MdlScanTest, ThePageNumberStartsAtZero) {
   Tree().Dir(L"C:\\Data");
   mdlVars::PageNumber = 7;
