@@ -157,7 +157,7 @@ int Start(const std::wstring& commandLine) {
       return *ending;
     }
     return StartWindow();
-  } catch (const RuntimeError& error) {
+  } catch (const std::exception& error) {
     ShowError(error, mdlVars::Texts);
     return kExitFailed;
   }

@@ -1,5 +1,7 @@
 #include "ui/ErrorText.h"
 
+#include <string_view>
+
 #include "platform/MessageBox.h"
 #include "ui/Language.h"
 
@@ -50,8 +52,14 @@ std::wstring ErrorText(const RuntimeError& error, const Messages& texts) {
                           std::to_wstring(error.SystemCode()));
 }
 
-void ShowError(const RuntimeError& error, const Messages& texts) {
-  platform::ShowMessage(ErrorText(error, texts), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+void ShowError(const std::exception& error, const Messages& texts) {
+  const auto* known = dynamic_cast<const RuntimeError*>(&error);
+  if (known != nullptr && known->EndedByUser()) {
+    return;
+  }
+  const std::string_view words = error.what();
+  platform::ShowMessage(known != nullptr ? ErrorText(*known, texts) : std::wstring(words.begin(), words.end()),
+                        platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
 }
 
 }  // namespace folivant

@@ -5,20 +5,11 @@
 #include "app/mdlVars.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
-#include "platform/RuntimeError.h"
 #include "platform/win32/Shell.h"
 #include "ui/ErrorText.h"
 #include "ui/Language.h"
 
 namespace folivant {
-namespace {
-
-std::wstring Widened(const char* text) {
-  return std::wstring(text, text + std::char_traits<char>::length(text));
-}
-
-}  // namespace
-
 std::int32_t frmBase::WholeNumberOf(int control) const {
   const auto number = ParseWholeNumber(TextOf(control));
   if (!number) {
@@ -67,10 +58,8 @@ void frmBase::ShowProblem(const std::exception& problem) noexcept {
                             platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
       ShowField(control);
       SetFocusTo(control);
-    } else if (const auto* error = dynamic_cast<const RuntimeError*>(&problem)) {
-      ShowError(*error, mdlVars::Texts);
     } else {
-      platform::ShowMessage(Widened(problem.what()), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+      ShowError(problem, mdlVars::Texts);
     }
   } catch (const std::exception&) {
     // Out of memory while telling so: the window stays, which is all that can be done.

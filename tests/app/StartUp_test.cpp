@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
+#include "app/Settings.h"
 #include "app/mdlVars.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeSession.h"
@@ -85,6 +88,16 @@ TEST_F(StartUp, ASentFileIsAListOfPathsAndStaysAsItIsSpelled) {
   Start(L"\"c:\\data\\a.TXT\"");
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
   EXPECT_EQ(mdlVars::Tree.StartPath, L"c:\\data\\a.TXT");
+  EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"c:\\data\\a.TXT");
+}
+
+TEST_F(StartUp, TheStyleOfASentFileIsNotSavedWhenTheWindowCloses) {
+  Store(L"Format", L"3");
+  Store(L"Path", L"C:\\Work");
+  Start(L"C:\\Data\\A.txt");
+  SaveSettings();
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Format"}]), L"3");
+  EXPECT_EQ((Fake().Store[{L"Settings", L"Path"}]), L"C:\\Work");
 }
 
 TEST_F(StartUp, ASentPathThatIsGoneLeavesTheStoredDirectory) {
@@ -179,6 +192,22 @@ TEST_F(StartUp, TheBareOutputNameGetsHtmlOrTxt) {
   EXPECT_EQ(mdlVars::OutputKind, OutputKind::Csv);
 }
 
+TEST_F(StartUp, AnEmptyOutputNameHasNoDotEither) {
+  Start(L"/f C:\\sets\\a.fvf /t t /o");
+  EXPECT_EQ(mdlVars::OutputFile, L".txt");
+}
+
+TEST_F(StartUp, AQuotedDirectoryMayEndInABackslash) {
+  EXPECT_EQ(Start(L"/f \"C:\\sets\\a.fvf\" /d \"c:\\data\\\" /t t /o \"C:\\Out\\my list.txt\" /g"), kExitDone);
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\my list.txt"), "C:\\Data\\A.txt\r\n");
+}
+
+TEST_F(StartUp, AShareThatIsNotThereIsAnUnreadableDirectory) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d \\\\nobody\\share /t t /o C:\\Out\\list.txt /g"), kExitUnreadable);
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"\\\\Nobody\\Share");
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "");
+}
+
 TEST_F(StartUp, GoWithoutAnOutputFileAsksForOne) {
   Session().SaveDialog = [] {
     mdlVars::OutputFile = L"C:\\Out\\asked.txt";
@@ -198,7 +227,6 @@ TEST_F(StartUp, CancellingTheSaveDialogEndsWithoutAListing) {
 }
 
 TEST_F(StartUp, AScreenDestinationAsksForATextFile) {
-  FilterFile("OutputTo=2\r\n");
   Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=2\r\n");
   Start(L"/f C:\\sets\\a.fvf /g");
   EXPECT_EQ(Session().OutputFileAsked, 1);
@@ -213,6 +241,14 @@ TEST_F(StartUp, APrinterDestinationPrintsWithoutAnyDialog) {
   EXPECT_EQ(mdlVars::Printer.PrinterName, L"Laser");
   EXPECT_EQ(Session().OutputFileAsked, 0);
   EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, AnOutputFileAloneDoesNotChangeTheDestination) {
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=0\r\nPath=C:\\Data\r\n");
+  Session().Printers = {L"Laser"};
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /o C:\\Out\\list.txt /g"), kExitDone);
+  EXPECT_EQ(mdlVars::OutputKind, OutputKind::Printer);
+  EXPECT_FALSE(Exists(L"C:\\Out\\list.txt"));
 }
 
 TEST_F(StartUp, PrintingWithoutAnyPrinterIsToldAndFails) {
@@ -233,6 +269,13 @@ TEST_F(StartUp, AFailedRunIsToldAndFails) {
   ASSERT_EQ(Fake().Messages.size(), 1u);
   EXPECT_EQ(Fake().Messages[0].Text, L"Cannot create \"C:\\Out\\list.txt\": Access is denied. (5)");
   EXPECT_EQ(Fake().OpenOutputFiles, 0);
+}
+
+TEST_F(StartUp, AnyOtherExceptionIsToldAndFailsToo) {
+  Session().SaveDialog = []() -> bool { throw std::length_error("too long"); };
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"too long");
 }
 
 TEST_F(StartUp, AnUnreadableDirectoryEndsWithAStatusOfItsOwn) {
