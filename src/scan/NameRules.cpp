@@ -1,5 +1,7 @@
 #include "scan/NameRules.h"
 
+#include <algorithm>
+
 #include "app/mdlFileRoutines.h"
 #include "platform/FindFiles.h"
 #include "platform/Text.h"
@@ -52,6 +54,23 @@ LongPath TakeDrive(std::wstring_view& rest) {
   return {drive, drive};
 }
 
+/// Takes the last component off `path`, whose first `root` characters stay.
+void GoUp(std::wstring& path, std::size_t root) {
+  path.resize(std::max(root, path.rfind(L'\\')));
+}
+
+/// Appends `component` in both spellings; false when there is nothing of that name.
+bool GoDown(LongPath& path, std::wstring_view component) {
+  path.OnDisk = AddBackslash(path.OnDisk);
+  const std::optional<platform::FoundEntry> found = platform::FindEntry(path.OnDisk + std::wstring(component));
+  if (!found) {
+    return false;
+  }
+  path.OnDisk += found->Name;
+  path.Shown = AddBackslash(path.Shown) + ProperName(found->Name);
+  return true;
+}
+
 }  // namespace
 
 std::size_t ProperNameInto(std::wstring_view name, wchar_t* out) {
@@ -77,18 +96,19 @@ LongPath GetLongPath(std::wstring_view path) {
   if (result.Shown.empty()) {
     return {};
   }
+  const std::size_t shownRoot = result.Shown.size();
+  const std::size_t rootOnDisk = result.OnDisk.size();
   while (!rest.empty() && rest.front() != L'\\') {
     std::wstring_view component = TakeComponent(rest);
     if (component.ends_with(L'\\')) {
       component.remove_suffix(1);
     }
-    result.OnDisk = AddBackslash(result.OnDisk);
-    const std::optional<platform::FoundEntry> found = platform::FindEntry(result.OnDisk + std::wstring(component));
-    if (!found) {
+    if (component == L"..") {
+      GoUp(result.Shown, shownRoot);
+      GoUp(result.OnDisk, rootOnDisk);
+    } else if (component != L"." && !GoDown(result, component)) {
       return {};
     }
-    result.OnDisk += found->Name;
-    result.Shown = AddBackslash(result.Shown) + ProperName(found->Name);
   }
   return result;
 }

@@ -56,6 +56,21 @@ TEST_F(GetLongPathTest, SpellsComponentsAsOnDiskAndRecasesThem) {
   EXPECT_EQ(GetLongPath(L"c:\\program files\\tools").OnDisk, L"C:\\Program Files\\TOOLS");
 }
 
+TEST_F(GetLongPathTest, ResolvesDots) {
+  const std::pair<std::wstring, std::wstring> rows[] = {
+      {L"c:\\program files\\tools\\..\\TOOLS\\mixedcase", L"C:\\Program Files\\Tools\\MixedCase"},
+      {L"c:\\program files\\.\\tools\\.", L"C:\\Program Files\\Tools"},
+      {L"c:\\program files\\tools\\..\\..\\", L"C:\\"},
+      {L"c:\\..\\program files\\tools\\..", L"C:\\Program Files"},  // a root has no parent
+      {L"\\\\server\\share\\docs\\..\\..\\docs", L"\\\\Server\\Share\\Docs"},
+      {L"c:\\missing\\..\\program files", L""},
+  };
+  for (const auto& [path, expected] : rows) {
+    EXPECT_EQ(GetLongPath(path).Shown, expected);
+  }
+  EXPECT_EQ(GetLongPath(L"c:\\program files\\tools\\mixedcase\\..").OnDisk, L"C:\\Program Files\\TOOLS");
+}
+
 TEST_F(GetLongPathTest, AnswersNothingForAPathThatIsNotUsable) {
   for (const wchar_t* path : {L"", L"c", L"c:", L"c:data", L"data", L"\\data", L"c:\\missing",
                               L"c:\\program files\\missing\\tools", L"\\\\", L"\\\\server"}) {
