@@ -13,6 +13,7 @@
 #include "platform/Files.h"
 #include "platform/Store.h"
 #include "platform/win32/Shell.h"
+#include "platform/win32/WindowSystem.h"
 #include "scan/NameRules.h"
 #include "scan/frmFilter.h"
 #include "scan/frmFormat.h"

@@ -103,6 +103,7 @@ class frmOptions final : public frmBase {
   void Form_Load() override;
   void Form_QueryClose() override { CloseKeepingTab(IDCANCEL); }
   void Form_DpiChanged() override { PlacePages(); }
+  bool Form_KeyDown(WPARAM key) override;
   void ShowField(int control) override;
 
   void MakePages();
@@ -198,6 +199,18 @@ void frmOptions::ShowField(int control) {
   if (page != pages_.end()) {
     ShowPage(static_cast<int>(page - pages_.begin()));
   }
+}
+
+/// The keys that turn pages in the system's own property sheets.
+bool frmOptions::Form_KeyDown(WPARAM key) {
+  const bool backwards = key == VK_PRIOR || (key == VK_TAB && GetKeyState(VK_SHIFT) < 0);
+  if (GetKeyState(VK_CONTROL) >= 0 || (key != VK_TAB && key != VK_NEXT && key != VK_PRIOR)) {
+    return false;
+  }
+  const int count = static_cast<int>(pages_.size());
+  ShowPage((ShownPage() + (backwards ? count - 1 : 1)) % count);
+  SetFocusTo(TabStrip);
+  return true;
 }
 
 void frmOptions::FillDateFormats() {

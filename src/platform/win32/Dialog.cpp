@@ -1,12 +1,13 @@
 #include "platform/win32/Dialog.h"
 
-#include <ole2.h>
 #include <uxtheme.h>
 
 #include <algorithm>
-#include <cstring>
 
 #include "platform/win32/DialogFit.h"
+#include "platform/win32/DialogTemplate.h"
+#include "platform/win32/Picture.h"
+#include "platform/win32/WindowSystem.h"
 
 namespace folivant::platform {
 namespace {
@@ -24,125 +25,10 @@ HINSTANCE Program() {
   return GetModuleHandleW(nullptr);
 }
 
-LOGFONTW MessageFont() {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof(metrics);
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
-  return metrics.lfMessageFont;
-}
-
-int SystemDpi() {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-  ReleaseDC(nullptr, screen);
-  return dpi;
-}
-
-// The fixed beginning of an extended dialog template.
-#pragma pack(push, 1)
-struct TemplateHead {
-  WORD version, signature;
-  DWORD helpId, exStyle, style;
-  WORD items;
-  short x, y, width, height;
-};
-#pragma pack(pop)
-
-const WORD* AfterName(const WORD* at) {
-  if (*at == 0xFFFF) {
-    return at + 2;
-  }
-  while (*at != 0) {
-    ++at;
-  }
-  return at + 1;
-}
-
-/// A dialog template with the system's message font in place of its own, so that dialog units follow that font.
-std::vector<DWORD> TemplateWithSystemFont(int resource) {
-  const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(resource), RT_DIALOG);
-  if (found == nullptr) {
-    throw std::exception();
-  }
-  const auto* bytes = static_cast<const BYTE*>(LockResource(LoadResource(nullptr, found)));
-  const std::size_t size = SizeofResource(nullptr, found);
-
-  const auto* names = reinterpret_cast<const WORD*>(bytes + sizeof(TemplateHead));
-  const WORD* fontStart = AfterName(AfterName(AfterName(names)));  // menu, class, title
-  const WORD* oldItems = AfterName(fontStart + 3);                 // size, weight, italic and character set
-  const auto aligned = [](std::size_t offset) { return (offset + 3) & ~std::size_t{3}; };
-  const std::size_t fontAt = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(fontStart) - bytes);
-  const std::size_t itemsAt = aligned(static_cast<std::size_t>(reinterpret_cast<const BYTE*>(oldItems) - bytes));
-
-  const LOGFONTW font = MessageFont();
-  std::vector<WORD> fontWords = {static_cast<WORD>(MulDiv(std::abs(font.lfHeight), 72, SystemDpi())),
-                                 static_cast<WORD>(font.lfWeight),
-                                 static_cast<WORD>(font.lfItalic | (DEFAULT_CHARSET << 8))};
-  for (const wchar_t* letter = font.lfFaceName; *letter != 0; ++letter) {
-    fontWords.push_back(*letter);
-  }
-  fontWords.push_back(0);
-
-  const std::size_t newItemsAt = aligned(fontAt + fontWords.size() * sizeof(WORD));
-  std::vector<DWORD> made((newItemsAt + size - itemsAt + 3) / 4);
-  auto* out = reinterpret_cast<BYTE*>(made.data());
-  std::memcpy(out, bytes, fontAt);
-  std::memcpy(out + fontAt, fontWords.data(), fontWords.size() * sizeof(WORD));
-  std::memcpy(out + newItemsAt, bytes + itemsAt, size - itemsAt);
-  return made;
-}
-
-const DLGTEMPLATE* AsTemplate(const std::vector<DWORD>& made) {
-  return reinterpret_cast<const DLGTEMPLATE*>(made.data());
-}
-
 bool IsEdit(HWND control) {
   wchar_t name[16] = {};
   GetClassNameW(control, name, 16);
   return lstrcmpiW(name, L"Edit") == 0;
-}
-
-struct BitmapCloser {
-  void operator()(HBITMAP bitmap) const { DeleteObject(bitmap); }
-};
-using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapCloser>;
-
-SIZE SizeOfBitmap(HBITMAP bitmap) {
-  BITMAP data{};
-  GetObjectW(bitmap, sizeof(data), &data);
-  return {data.bmWidth, data.bmHeight};
-}
-
-OwnedBitmap Stretched(HBITMAP source, SIZE wanted) {
-  const SIZE size = SizeOfBitmap(source);
-  const HDC screen = GetDC(nullptr);
-  const HDC from = CreateCompatibleDC(screen);
-  const HDC to = CreateCompatibleDC(screen);
-  OwnedBitmap made(CreateCompatibleBitmap(screen, wanted.cx, wanted.cy));
-  const HGDIOBJ oldFrom = SelectObject(from, source);
-  const HGDIOBJ oldTo = SelectObject(to, made.get());
-  SetStretchBltMode(to, HALFTONE);
-  SetBrushOrgEx(to, 0, 0, nullptr);
-  StretchBlt(to, 0, 0, wanted.cx, wanted.cy, from, 0, 0, size.cx, size.cy, SRCCOPY);
-  SelectObject(from, oldFrom);
-  SelectObject(to, oldTo);
-  DeleteDC(from);
-  DeleteDC(to);
-  ReleaseDC(nullptr, screen);
-  return made;
-}
-
-/// The picture for `dpi` dots per inch: drawn for it, or made smaller from the next larger drawing.
-OwnedBitmap LoadPicture(int resource, int dpi) {
-  const int drawnFor = dpi <= 96 ? 96 : dpi <= 144 ? 144 : 192;
-  const int number = resource + (drawnFor == 96 ? 0 : drawnFor == 144 ? 1000 : 2000);
-  OwnedBitmap drawn(
-      static_cast<HBITMAP>(LoadImageW(Program(), MAKEINTRESOURCEW(number), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
-  if (!drawn || dpi == drawnFor) {
-    return drawn;
-  }
-  const SIZE size = SizeOfBitmap(drawn.get());
-  return Stretched(drawn.get(), {MulDiv(size.cx, dpi, drawnFor), MulDiv(size.cy, dpi, drawnFor)});
 }
 
 }  // namespace
@@ -180,6 +66,35 @@ class Dialog::Page {
   HWND window_ = nullptr;
 };
 
+/// Shows a modal window the keys before its controls get them; the system runs its loop.
+class Dialog::KeyWatch {
+ public:
+  explicit KeyWatch(Dialog& dialog)
+      : outer_(std::exchange(current_, &dialog)),
+        hook_(SetWindowsHookExW(WH_MSGFILTER, Procedure, nullptr, GetCurrentThreadId())) {}
+  ~KeyWatch() {
+    UnhookWindowsHookEx(hook_);
+    current_ = outer_;
+  }
+  KeyWatch(const KeyWatch&) = delete;
+  KeyWatch& operator=(const KeyWatch&) = delete;
+
+ private:
+  static LRESULT CALLBACK Procedure(int code, WPARAM wParam, LPARAM lParam) {
+    const auto& message = *reinterpret_cast<const MSG*>(lParam);
+    const bool mine = code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && current_->filled_ &&
+                      GetAncestor(message.hwnd, GA_ROOT) == current_->window_;
+    if (mine && current_->Form_KeyDown(message.wParam)) {
+      return TRUE;
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+  }
+
+  static inline Dialog* current_ = nullptr;
+  Dialog* outer_;
+  HHOOK hook_;
+};
+
 Dialog::Dialog(int resource) : resource_(resource) {}
 
 Dialog::~Dialog() {
@@ -194,6 +109,7 @@ int Dialog::ShowModal(HWND owner) {
   PrepareWindows();
   modal_ = true;
   const std::vector<DWORD> made = TemplateWithSystemFont(resource_);
+  const KeyWatch watch(*this);
   return static_cast<int>(
       DialogBoxIndirectParamW(Program(), AsTemplate(made), owner, Procedure, reinterpret_cast<LPARAM>(this)));
 }
@@ -320,10 +236,10 @@ void Dialog::SetPicture(int control, int resource) {
 
 void Dialog::ShowPicture(int control, Picture& picture) {
   OwnedBitmap loaded = LoadPicture(picture.Resource, DpiOf(window_));
-  Send(control, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(loaded.get()));
+  Send(control, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(loaded.Get()));
   picture.Bitmap = std::move(loaded);
-  if (!filled_ && picture.Bitmap) {
-    GrowToPicture(control, SizeOfBitmap(picture.Bitmap.get()));
+  if (!filled_ && picture.Bitmap.IsOpen()) {
+    GrowToPicture(control, SizeOfBitmap(picture.Bitmap.Get()));
   }
 }
 
@@ -532,32 +448,6 @@ void RunUntilClosed(const Dialog& window) {
   while (window.Window() != nullptr && WaitMessage() != 0) {
     LetWindowEventsThrough();
   }
-}
-
-FARPROC NewerFunction(const wchar_t* module, const char* name) {
-  const HMODULE library = GetModuleHandleW(module);
-  return library == nullptr ? nullptr : GetProcAddress(library, name);
-}
-
-int DpiOf(HWND window) {
-  using GetDpi = UINT(WINAPI*)(HWND);
-  using Plain = void (*)();
-  static const auto getDpi =
-      reinterpret_cast<GetDpi>(reinterpret_cast<Plain>(NewerFunction(L"user32.dll", "GetDpiForWindow")));
-  const int dpi = getDpi != nullptr && window != nullptr ? static_cast<int>(getDpi(window)) : 0;
-  return dpi > 0 ? dpi : SystemDpi();
-}
-
-void PrepareWindows() {
-  static const bool prepared = [] {
-    INITCOMMONCONTROLSEX classes{};
-    classes.dwSize = sizeof(classes);
-    classes.dwICC = ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_USEREX_CLASSES | ICC_STANDARD_CLASSES;
-    InitCommonControlsEx(&classes);
-    OleInitialize(nullptr);
-    return true;
-  }();
-  static_cast<void>(prepared);
 }
 
 }  // namespace folivant::platform

@@ -69,6 +69,9 @@ class Dialog {
   /// The close box, Alt+F4 or Escape without a cancel button.
   virtual void Form_QueryClose() { Close(); }
   virtual void Form_Timer(UINT_PTR) {}
+  /// A key pressed in a modal window or one of its pages, as a virtual-key code, before its control gets it. True when
+  /// it is used up. Must not throw.
+  virtual bool Form_KeyDown(WPARAM) { return false; }
   /// The screen's resolution changed; called after the system has scaled the controls.
   virtual void Form_DpiChanged() {}
   /// Messages that the base does not know. True when handled, with the answer in `result`.
@@ -99,6 +102,7 @@ class Dialog {
   void Centre();
 
  private:
+  class KeyWatch;
   class Page;
   struct Picture;
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -126,11 +130,5 @@ class Dialog {
 void LetWindowEventsThrough();
 /// Runs events until `window` is destroyed.
 void RunUntilClosed(const Dialog& window);
-/// Calls a function of a newer Windows when it is there; nullptr before.
-FARPROC NewerFunction(const wchar_t* module, const char* name);
-/// Dots per inch of the screen that shows `window`.
-int DpiOf(HWND window);
-/// Common controls, OLE; once per process, before the first window.
-void PrepareWindows();
 
 }  // namespace folivant::platform

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/win32/Dialog.h"
+#include "platform/win32/WindowSystem.h"
 
 namespace folivant::platform {
 namespace {

@@ -60,4 +60,11 @@ struct RegistryKind {
 };
 using OwnedKey = Owned<RegistryKind>;
 
+struct BitmapKind {
+  using Raw = HBITMAP;
+  static Raw Empty() { return nullptr; }
+  static void Close(Raw handle) { DeleteObject(handle); }
+};
+using OwnedBitmap = Owned<BitmapKind>;
+
 }  // namespace folivant::platform
