@@ -378,6 +378,27 @@ std::wstring ProgramPath() {
   return std::filesystem::path(path).parent_path() / L"Folivant.exe";
 }
 
+std::wstring ProgramFolder() {
+  return std::filesystem::path(ProgramPath()).parent_path();
+}
+
+std::wstring Message(int number, const std::wstring& language) {
+  const std::wstring file = ProgramFolder() + L'\\' + language;
+  wchar_t text[300];
+  GetPrivateProfileStringW(L"Messages", std::to_wstring(number).c_str(), L"", text, 300, file.c_str());
+  return text;
+}
+
+std::vector<std::wstring> LanguageFiles() {
+  std::vector<std::wstring> names;
+  for (const auto& entry : std::filesystem::directory_iterator(ProgramFolder())) {
+    if (entry.path().extension() == L".ini") {
+      names.push_back(entry.path().filename());
+    }
+  }
+  return names;
+}
+
 std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
   wchar_t value[1024];
   DWORD bytes = sizeof value;
@@ -402,6 +423,7 @@ std::wstring SendToFolder() {
 }
 
 DesktopTest::DesktopTest() {
+  SetProcessDPIAware();  // otherwise the system would convert what it says of the program's windows
   CopyStore(kStore, kSavedStore);
   RegDeleteTreeW(HKEY_CURRENT_USER, kStore);
 }

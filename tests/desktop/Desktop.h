@@ -126,6 +126,11 @@ class Program {
 
 /// Full path of the program under test.
 std::wstring ProgramPath();
+std::wstring ProgramFolder();
+/// A text of a language file, read by the system's own means, "\n" as it stands there.
+std::wstring Message(int number, const std::wstring& language = L"english.ini");
+/// The names of all language files of the program.
+std::vector<std::wstring> LanguageFiles();
 /// The program's per-user store as the test sees it.
 std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key);
 void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value);

@@ -1,5 +1,4 @@
-// What tests of the program's own windows share: a small tree to list, the texts of a language, the main window and the
-// common dialogs.
+// What tests of the program's own windows share: a small tree to list, the main window and the common dialogs.
 #pragma once
 
 #include "desktop/Desktop.h"
@@ -19,15 +18,6 @@ class MainWindowTest : public DesktopTest {
   std::wstring Data() const { return scratch / L"Data"; }
   /// The argument that lists the tree.
   std::wstring Argument() const { return L'"' + Data() + L'"'; }
-
-  /// A text of a language file, read by the system's own means, "\n" as it stands there.
-  static std::wstring Message(int number, const std::wstring& language = L"english.ini") {
-    const std::wstring file = ProgramFolder() + L"\\" + language;
-    wchar_t text[300];
-    GetPrivateProfileStringW(L"Messages", std::to_wstring(number).c_str(), L"", text, 300, file.c_str());
-    return text;
-  }
-  static std::wstring ProgramFolder() { return ProgramPath().substr(0, ProgramPath().rfind(L'\\')); }
 
   static Window Main(const Program& program) { return program.WaitForWindow(L"Folivant"); }
   /// Presses a button that opens a window of that title, and waits for it.

@@ -5,14 +5,6 @@
 namespace folivant::desktop {
 namespace {
 
-/// A text of the language in use, read by the system's own means.
-std::wstring Message(int number) {
-  const std::wstring file = ProgramPath().substr(0, ProgramPath().rfind(L'\\')) + L"\\english.ini";
-  wchar_t text[300];
-  GetPrivateProfileStringW(L"Messages", std::to_wstring(number).c_str(), L"", text, 300, file.c_str());
-  return text;
-}
-
 /// The text of a message box with its line ends as the program wrote them.
 std::wstring WithoutReturns(std::wstring text) {
   std::erase(text, L'\r');

@@ -11,13 +11,6 @@ namespace {
 
 using tests::StandIn;
 
-std::wstring Message(int number) {
-  const std::wstring file = ProgramPath().substr(0, ProgramPath().rfind(L'\\')) + L"\\english.ini";
-  wchar_t text[300];
-  GetPrivateProfileStringW(L"Messages", std::to_wstring(number).c_str(), L"", text, 300, file.c_str());
-  return text;
-}
-
 const std::vector<std::string> kTwoRows = {
     "Report.txt\tC:\\Data\t12 KB\tText Document\t1/2/2001 3:04 PM",
     "Old stuff\tC:\\\t\tFile Folder\t2/3/2001 4:05 AM",
@@ -31,8 +24,7 @@ class FindListing : public DesktopTest {
   }
   /// The main window with style 5, the screen as destination, and a viewer that ends at once.
   std::unique_ptr<Program> Open() const {
-    const std::wstring folder = ProgramPath().substr(0, ProgramPath().rfind(L'\\'));
-    WriteStore(L"Settings", L"TextViewer", folder + L"\\FindStandIn.exe");
+    WriteStore(L"Settings", L"TextViewer", ProgramFolder() + L"\\FindStandIn.exe");
     auto program = std::make_unique<Program>(L"/f " + filter);
     const Window main = program->WaitForWindow(L"Folivant");
     main.Click(optScreen);  // a machine without a printer has the file destination selected

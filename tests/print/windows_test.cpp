@@ -1,7 +1,7 @@
 // The windows where printers show: the printer dialog, the options that ask a printer for its borders, a run that is
 // cancelled, and a system without any printer. Needs the queues "Plain", "Borders" and "Refusing" (print_test.py starts
 // them), the second suite a system without any; FOLIVANT_JOBS names the folder in which documents arrive.
-#include "desktop/Desktop.h"
+#include "desktop/FittingTexts.h"
 #include "res/Controls.h"
 
 namespace folivant::desktop {
@@ -110,6 +110,20 @@ TEST_F(Printers, OkChangesTheChoicesAndTheOptionsOkStoresThem) {
   EXPECT_EQ(Printer(L"PrinterDuplex"), L"2");
 }
 
+TEST_F(Printers, EveryLanguageFitsIntoTheDialog) {
+  const FittingTexts texts;
+  for (const std::wstring& language : LanguageFiles()) {
+    WriteStore(L"Settings", L"Language", language);
+    const Program program(L"");
+    program.WaitForWindow(L"Folivant").Press(cmdOptions);
+    options = program.WaitForWindow(Message(204, language));
+    Page(options, cmdPrinter).Press(cmdPrinter);
+    printers = program.WaitForWindow(Message(205, language));
+    EXPECT_EQ(printers.TextOf(cmdCancel), Message(42, language)) << "the language is in use";
+    texts.ExpectNothingClipped(printers, printers.Text());
+  }
+}
+
 TEST_F(Printers, CancelChangesNothing) {
   const Program program(L"");
   OpenPrinters(program);
@@ -149,23 +163,47 @@ TEST_F(Printers, AClickOnAPictureChoosesItsMode) {
   EXPECT_FALSE(printers.IsChecked(optDuplex));
 }
 
-TEST_F(Printers, MarginsBelowThePrintersBordersAreAskedAbout) {
-  // "Borders" cannot print on 18 points on the left (6.35 mm), 36 at the top (12.7), 30 on the right (10.58) and 24 at
-  // the bottom (8.47).
-  const Program program(L"");
-  OpenOptions(program);
-  const Window page = Page(options, txtLeft);
-  page.SetText(txtLeft, L"6");
-  page.SetText(txtTop, L"5");
-  options.Press(cmdOK);
-  const Window question = program.WaitForBox(options);
-  EXPECT_TRUE(question.HasButton(IDYES) && question.HasButton(IDNO) && question.HasButton(IDCANCEL));
-  question.Answer(IDYES);
+// "Borders" cannot print on 18 points on the left (6.35 mm), 36 at the top (12.7), 30 on the right (10.58) and 24 at
+// the bottom (8.47).
+class SmallMargins : public Printers {
+ protected:
+  /// Asks for margins that are too small on the left and at the top, and returns the question.
+  Window Ask() {
+    OpenOptions(program);
+    const Window page = Page(options, txtLeft);
+    page.SetText(txtLeft, L"6");
+    page.SetText(txtTop, L"5");
+    options.Press(cmdOK);
+    const Window question = program.WaitForBox(options);
+    EXPECT_TRUE(question.HasButton(IDYES) && question.HasButton(IDNO) && question.HasButton(IDCANCEL));
+    return question;
+  }
+
+  const Program program{L""};
+};
+
+TEST_F(SmallMargins, YesRaisesThem) {
+  Ask().Answer(IDYES);
   ASSERT_TRUE(options.WaitUntilGone());
   EXPECT_EQ(Printer(L"MarginLeft"), L"7");
   EXPECT_EQ(Printer(L"MarginTop"), L"13");
   EXPECT_EQ(Printer(L"MarginRight"), L"20");
   EXPECT_EQ(Printer(L"MarginBottom"), L"20");
+}
+
+TEST_F(SmallMargins, NoKeepsThemAsEntered) {
+  Ask().Answer(IDNO);
+  ASSERT_TRUE(options.WaitUntilGone());
+  EXPECT_EQ(Printer(L"MarginLeft"), L"6");
+  EXPECT_EQ(Printer(L"MarginTop"), L"5");
+}
+
+TEST_F(SmallMargins, CancelGoesBackToTheOptions) {
+  Ask().Answer(IDCANCEL);
+  EXPECT_TRUE(options.IsShown());
+  EXPECT_EQ(Page(options, txtLeft).TextOf(txtLeft), L"6") << "what was entered is still there";
+  EXPECT_NE(Printer(L"MarginLeft"), L"6") << "nothing is stored";
+  options.Answer(cmdCancel);
 }
 
 TEST_F(Printers, ARunFromTheWindowPrintsAndEndsTheProgram) {

@@ -1,0 +1,79 @@
+// Whether every caption of a window fits into its control, at whatever resolution the system has.
+#pragma once
+
+#include <cstdlib>
+#include <string>
+
+#include "desktop/Desktop.h"
+
+namespace folivant::desktop {
+
+class FittingTexts {
+ public:
+  FittingTexts() {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    screen_ = GetDC(nullptr);
+    dpi_ = GetDeviceCaps(screen_, LOGPIXELSY);
+    // The font of all windows of the program. A dialog's font has a whole number of points.
+    LOGFONTW& font = metrics.lfMessageFont;
+    font.lfHeight = -MulDiv(MulDiv(std::abs(font.lfHeight), 72, dpi_), dpi_, 72);
+    font_ = CreateFontIndirectW(&font);
+    SelectObject(screen_, font_);
+  }
+  ~FittingTexts() {
+    ReleaseDC(nullptr, screen_);
+    DeleteObject(font_);
+  }
+  FittingTexts(const FittingTexts&) = delete;
+  FittingTexts& operator=(const FittingTexts&) = delete;
+
+  /// Dots per inch of the system.
+  int Dpi() const { return dpi_; }
+
+  /// Captions of buttons and labels, in pages too; labels that shorten or wrap their text are passed over, and so are
+  /// bare option buttons.
+  void ExpectNothingClipped(Window window, const std::wstring& where) const {
+    for (HWND each = GetWindow(window.Handle(), GW_CHILD); each != nullptr; each = GetWindow(each, GW_HWNDNEXT)) {
+      const Window control(each);
+      if (control.ClassName() == L"#32770") {
+        ExpectNothingClipped(control, where);
+      } else if (const LONG needed = NeededWidth(control); needed > 0) {
+        const RECT box = control.Rectangle();
+        EXPECT_LE(needed, box.right - box.left)
+            << testing::PrintToString(where) << " " << testing::PrintToString(control.Text());
+      }
+    }
+  }
+
+ private:
+  LONG Scaled(LONG length) const { return MulDiv(length, dpi_, 96); }
+
+  /// 0 for what shows no caption on one line.
+  LONG NeededWidth(Window control) const {
+    const std::wstring kind = control.ClassName();
+    const LONG_PTR style = GetWindowLongPtrW(control.Handle(), GWL_STYLE);
+    const RECT box = control.Rectangle();
+    const bool label = kind == L"Static" && (style & SS_TYPEMASK) <= SS_RIGHT && (style & SS_ELLIPSISMASK) == 0 &&
+                       box.bottom - box.top < Scaled(25);
+    const bool button = kind == L"Button" && box.right - box.left > Scaled(22);
+    if (!label && !button) {
+      return 0;
+    }
+    const bool push = (style & BS_TYPEMASK) <= BS_DEFPUSHBUTTON;
+    return WidthOf(control.Text()) + (label ? 0 : push ? Scaled(8) : Scaled(16));
+  }
+
+  LONG WidthOf(const std::wstring& text) const {
+    RECT box{};
+    DrawTextW(screen_, text.c_str(), -1, &box, DT_CALCRECT | DT_SINGLELINE);
+    return box.right;
+  }
+
+  HFONT font_;
+  HDC screen_;
+  int dpi_ = 96;
+};
+
+}  // namespace folivant::desktop
