@@ -223,6 +223,17 @@ TEST_F(PlainText, FollowsTheListingOrder) {
   EXPECT_EQ(Lines(), (std::vector<std::string>{"C:\\third", "C:\\first", "C:\\second"}));
 }
 
+TEST_F(PlainText, KeepsTheLineOfAFreeSpaceThatNobodyKnows) {
+  fakes::Fake().FreeSpace.clear();
+  Style(ListingStyle::NoSubdirectories);
+  plain_.BeginListing();
+  plain_.EndListing();
+  EXPECT_EQ(Written(), "C:\\Data\r\n\r\n\r\n\r\n");
+  csv_.BeginListing();
+  csv_.EndListing();
+  EXPECT_EQ(Written(), "C:\\Data;\r\n\r\n\r\n;\r\n");
+}
+
 TEST_F(PlainText, WritesNoFooter) {
   General.Footer = L"the footer";
   Style(ListingStyle::IncludeSubdirectories);
