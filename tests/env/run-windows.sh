@@ -1,14 +1,29 @@
-#!/bin/sh
-# Runs a Windows program under Wine. About one start in 1,200 dies with status 1 before the program runs, because Wine
-# could not map the page that all programs share with its server; that start, and nothing else, is tried again. Two of the
-# three messages that tell of it come through an error channel, which has to be let through.
+#!/bin/bash
+# Runs a Windows program under Wine. About one start in some thousand dies before the program runs: Wine could not map the
+# page that all programs share with its server (two of the three messages that tell of it come through an error channel,
+# which has to be let through), or it ended without a word. Such a start, and nothing else, is tried again, and says so. A
+# test program that has run has at least printed its first line.
 errors=$(mktemp)
-trap 'rm -f "$errors"' EXIT
-for try in 1 2 3; do
-  WINEDEBUG=${WINEDEBUG:+$WINEDEBUG,}err+virtual wine "$@" 2>"$errors"
-  status=$?
+output=$(mktemp)
+trap 'rm -f "$errors" "$output"' EXIT
+
+died_before_main() {
   grep -q -e 'failed to map the shared user data' -e 'failed to open the USD section' \
-    -e 'failed to remap the process USD' "$errors" || break
+    -e 'failed to remap the process USD' "$errors" && return
+  [[ $1 == *_tests.exe ]] && [ $status -ne 0 ] && [ ! -s "$errors" ] && [ ! -s "$output" ]
+}
+
+export WINEDEBUG=${WINEDEBUG:+$WINEDEBUG,}err+virtual
+for try in 1 2 3; do
+  if [[ $1 == *_tests.exe ]]; then
+    wine "$@" 2>"$errors" | tee "$output"
+    status=${PIPESTATUS[0]}
+  else
+    wine "$@" 2>"$errors"
+    status=$?
+  fi
+  cat "$errors" >&2
+  died_before_main "$1" || break
+  echo "$1 ended with status $status before it ran." >&2
 done
-cat "$errors" >&2
 exit $status

@@ -246,10 +246,17 @@ class Installation(unittest.TestCase):
             return bool(found)
 
         wait_until(shown, 'the main window')
-        time.sleep(0.5)
-        subprocess.run(['xdotool', 'windowactivate', '--sync', window[0], 'key', '--clearmodifiers', 'alt+F4'],
-                       stderr=subprocess.DEVNULL)
-        self.assertIsNotNone(started.wait(PATIENCE))
+
+        def closed():
+            # Keys go to the window that has the focus, which on a busy machine may not be this one yet.
+            subprocess.run(['timeout', '5', 'xdotool', 'windowactivate', '--sync', window[0], 'key', '--clearmodifiers',
+                            'alt+F4'], stderr=subprocess.DEVNULL)
+            try:
+                return started.wait(3) is not None
+            except subprocess.TimeoutExpired:
+                return False
+
+        wait_until(closed, 'the end of the program')
         wait_until(lambda: value(r'HKCU\Software\Folivant 3.0\Settings', 'TextWidth') is not None, 'the settings')
         time.sleep(1)  # the rest of them
         return value(r'HKCU\Software\Folivant 3.0\Settings', 'Path')
