@@ -10,6 +10,7 @@ namespace {
 
 constexpr DWORD kPollEvery = 15;
 constexpr DWORD kStandsStill = 300;  // milliseconds without a change before a window counts as at rest
+constexpr DWORD kStaysReady = 1000;  // and without being closed or disabled before it counts as staying open
 const wchar_t* const kStore = L"Software\\Folivant 3.0";
 const wchar_t* const kSavedStore = L"Software\\Folivant 3.0 (set aside by a test)";
 
@@ -186,6 +187,16 @@ void Window::Choose(int id, int index) const {
 
 bool Window::WaitUntilGone(DWORD milliseconds) const {
   return WaitUntil([&] { return IsWindow(handle_) == 0; }, milliseconds);
+}
+
+bool Window::StaysReady() const {
+  ULONGLONG busy = GetTickCount64();
+  return WaitUntil([&] {
+    if (!IsShown() || !IsEnabled()) {
+      busy = GetTickCount64();
+    }
+    return GetTickCount64() - busy >= kStaysReady;
+  });
 }
 
 void Window::Activate() const {

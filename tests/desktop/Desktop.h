@@ -72,6 +72,8 @@ class Window {
   void Close() const { PostMessageW(handle_, WM_CLOSE, 0, 0); }
   /// Whether the window is gone within the time.
   bool WaitUntilGone(DWORD milliseconds = kPatience) const;
+  /// Whether the window comes to be open and ready for input, and stays so for a while.
+  bool StaysReady() const;
   /// Brings the window to the front and gives it the focus.
   void Activate() const;
   /// Brings the top-level window to the front and the mouse over this very control, `inside` it from its upper left

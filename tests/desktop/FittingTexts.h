@@ -29,8 +29,12 @@ class FittingTexts {
   FittingTexts(const FittingTexts&) = delete;
   FittingTexts& operator=(const FittingTexts&) = delete;
 
-  /// Dots per inch of the system.
-  int Dpi() const { return dpi_; }
+  /// Whether the system has the dots per inch that the caller of the tests names, 96 where it names none.
+  void ExpectResolutionAskedFor() const {
+    wchar_t asked[8] = L"96";
+    GetEnvironmentVariableW(L"FOLIVANT_DPI", asked, 8);
+    EXPECT_EQ(dpi_, std::stoi(asked));
+  }
 
   /// Captions of buttons and labels, in pages too; labels that shorten or wrap their text are passed over, and so are
   /// bare option buttons.

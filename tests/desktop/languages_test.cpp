@@ -52,10 +52,8 @@ TEST_P(Languages, FitIntoTheWindowsOfARun) {
 
 // At another resolution than the ordinary one, which the caller names.
 TEST(Resolution, IsTheOneAskedFor) {
-  wchar_t asked[8] = L"96";
-  GetEnvironmentVariableW(L"FOLIVANT_DPI", asked, 8);
   SetProcessDPIAware();
-  EXPECT_EQ(FittingTexts().Dpi(), std::stoi(asked));
+  FittingTexts().ExpectResolutionAskedFor();
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Languages, testing::ValuesIn(LanguageFiles()),

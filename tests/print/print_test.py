@@ -25,7 +25,9 @@ import unittest
 from print_server import PrintServer
 
 EXE, ANSWER, WINDOWS = (pathlib.Path(name).resolve() for name in sys.argv[1:4])
-RUN_WINDOWS = pathlib.Path(__file__).resolve().parent.parent / "env" / "run-windows.sh"
+TESTS = pathlib.Path(__file__).resolve().parent.parent
+RUN_WINDOWS = TESTS / "env" / "run-windows.sh"
+SCALED = TESTS / "desktop" / "scaled.sh"
 STORE = r"HKCU\Software\Folivant 3.0\Settings"
 WRITTEN = 981183900  # 2001-02-03 07:05 UTC
 
@@ -410,6 +412,18 @@ class Jobs(PrintTest):
         self.assertGreater(first.bottom - first.top, 4 * (first.right - first.left))
         self.near(842 - first.bottom, LEFT, "lines begin at the left margin, which is now below")
 
+    def test_a_filter_file_whose_destination_is_the_printer_prints_without_an_output_type(self):
+        self.file("a.txt")
+        self.store(PrinterName="Plain")
+        before = server.documents("Plain")
+        command = [word for word in self.command("Format=0", "OutputTo=0") if word not in ("/t", "p")]
+        done = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                              timeout=120, check=False)
+        self.assertEqual(done.returncode, 0)
+        new = [path for path in server.documents("Plain") if path not in before]
+        self.assertEqual(len(new), 1)
+        self.assertIn("a.txt", " ".join(Document(new[0]).lines()))
+
     def test_both_queues_get_their_own_jobs(self):
         self.file("a.txt")
         before = len(server.documents("Plain"))
@@ -480,9 +494,9 @@ class Failures(PrintTest):
 
 
 class Windows(PrintTest):
-    def check(self, suite, **environment):
+    def check(self, tests, runner=(RUN_WINDOWS,), **environment):
         environment = server.environment | {"FOLIVANT_JOBS": windows_path(server.root / "out")} | environment
-        done = subprocess.run([RUN_WINDOWS, WINDOWS, f"--gtest_filter={suite}.*"], env=environment,
+        done = subprocess.run([*runner, WINDOWS, f"--gtest_filter={tests}"], env=environment,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=600,
                               check=False)
         output = done.stdout.decode("utf-8", "replace")
@@ -490,10 +504,16 @@ class Windows(PrintTest):
         self.assertNotIn("Running 0 tests", output)
 
     def test_windows_where_printers_show(self):
-        self.check("Printers")
+        self.check("Printers.*")
+
+    def test_the_printer_dialog_on_a_screen_of_200_percent(self):
+        self.check("Printers.EveryLanguageFitsIntoTheDialog", (SCALED, "192"))
+
+    def test_margins_that_a_printer_cannot_do(self):
+        self.check("SmallMargins.*")
 
     def test_windows_of_a_system_without_printers(self):
-        self.check("NoPrinters", CUPS_SERVER="127.0.0.1:1")
+        self.check("NoPrinters.*", CUPS_SERVER="127.0.0.1:1")
 
 
 if __name__ == "__main__":

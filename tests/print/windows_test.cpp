@@ -112,6 +112,7 @@ TEST_F(Printers, OkChangesTheChoicesAndTheOptionsOkStoresThem) {
 
 TEST_F(Printers, EveryLanguageFitsIntoTheDialog) {
   const FittingTexts texts;
+  texts.ExpectResolutionAskedFor();
   for (const std::wstring& language : LanguageFiles()) {
     WriteStore(L"Settings", L"Language", language);
     const Program program(L"");
@@ -175,6 +176,9 @@ class SmallMargins : public Printers {
     page.SetText(txtTop, L"5");
     options.Press(cmdOK);
     const Window question = program.WaitForBox(options);
+    std::wstring text = question.BoxText();
+    std::erase(text, L'\r');
+    EXPECT_EQ(text, Message(102) + L"\n" + Message(101));
     EXPECT_TRUE(question.HasButton(IDYES) && question.HasButton(IDNO) && question.HasButton(IDCANCEL));
     return question;
   }
@@ -213,6 +217,19 @@ TEST_F(Printers, ARunFromTheWindowPrintsAndEndsTheProgram) {
   main.Press(cmdOK);
   EXPECT_EQ(program.WaitForExit(), 0u);
   EXPECT_TRUE(WaitUntil([before] { return Documents(L"Borders") == before + 1; }));
+  EXPECT_EQ(Printer(L"TextWidth"), L"80") << "closing saved the settings";
+}
+
+TEST_F(Printers, ARunLeavesTheWindowOpenWhereTheSettingSaysSo) {
+  WriteStore(L"Settings", L"ExitWhenDone", L"False");
+  const int before = Documents(L"Borders");
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Press(cmdOK);
+  EXPECT_TRUE(WaitUntil([before] { return Documents(L"Borders") == before + 1; }));
+  EXPECT_TRUE(main.StaysReady());
+  main.Press(cmdCancel);
+  EXPECT_EQ(program.WaitForExit(), 0u);
 }
 
 TEST_F(Printers, ACancelledRunPrintsNothing) {
