@@ -1,8 +1,10 @@
 #include "desktop/Desktop.h"
 
+#include <commctrl.h>
 #include <shlobj.h>
 
 #include <algorithm>
+#include <cwchar>
 #include <filesystem>
 
 namespace folivant::desktop {
@@ -183,6 +185,69 @@ void Window::Choose(int id, int index) const {
   for (const int notification : {CBN_SELENDOK, CBN_SELCHANGE}) {  // common dialogs listen to the first alone
     SendMessageW(handle_, WM_COMMAND, MAKEWPARAM(id, notification), reinterpret_cast<LPARAM>(Control(id).Handle()));
   }
+}
+
+std::vector<std::wstring> Window::ItemsOf(int id) const {
+  const HWND list = Control(id).Handle();
+  std::vector<std::wstring> items(static_cast<std::size_t>(SendMessageW(list, CB_GETCOUNT, 0, 0)));
+  for (std::size_t row = 0; row < items.size(); ++row) {
+    items[row].resize(static_cast<std::size_t>(SendMessageW(list, CB_GETLBTEXTLEN, row, 0)) + 1);
+    const LRESULT length = SendMessageW(list, CB_GETLBTEXT, row, reinterpret_cast<LPARAM>(items[row].data()));
+    items[row].resize(static_cast<std::size_t>(length));
+  }
+  return items;
+}
+
+namespace {
+
+/// A piece of another process's memory, for messages that the system does not carry over.
+class RemoteDay {
+ public:
+  explicit RemoteDay(HWND picker) : picker_(picker) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(picker, &owner);
+    process_ =
+        platform::OwnedKernel(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, owner));
+    there_ = VirtualAllocEx(process_.Get(), nullptr, sizeof(SYSTEMTIME), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    EXPECT_NE(there_, nullptr);
+  }
+  ~RemoteDay() { VirtualFreeEx(process_.Get(), there_, 0, MEM_RELEASE); }
+  RemoteDay(const RemoteDay&) = delete;
+  RemoteDay& operator=(const RemoteDay&) = delete;
+
+  SYSTEMTIME Read() const {
+    SYSTEMTIME day{};
+    SendMessageW(picker_, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(there_));
+    EXPECT_NE(ReadProcessMemory(process_.Get(), there_, &day, sizeof day, nullptr), 0);
+    return day;
+  }
+  void Write(const SYSTEMTIME& day) const {
+    EXPECT_NE(WriteProcessMemory(process_.Get(), there_, &day, sizeof day, nullptr), 0);
+    SendMessageW(picker_, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(there_));
+  }
+
+ private:
+  HWND picker_;
+  platform::OwnedKernel process_;
+  void* there_ = nullptr;
+};
+
+}  // namespace
+
+std::wstring Window::DayOf(int id) const {
+  const SYSTEMTIME day = RemoteDay(Control(id).Handle()).Read();
+  wchar_t text[20];
+  swprintf(text, 20, L"%04u/%02u/%02u", day.wYear, day.wMonth, day.wDay);
+  return text;
+}
+
+void Window::SetDay(int id, WORD year, WORD month, WORD day) const {
+  const RemoteDay picker(Control(id).Handle());
+  SYSTEMTIME time = picker.Read();
+  time.wYear = year;
+  time.wMonth = month;
+  time.wDay = day;
+  picker.Write(time);
 }
 
 bool Window::WaitUntilGone(DWORD milliseconds) const {

@@ -69,6 +69,11 @@ class Window {
   void Click(int id) const;
   /// Chooses an item of a combo box, with the notification that a user's choice sends.
   void Choose(int id, int index) const;
+  /// The items of a combo box, from above.
+  std::vector<std::wstring> ItemsOf(int id) const;
+  /// The day of a date picker as "yyyy/mm/dd".
+  std::wstring DayOf(int id) const;
+  void SetDay(int id, WORD year, WORD month, WORD day) const;
   void Close() const { PostMessageW(handle_, WM_CLOSE, 0, 0); }
   /// Whether the window is gone within the time.
   bool WaitUntilGone(DWORD milliseconds = kPatience) const;

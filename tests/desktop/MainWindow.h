@@ -6,6 +6,9 @@
 
 namespace folivant::desktop {
 
+// Controls of the system's save and open dialogs.
+inline constexpr int kFileTypes = 1136, kFileNameCombo = 1148, kFileNameEdit = 1001;
+
 class MainWindowTest : public DesktopTest {
  protected:
   MainWindowTest() {
@@ -18,6 +21,9 @@ class MainWindowTest : public DesktopTest {
   std::wstring Data() const { return scratch / L"Data"; }
   /// The argument that lists the tree.
   std::wstring Argument() const { return L'"' + Data() + L'"'; }
+
+  /// Some folder of this machine that takes a while.
+  static std::wstring LargeTree() { return Exists(L"Z:\\usr\\lib") ? L"Z:\\usr" : L"C:\\Windows"; }
 
   static Window Main(const Program& program) { return program.WaitForWindow(L"Folivant"); }
   /// Presses a button that opens a window of that title, and waits for it.
@@ -33,13 +39,12 @@ class MainWindowTest : public DesktopTest {
 
   /// Types a name into a save or open dialog, chooses a type (from 0) and confirms.
   static void Confirm(Window dialog, const std::wstring& name, int type = -1) {
-    constexpr int kTypes = 1136, kComboName = 1148, kEditName = 1001;
-    ASSERT_TRUE(WaitUntil([&] { return dialog.Control(kComboName) || dialog.Control(kEditName); }));
+    ASSERT_TRUE(WaitUntil([&] { return dialog.Control(kFileNameCombo) || dialog.Control(kFileNameEdit); }));
     if (type >= 0) {
-      dialog.Choose(kTypes, type);
+      dialog.Choose(kFileTypes, type);
     }
     if (!name.empty()) {
-      dialog.SetText(dialog.Control(kComboName) ? kComboName : kEditName, name);
+      dialog.SetText(dialog.Control(kFileNameCombo) ? kFileNameCombo : kFileNameEdit, name);
     }
     PostMessageW(dialog.Handle(), WM_COMMAND, IDOK, 0);
   }

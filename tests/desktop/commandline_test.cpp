@@ -1,6 +1,6 @@
 // The command line of the real program: switches, failures in real message boxes, exit statuses, and what a run with /g
 // leaves alone.
-#include "desktop/Desktop.h"
+#include "desktop/MainWindow.h"
 
 namespace folivant::desktop {
 namespace {
@@ -47,6 +47,13 @@ class CommandLine : public DesktopTest {
     EXPECT_EQ(program.Windows().size(), 1u);
     box.Answer(IDOK);
     EXPECT_EQ(program.WaitForExit(), 1u);
+  }
+
+  static constexpr int kXml = 4;
+  /// The type that a save dialog opens with, from 0.
+  static void ExpectType(Window dialog, int type) {
+    ASSERT_TRUE(WaitUntil([&] { return static_cast<bool>(dialog.Control(kFileTypes)); }));
+    EXPECT_EQ(SendMessageW(dialog.Control(kFileTypes).Handle(), CB_GETCURSEL, 0, 0), type);
   }
 
   Scratch scratch;
@@ -160,7 +167,7 @@ TEST_F(CommandLine, AnOutputFileThatCannotBeCreatedIsNamedWithTheSystemsReason) 
 TEST_F(CommandLine, WithoutAnOutputFileTheSaveDialogAsks) {
   const Program program(Line(L"/t x /g"));
   const Window dialog = program.WaitForWindow(L"");
-  EXPECT_TRUE(dialog.HasButton(IDCANCEL));
+  ExpectType(dialog, kXml);
   dialog.Press(IDCANCEL);
   EXPECT_EQ(program.WaitForExit(), 1u) << "nothing was listed";
   EXPECT_FALSE(Exists(Output()));
@@ -171,8 +178,28 @@ TEST_F(CommandLine, AStoredScreenDestinationAsksForATextFile) {
   const std::wstring screen = scratch.FilterFile(L"screen.fvf", {"OutputTo=2", "Format=4"});
   const Program program(L"/f " + screen + L" /d " + Data() + L" /g");
   const Window dialog = program.WaitForWindow(L"");
+  ExpectType(dialog, 0);
   dialog.Press(IDCANCEL);
   EXPECT_EQ(program.WaitForExit(), 1u);
+}
+
+TEST_F(CommandLine, WithoutGoTheWindowOpensWithTypeAndNameInItsSaveDialog) {
+  const std::pair<const wchar_t*, const wchar_t*> rows[] = {{L"/t x /o list", L"list.txt"},
+                                                            {L"/o list.xml /t x", L"list.xml"}};
+  for (const auto& [switches, name] : rows) {
+    const Program program(Line(switches), scratch.Path());
+    const Window main = program.WaitForWindow(L"Folivant");
+    EXPECT_TRUE(main.IsChecked(optFile));
+    EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data"));
+    main.Press(cmdOK);
+    const Window dialog = program.WaitForBox(main);
+    ExpectType(dialog, kXml);
+    EXPECT_EQ(dialog.TextOf(dialog.Control(kFileNameCombo) ? kFileNameCombo : kFileNameEdit), name);
+    dialog.Press(IDCANCEL);
+    EXPECT_TRUE(dialog.WaitUntilGone());
+    main.Press(cmdCancel);
+    EXPECT_EQ(program.WaitForExit(), 0u);
+  }
 }
 
 TEST_F(CommandLine, TheFilterFileGivesDirectoryStyleAndColumns) {

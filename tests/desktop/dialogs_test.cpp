@@ -31,6 +31,17 @@ class Dialogs : public MainWindowTest {
       return focus.hwndFocus == dialog.Control(field).Handle();
     })) << "the focus is on the field";
   }
+  /// Clicks into the field: a click places the caret, while Tab selects the text of any field of any dialog.
+  static void ExpectSelectedOnFocus(Window dialog, int field) {
+    const HWND elsewhere = dialog.Control(cmdOK).Handle();
+    dialog.SetText(field, L"12345");
+    SendMessageW(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(elsewhere), TRUE);
+    const Window box = dialog.Control(field);
+    SendMessageW(box.Handle(), EM_SETSEL, 0, 0);
+    box.ClickInside();
+    EXPECT_TRUE(WaitUntil([box] { return SendMessageW(box.Handle(), EM_GETSEL, 0, 0) == MAKELONG(0, 5); }, 3'000))
+        << field;
+  }
   static void Check(Window dialog, int box, bool wanted) {
     if (dialog.IsChecked(box) != wanted) {
       dialog.Click(box);
@@ -179,7 +190,6 @@ TEST_F(Dialogs, TheOptionsStoreEveryPage) {
   EXPECT_TRUE(options.IsChecked(optPort));
   EXPECT_TRUE(options.IsChecked(chkFontHF));
   EXPECT_FALSE(options.Control(cmdFontHF).IsEnabled()) << "follows the 80 % rule";
-  EXPECT_TRUE(options.TextOf(lblLegend + 6).starts_with(L"%n  ")) << "the legend";
 
   options.SetText(txtViewer, L"viewer.exe");
   options.SetText(txtWidth, L"132 wide");
@@ -187,17 +197,25 @@ TEST_F(Dialogs, TheOptionsStoreEveryPage) {
   options.Choose(cmbDate, 3);
   Check(options, chkExit, false);
   Check(options, chkEmptyDirs, true);
+  Check(options, chkFF, false);
+  options.Click(optInches);
   options.SetText(txtLeft, L"25.5");
+  options.SetText(txtTop, L"0.5");
+  options.SetText(txtRight, L"1.25");
+  options.SetText(txtBottom, L"3");
   options.Click(optLand);
   options.SetText(txtCopies, L"2");
   options.Click(chkFontHF);
   EXPECT_TRUE(options.Control(cmdFontHF).IsEnabled());
   options.SetText(txtHeader, L"Head %n");
+  options.SetText(txtFooter, L"Foot %d");
   Dismiss(options, cmdOK);
   const std::pair<const wchar_t*, const wchar_t*> stored[] = {
       {L"TextViewer", L"viewer.exe"}, {L"TextWidth", L"132"},  {L"TextHeight", L"0"},    {L"DateFormat", L"3"},
       {L"ExitWhenDone", L"False"},    {L"EmptyDirs", L"True"}, {L"MarginLeft", L"25.5"}, {L"Port", L"False"},
-      {L"PrinterCopies", L"2"},       {L"Font80HF", L"False"}, {L"Header", L"Head %n"}};
+      {L"PrinterCopies", L"2"},       {L"Font80HF", L"False"}, {L"Header", L"Head %n"},  {L"Footer", L"Foot %d"},
+      {L"FilesFirst", L"False"},      {L"Inches", L"True"},    {L"MarginTop", L"0.5"},   {L"MarginRight", L"1.25"},
+      {L"MarginBottom", L"3"}};
   for (const auto& [key, value] : stored) {
     EXPECT_EQ(ReadStore(L"Settings", key), value) << testing::PrintToString(std::wstring(key));
   }
@@ -253,18 +271,43 @@ TEST_F(Dialogs, TheOptionsRememberTheirPageHoweverTheyAreClosed) {
   EXPECT_EQ(ReadStore(L"Settings", L"LastTab"), L"2");
 }
 
-TEST_F(Dialogs, AFieldIsSelectedWhenItGetsTheFocus) {
-  const Window columns = [this] {
-    const Window format = Show(cmdFormat, 201);
-    return Open(program, format, Command1, 202);
-  }();
-  const Window level = columns.Control(txtLevel);
-  columns.SetText(txtLevel, L"12345");
-  SendMessageW(columns.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(columns.Control(chkName).Handle()), TRUE);
-  SendMessageW(columns.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(level.Handle()), TRUE);
-  EXPECT_TRUE(WaitUntil([&] { return SendMessageW(level.Handle(), EM_GETSEL, 0, 0) == MAKELONG(0, 5); }, 3'000));
+TEST_F(Dialogs, TheLegendNamesEveryPlaceholder) {
+  const Window options = Show(cmdOptions, 204);
+  const std::pair<const wchar_t*, int> rows[] = {{L"%p  ", 91}, {L"%l   ", 139}, {L"%f   ", 92}, {L"%g  ", 93},
+                                                 {L"%d  ", 94}, {L"%t   ", 95},  {L"%n  ", 96}};
+  for (int label = lblLegend; const auto& [code, message] : rows) {
+    EXPECT_EQ(options.TextOf(label++), code + Message(message));
+  }
+  Dismiss(options, cmdCancel);
+}
+
+TEST_F(Dialogs, AFieldOfTheColumnsIsSelectedWhenItGetsTheFocus) {
+  const Window format = Show(cmdFormat, 201);
+  const Window columns = Open(program, format, Command1, 202);
+  ExpectSelectedOnFocus(columns, txtLevel);
   Dismiss(columns, cmdCancel);
-  Dismiss(program.WaitForWindow(Message(201), main), cmdCancel);
+  Dismiss(format, cmdCancel);
+}
+
+TEST_F(Dialogs, TheFieldsOfTheFilterAreSelectedWhenTheyGetTheFocus) {
+  const Window filter = Show(cmdFilter, 200);
+  Check(filter, chkSize, true);
+  for (const int field : {txtName, txtSize}) {
+    ExpectSelectedOnFocus(filter, field);
+  }
+  Dismiss(filter, cmdCancel);
+}
+
+TEST_F(Dialogs, TheFieldsOfTheOptionsAreSelectedWhenTheyGetTheFocus) {
+  const Window options = Show(cmdOptions, 204);
+  const std::pair<WPARAM, int> fields[] = {{0, txtViewer}, {0, txtWidth}, {0, txtHeight}, {1, txtLeft},
+                                           {1, txtTop},    {1, txtRight}, {1, txtBottom}, {1, txtCopies},
+                                           {3, txtHeader}, {3, txtFooter}};
+  for (const auto& [page, field] : fields) {
+    SendMessageW(options.Control(TabStrip).Handle(), TCM_SETCURFOCUS, page, 0);
+    ExpectSelectedOnFocus(options, field);
+  }
+  Dismiss(options, cmdCancel);
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 // Listings of open Find windows by the real program: the choice among them, every file kind, and windows that
 // misbehave. FindStandIn plays the shell's Find window.
+#include "desktop/Desktop.h"
+
+#include <commctrl.h>
+
 #include <memory>
 
-#include "desktop/Desktop.h"
 #include "find/StandIn.h"
 #include "res/Controls.h"
 
@@ -214,7 +217,9 @@ TEST_F(FindListing, WithoutInnerWindowsTheWaitGoesOnUntilTheRunIsCancelled) {
   const StandIn window(L"Find: odd", kTwoRows, L"without-list");
   const auto program = Open();
   const Window progress = Progress(*program);
-  Sleep(1500);
+  const auto bar = [&] { return SendMessageW(progress.Control(ProgressBar).Handle(), PBM_GETPOS, 0, 0); };
+  EXPECT_EQ(bar(), 0);
+  EXPECT_TRUE(WaitUntil([&] { return bar() >= 2; }, 4'000)) << "creeps while nothing is reported";
   ASSERT_TRUE(progress.IsShown()) << "no error, no end";
   progress.Press(cmdCancel);
   program->WaitForBox(progress).Answer(IDYES);

@@ -35,7 +35,8 @@ TEST_F(MainWindow, AFileRunAppliesExtensionRuleAndOverwriteQuestion) {
     EXPECT_EQ(program.WaitForExit(), 0u) << "ends after a file run, as \"ExitWhenDone\" says";
   }
   EXPECT_NE(ReadBytes(file).find("A.txt;"), std::string::npos) << ReadBytes(file);
-  EXPECT_EQ(ReadStore(L"Settings", L"OutputTo"), L"1") << "closing saved the settings";
+  EXPECT_EQ(ReadStore(L"Settings", L"TextWidth"), L"80") << "closing saved the settings";
+  EXPECT_TRUE(ReadStore(L"Settings", L"Path").value_or(L"").ends_with(L"\\Data"));
 
   scratch.File(L"list.txt", "old");
   const Program program(Argument());
@@ -206,31 +207,134 @@ TEST_F(MainWindow, ComesBackWhereItStood) {
   Close(program, main);
 }
 
+const std::pair<int, bool> kColumns[] = {{chkName, true},  {chkDOS, true},      {chkSize, false},
+                                         {chkTime, false}, {chkAttr, true},     {chkTFiles, false},
+                                         {chkTSize, true}, {chkTTFiles, false}, {chkTTSize, true}};
+const std::pair<int, const wchar_t*> kOptionTexts[] = {
+    {txtWidth, L"132"},   {txtHeight, L"40"}, {txtLeft, L"1.5"},    {txtTop, L"0.5"},     {txtRight, L"0.75"},
+    {txtBottom, L"1.25"}, {txtCopies, L"3"},  {txtHeader, L"Head"}, {txtFooter, L"Foot"}, {txtViewer, L"viewer.exe"}};
+
+void SetTo(Window dialog, int box, bool on) {
+  if (dialog.IsChecked(box) != on) {
+    dialog.Click(box);
+  }
+}
+
+void ChangeFilter(Window filter) {
+  filter.SetText(txtName, L"*.doc");
+  filter.Click(chkSize);
+  filter.SetText(txtSize, L"12");
+  filter.Choose(cmbSize, 1);
+  filter.Click(chkDate);
+  filter.SetDay(DTPickMin, 1999, 9, 25);
+  filter.SetDay(DTPickMax, 2001, 2, 3);
+  filter.Click(chkAttr);
+  for (const int button : {chkY, chkN + 1, chkX + 2, chkY + 3, chkN + 4, optSize, optZA}) {
+    filter.Click(button);
+  }
+}
+
+void ExpectFilterIsBack(Window filter) {
+  EXPECT_EQ(filter.TextOf(txtName), L"*.doc");
+  EXPECT_EQ(filter.TextOf(txtSize), L"12");
+  EXPECT_EQ(filter.TextOf(cmbSize), Message(215));
+  EXPECT_EQ(filter.DayOf(DTPickMin), L"1999/09/25");
+  EXPECT_EQ(filter.DayOf(DTPickMax), L"2001/02/03");
+  for (const int button :
+       {chkName, chkSize, chkDate, chkAttr, chkY, chkN + 1, chkX + 2, chkY + 3, chkN + 4, optSize, optZA}) {
+    EXPECT_TRUE(filter.IsChecked(button)) << button;
+  }
+}
+
+void ChangeOptions(Window options) {
+  options.Click(optInches);
+  for (const auto& [field, text] : kOptionTexts) {
+    options.SetText(field, text);
+  }
+  options.Choose(cmbDate, 1);
+  for (const int button : {chkFF, chkEmptyDirs, chkExit, optLand}) {
+    options.Click(button);
+  }
+}
+
+void ExpectOptionsAreBack(Window options) {
+  for (const auto& [field, text] : kOptionTexts) {
+    EXPECT_EQ(options.TextOf(field), text);
+  }
+  EXPECT_EQ(options.TextOf(cmbDate), L"mm/dd/yy");
+  EXPECT_EQ(options.TextOf(lblUnit), Message(277));
+  const std::pair<int, bool> buttons[] = {
+      {optInches, true}, {chkFF, false}, {chkEmptyDirs, true}, {chkExit, false}, {optPort, true}};
+  for (const auto& [button, on] : buttons) {
+    EXPECT_EQ(options.IsChecked(button), on) << button << " (landscape does not come back, on purpose)";
+  }
+}
+
 // Where there is no printer the file destination is chosen at every start; the rest comes back.
 TEST_F(MainWindow, EverythingComesBackAtTheNextStartButTheOrientation) {
   {
     const Program program(Argument());
     const Window main = Main(program);
     const Window filter = Open(program, main, cmdFilter, 200);
-    filter.SetText(txtName, L"*.doc");
-    filter.Press(cmdOK);
-    EXPECT_TRUE(filter.WaitUntilGone());
+    ChangeFilter(filter);
+    filter.Answer(cmdOK);
+    const Window format = Open(program, main, cmdFormat, 201);
+    format.Click(optTree);
+    const Window columns = Open(program, format, Command1, 202);
+    for (const auto& [box, on] : kColumns) {
+      SetTo(columns, box, on);
+    }
+    columns.SetText(txtLevel, L"4");
+    columns.Answer(cmdOK);
+    format.Answer(cmdOK);
     const Window options = Open(program, main, cmdOptions, 204);
-    options.Click(optLand);
-    options.SetText(txtFooter, L"Foot");
-    options.Press(cmdOK);
-    EXPECT_TRUE(options.WaitUntilGone());
+    ChangeOptions(options);
+    options.Answer(cmdOK);
     Close(program, main);
   }
   const Program program(L"");
   const Window main = Main(program);
   EXPECT_TRUE(main.TextOf(lblPath).ends_with(L"\\Data"));
-  EXPECT_EQ(main.TextOf(lblFilter), L"*.doc");
+  EXPECT_TRUE(main.TextOf(lblFilter).starts_with(L"*.doc, <"));
+  EXPECT_EQ(main.TextOf(lblFormat), Message(27));
+  const Window filter = Open(program, main, cmdFilter, 200);
+  ExpectFilterIsBack(filter);
+  filter.Answer(cmdCancel);
+  const Window format = Open(program, main, cmdFormat, 201);
+  EXPECT_TRUE(format.IsChecked(optTree));
+  const Window columns = Open(program, format, Command1, 202);
+  for (const auto& [box, on] : kColumns) {
+    EXPECT_EQ(columns.IsChecked(box), on) << box;
+  }
+  EXPECT_EQ(columns.TextOf(txtLevel), L"4");
+  columns.Answer(cmdCancel);
+  format.Answer(cmdCancel);
   const Window options = Open(program, main, cmdOptions, 204);
-  EXPECT_EQ(options.TextOf(txtFooter), L"Foot");
-  EXPECT_TRUE(options.IsChecked(optPort)) << "landscape does not come back, on purpose";
-  options.Press(cmdCancel);
-  EXPECT_TRUE(options.WaitUntilGone());
+  ExpectOptionsAreBack(options);
+  options.Answer(cmdCancel);
+  Close(program, main);
+}
+
+// The frame of a label may shorten its text; the tip shows all of it.
+TEST_F(MainWindow, TipsHoldTheWholeDirectoryAndFilter) {
+  const std::wstring deep = scratch.Dir(std::wstring(60, L'A') + L"b\\" + std::wstring(60, L'C') + L"d");
+  WriteStore(L"Filter", L"FilterName", L"*.first, *.second, *.third, *.fourth, *.fifth, *.sixth, *.seventh");
+  const Program program(L'"' + deep + L'"');
+  const Window main = Main(program);
+  ASSERT_NE(main.TextOf(lblPath), deep) << "too long for the label";
+  const auto tip = [&](int label) {
+    std::wstring text;
+    main.Control(label).BringMouseOver();
+    WaitUntil([&] {
+      for (const Window& each : program.Windows()) {
+        text = each.ClassName() == L"tooltips_class32" ? each.Text() : text;
+      }
+      return !text.empty();
+    });
+    return text;
+  };
+  EXPECT_EQ(lstrcmpiW(tip(lblPath).c_str(), deep.c_str()), 0) << "but for letter case";
+  EXPECT_EQ(tip(lblFilter), main.TextOf(lblFilter));
   Close(program, main);
 }
 

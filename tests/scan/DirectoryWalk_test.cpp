@@ -43,6 +43,17 @@ TEST_F(DirectoryWalkTest, ADirectoryAmongTheEntriesHasItsOwnSizeText) {
                                        L"end"));
 }
 
+TEST_F(DirectoryWalkTest, AnAttributeTestThatDoesNotCareListsSubdirectoriesAmongTheFilesOfTheirParent) {
+  Tree().Dir(L"C:\\Data").File(L"b.txt", 7).Folder(L"Sub");
+  Tree().Dir(L"C:\\Data\\Sub").File(L"c.txt", 3);
+  mdlVars::Filter.AttrOn = true;
+  Writer.Details = true;
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin",
+                                       L"0 C:\\Data: Sub||<DIR>   |2001/02/03 04:05|d     "
+                                       L"B.txt||7 b |2001/02/03 04:05| a    (2 files, 7 b )",
+                                       L"1 C:\\Data\\Sub: C.txt||3 b |2001/02/03 04:05| a    (1 file, 3 b )", L"end"));
+}
+
 TEST_F(DirectoryWalkTest, SubLevelLimitsTheDepth) {
   Tree().Dir(L"C:\\Data\\A\\B\\C").File(L"f");
   const auto directories = [&](std::int32_t subLevel) {

@@ -69,15 +69,6 @@ TEST_F(FilterTest, LargeSizesAndLimitsDoNotOverflow) {
   EXPECT_FALSE(PassesWithSize(0xFFFF'FFFF));
 }
 
-TEST_F(FilterTest, ADirectoryHasSizeZero) {
-  Settings.SizeOn = true;
-  Settings.FilterSize = 1;
-  Entry.Attributes = platform::kDirectory;
-  EXPECT_FALSE(Passes());
-  Settings.SizeMin = false;
-  EXPECT_TRUE(Passes());
-}
-
 TEST_F(FilterTest, TheLastDayOfTheRangeAdmitsItsMidnightAlone) {
   Settings.DateOn = true;
   Settings.DateMin = ToDateValue({1999, 9, 25});

@@ -132,10 +132,10 @@ TEST_F(SortOrderTest, BySizeThenByName) {
   EXPECT_THAT(Order(OrderBy::Size, false), StartsWith(L"0 C:\\Data: Huge B A C Dir ("));
 }
 
-TEST_F(SortOrderTest, BySizeSeesTheLastFifteenDigitsOnly) {
-  // 2,000,000,000,000,007 and 3
-  Tree().Dir(L"C:\\Data").File(L"seven", 2'000'000'000'000'007ULL).File(L"three", 3).File(L"eight", 8);
-  EXPECT_THAT(Order(OrderBy::Size), StartsWith(L"0 C:\\Data: Three Eight Seven ("));
+// Sizes end at 922,337,203,685,477, which has the fifteen digits of a key: the last of them are never all that counts.
+TEST_F(SortOrderTest, BySizeHugeFilesComeLast) {
+  Tree().Dir(L"C:\\Data").File(L"huge", 2'000'000'000'000'007ULL).File(L"large", 900'000'000'000'000).File(L"tiny", 8);
+  EXPECT_THAT(Order(OrderBy::Size), StartsWith(L"0 C:\\Data: Tiny Large Huge ("));
 }
 
 TEST_F(SortOrderTest, ByDateToTheMinuteThenByName) {
