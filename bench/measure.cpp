@@ -1,5 +1,5 @@
-// Runs a command and prints its wall and processor time in seconds, its peak memory in kilobytes and its exit status. It is small, so
-// that the memory that a new process briefly shares with the one that starts it does not count.
+// Runs a command and prints its wall and processor time in seconds, its peak memory in kilobytes and its exit status.
+// It is small, so that the memory that a new process briefly shares with the one that starts it does not count.
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>

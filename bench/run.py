@@ -3,7 +3,7 @@
 
 Builds the native release and the Windows program, makes the trees in a scratch directory (removed at the end), runs
 whole processes in alternating pairs with a warm cache, and prints tables of ratios: the median of the paired ratios.
-With --write the tables replace what stands between the markers in docs/benchmarks.md and README.md.
+With --write the tables replace those of the same title between the markers in docs/benchmarks.md and README.md.
 """
 import argparse
 import os
@@ -101,9 +101,13 @@ class Trees:
         return root
 
 
+class RunFailed(Exception):
+    pass
+
+
 class Bench:
     def __init__(self, scratch, pairs):
-        self.scratch, self.pairs, self.clock, self.slow_too = scratch, pairs, 'wall', False
+        self.scratch, self.pairs, self.clock = scratch, pairs, 'wall'
         self.settings = scratch / 'settings'
         self.environment = dict(os.environ, XDG_CONFIG_HOME=str(self.settings), LANG='C.UTF-8', LC_ALL='C.UTF-8')
 
@@ -114,7 +118,7 @@ class Bench:
                                   env=self.environment, check=True, timeout=600)
         found = re.search(r'^measured (\S+) (\S+) (\d+) (-?\d+)$', done.stderr.decode(errors='replace'), re.M)
         if found is None or found.group(4) != '0':
-            sys.exit(f'{command} failed: {done.stderr.decode(errors="replace")}')
+            raise RunFailed(f'{command} failed: {done.stderr.decode(errors="replace")}')
         return float(found.group(1 if self.clock == 'wall' else 2)), int(found.group(3))
 
     def ratio(self, first, second, pairs=None):
@@ -191,24 +195,28 @@ def orders(bench, small, large):
     return table('200,000 files in one directory against 100,000', ['Order', 'A to Z', 'Z to A'], rows)
 
 
-def memory(bench, few, many, directories, name_length):
-    """Peaks of the native program."""
+def memory(bench, few, many, nodes, name_length):
+    """Peaks of the native program. `few` and `many` hold 100 files in each directory, `nodes` one in each; all are pairs
+    of a tree and its number of directories."""
     host = [HOUSE / 'build/host-release/folivant-host']
     out = bench.scratch / 'list.out'
 
     def peak(tree, style):
         chosen = bench.filter_file(f'style{style}', OrderBy=1, OrderAZ='True', Format=style)
-        return bench.once(listing(host, tree, out, filter_file=chosen))[1]
+        return statistics.median(bench.once(listing(host, tree, out, filter_file=chosen))[1] for _ in range(3))
+
+    def growth(less, more, style):
+        """Bytes for each further directory."""
+        return (peak(more[0], style) - peak(less[0], style)) * 1024 / (more[1] - less[1])
     rows = []
     for style, name in ((0, 'No subdirectories'), (1, 'Include subdirectories'), (4, 'Full-path list')):
-        rows.append([name, f'{peak(few, style):,} kB', f'{peak(many, style):,} kB'])
-    lines = table('Peak memory, streaming styles', ['Style', '300 directories', '3,000 directories'], rows)
+        rows.append([name, f'{peak(few[0], style):,} kB', f'{peak(many[0], style):,} kB'])
+    lines = table('Peak memory, streaming styles',
+                  ['Style', f'{few[1]:,} directories', f'{many[1]:,} directories'], rows)
     # Texts of an entry: its name, eight characters of size or fewer, sixteen of date; four bytes each.
-    entries = (directories[1] - directories[0]) * 100
-    tree = (peak(many, 2) - peak(few, 2)) * 1024 / entries
+    tree = growth(few, many, 2) / 100
     # The texts of a node: its name.
-    nodes = directories[1] - directories[0]
-    view = (peak(many, 3) - peak(few, 3)) * 1024 / nodes
+    view = growth(*nodes, 3)
     rows = [['Tree-style, per entry', f'{tree:.0f}', f'{tree - 4 * (name_length + 5 + 16):.0f}'],
             ['Directory view, per directory', f'{view:.0f}', f'{view - 4 * 11:.0f}']]
     return lines + table('Memory of the collecting styles, bytes', ['Style', 'All', 'Beyond texts'], rows)
@@ -220,12 +228,8 @@ def under_wine(bench, trees, empty):
     rows = []
     for name, tree in trees.items():
         floor = (['wine', bench.scratch / 'floor.exe', dos(tree)], None)
-        row = [name, f'{bench.ratio((listing(exe, tree, out), None), floor):.2f}']
-        if bench.slow_too:
-            row.append(f'{bench.ratio((["wine", "cmd", "/c", "dir", "/s", dos(tree)], out), floor, 1):.1f}')
-        rows.append(row)
-    head = ['Tree', 'Folivant.exe'] + (['cmd dir /s'] if bench.slow_too else [])
-    lines = table('Under Wine, whole process, against the floor', head, rows)
+        rows.append([name, f'{bench.ratio((listing(exe, tree, out), None), floor):.2f}'])
+    lines = table('Under Wine, whole process, against the floor', ['Tree', 'Folivant.exe'], rows)
     tree = next(iter(trees.values()))
     rows = []
     for kind, name in (('h', 'HTML'), ('x', 'XML')):
@@ -233,6 +237,19 @@ def under_wine(bench, trees, empty):
     rows.append(['Empty folder against an empty program',
                  f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "empty.exe"], None), 3 * bench.pairs):.2f}'])
     return lines + table('Under Wine, other runs', ['Run', 'Ratio'], rows)
+
+
+def interpreter(bench, trees):
+    """The command interpreter's listing; one pair, because it takes minutes."""
+    rows = []
+    for name, tree in trees.items():
+        floor = (['wine', bench.scratch / 'floor.exe', dos(tree)], None)
+        listing_ = (['wine', 'cmd', '/c', 'dir', '/s', dos(tree)], bench.scratch / 'list.out')
+        try:
+            rows.append([name, f'{bench.ratio(listing_, floor, 1):.1f}'])
+        except RunFailed:
+            rows.append([name, 'it fails'])
+    return table('Under Wine, the command interpreter against the floor', ['Tree', 'cmd /c dir /s'], rows)
 
 
 def window(bench, tree, empty, filter_file):
@@ -282,28 +299,34 @@ def put_between_markers(path, text):
     if BEGIN not in content:
         return
     before, rest = content.split(BEGIN, 1)
-    path.write_text(f'{before}{BEGIN}\n{text}\n{END}{rest.split(END, 1)[1]}')
+    old, after = rest.split(END, 1)
+    path.write_text(f'{before}{BEGIN}\n{"".join((sections(old) | sections(text)).values())}{END}{after}')
 
 
+def sections(text):
+    """The tables by their titles."""
+    return {part.split('\n', 1)[0]: f'### {part.rstrip()}\n\n' for part in re.split('^### ', text, flags=re.M)[1:]}
+
+
+PARTS = ('pages', 'native', 'orders', 'memory', 'wine', 'window')
 WIDE = '300,000 files in 3,000 directories'
 
 
 def main():
     options = argparse.ArgumentParser(description=__doc__)
     options.add_argument('--pairs', type=int, default=9)
-    options.add_argument('--only', choices=('native', 'wine', 'orders', 'memory', 'pages', 'window'), action='append')
+    options.add_argument('--only', choices=(*PARTS, 'interpreter'), action='append',
+                         help='may be repeated; without it all but the interpreter, which takes minutes')
     options.add_argument('--clock', choices=('wall', 'cpu'), default='wall',
                          help='cpu for a busy machine; under Wine the server\'s share is not in it')
-    options.add_argument('--slow', action='store_true', help='the command interpreter too: minutes per tree')
     options.add_argument('--scale', type=float, default=1.0, help='share of the trees, for trying the script')
     options.add_argument('--write', action='store_true')
     chosen = options.parse_args()
-    parts = chosen.only or ('native', 'orders', 'memory', 'pages', 'wine', 'window')
+    parts = chosen.only or PARTS
     with tempfile.TemporaryDirectory(prefix='folivant-bench-') as name:
         scratch = pathlib.Path(name)
-        build(scratch, 'wine' in parts or 'window' in parts)
+        build(scratch, not {'wine', 'window', 'interpreter'}.isdisjoint(parts))
         bench = Bench(scratch, chosen.pairs)
-        bench.slow_too = chosen.slow
         bench.clock = chosen.clock
         bench.filter_file('usual', OrderBy=1, OrderAZ='True', Format=1)
         lines = pages(scratch) if 'pages' in parts else []
@@ -331,11 +354,13 @@ def measure(bench, make, parts, scale):
     if 'orders' in parts:
         lines += orders(bench, small_flat, large_flat)
     if 'memory' in parts:
-        lines += memory(bench, few, trees[WIDE], (max(1, many // 10), many), name_length)
-    if 'wine' in parts:
+        nodes = [(make.wide(f'nodes {count}', count, 1), count) for count in (many, 10 * many)]
+        lines += memory(bench, (few, max(1, many // 10)), (trees[WIDE], many), nodes, name_length)
+    if 'wine' in parts or 'interpreter' in parts:
         end_wine = start_wine(bench)
         try:
-            lines += under_wine(bench, trees, empty)
+            lines += under_wine(bench, trees, empty) if 'wine' in parts else []
+            lines += interpreter(bench, trees) if 'interpreter' in parts else []
         finally:
             end_wine()
     if 'window' in parts:
