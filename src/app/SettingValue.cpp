@@ -45,14 +45,23 @@ std::optional<bool> ToFlag(const std::wstring& text) {
   if (lower == L"true" || lower == L"false") {
     return lower == L"true";
   }
-  const auto number = ToNumber<std::int32_t>(text);
-  return number ? std::optional(*number != 0) : std::nullopt;
+  const auto number = ToNumber<double>(text);
+  return number && std::isfinite(*number) ? std::optional(*number != 0) : std::nullopt;
 }
 
 /// The user's decimal separator or a point, so that a filter file from another country is read as it was meant.
 std::optional<float> ToSingle(const std::wstring& text) {
   const auto number = ToNumber<float>(ReplaceAll(text, platform::Locale().DecimalSeparator, L"."));
   return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+/// A fraction is rounded, halves to even, as in the text boxes.
+template <class Whole>
+std::optional<Whole> ToWhole(const std::wstring& text) {
+  const auto number = ToNumber<double>(ReplaceAll(text, platform::Locale().DecimalSeparator, L"."));
+  const double rounded = std::nearbyint(number.value_or(std::numeric_limits<double>::quiet_NaN()));
+  const bool fits = rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max();
+  return fits ? std::optional(static_cast<Whole>(rounded)) : std::nullopt;
 }
 
 std::wstring SingleText(float number) {
@@ -145,12 +154,19 @@ struct Reader {
                    [](wchar_t c) { return static_cast<AttributeChoice>(c - L'0'); });
     return true;
   }
+  bool operator()(OutputTarget* member) const {
+    const auto code = ToWhole<std::int32_t>(Trimmed);
+    if (code && *code >= 0 && *code <= static_cast<std::int32_t>(OutputTarget::Screen)) {
+      *member = static_cast<OutputTarget>(*code);
+    }
+    return code.has_value();  // another code leaves the destination as it was
+  }
   template <class Number>
   bool operator()(Number* member) const {  // whole numbers, and codes of which any number of their width is one
     if constexpr (std::is_enum_v<Number>) {
-      return Take(ToNumber<std::underlying_type_t<Number>>(Trimmed), member);
+      return Take(ToWhole<std::underlying_type_t<Number>>(Trimmed), member);
     } else {
-      return Take(ToNumber<Number>(Trimmed), member);
+      return Take(ToWhole<Number>(Trimmed), member);
     }
   }
 };

@@ -443,6 +443,15 @@ TEST(Settings, NumbersAndFlagsAreReadAsPeopleWriteThem) {
   EXPECT_TRUE(General.Inches);
 }
 
+TEST(Settings, AFractionOfAWholeNumberIsRounded) {
+  const std::pair<const wchar_t*, int> rows[] = {{L"79.6", 80}, {L"80.5", 80}, {L"81.5", 82}, {L"-0.5", 0}};
+  for (const auto& [text, width] : rows) {
+    EXPECT_TRUE(LoadWith(L"Settings", L"TextWidth", text).empty());
+    EXPECT_EQ(General.TextWidth, width) << Narrow(text);
+  }
+  EXPECT_EQ(LoadWith(L"Settings", L"FontSize", L"32767.5").size(), 1u) << "rounds to more than there is room for";
+}
+
 TEST(Settings, DatesAreReadWithAnyCharacterBetweenTheNumbers) {
   for (const wchar_t* text : {L"1999/09/25", L"1999-9-25", L"1999.09.25", L" 1999 9 25 "}) {
     EXPECT_TRUE(LoadWith(L"Filter", L"FilterDateMin", text).empty());
@@ -476,10 +485,18 @@ TEST(Settings, AMarginFromAnotherCountryIsReadAsItWasMeant) {
 
 TEST(Settings, CodesWithoutAMeaningAreKept) {
   Fake().Store[{L"Filter", L"OrderBy"}] = L"9";
-  Fake().Store[{L"Settings", L"OutputTo"}] = L"7";
   EXPECT_TRUE(LoadSettings().empty());
   EXPECT_EQ(static_cast<int>(Filter.OrderBy), 9);
-  EXPECT_EQ(static_cast<int>(mdlVars::OutputTo), 7);
+}
+
+TEST(Settings, ADestinationWithoutAMeaningLeavesTheOneBefore) {
+  for (const wchar_t* code : {L"3", L"-1", L"7"}) {
+    mdlVars::OutputTo = OutputTarget::File;
+    EXPECT_TRUE(LoadWith(L"Settings", L"OutputTo", code).empty());
+    EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File) << Narrow(code);
+  }
+  LoadWith(L"Settings", L"OutputTo", L"2");
+  EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Screen);
 }
 
 TEST(Settings, DialogsSaveTheirOwnGroupAlone) {
