@@ -140,6 +140,7 @@ int StartWindow() {
   if (platform::PrinterNames().empty()) {
     mdlVars::OutputTo = OutputTarget::File;
   }
+  ResolvePrinterName();
   return ShowMainWindow();
 }
 

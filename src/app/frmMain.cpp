@@ -90,7 +90,6 @@ class frmMain final : public frmBase, private TextMeasure {
   void ShowEverything();
 
   void cmdBrowse_Click();
-  void cmdOptions_Click();
   void cmdLoad_Click();
   void cmdSave_Click();
   void cmdOK_Click();
@@ -98,6 +97,7 @@ class frmMain final : public frmBase, private TextMeasure {
 
   bool ChooseDestination();
   void FinishRun();
+  void SaveEverything();
   void Unload();
   void RestorePlace();
   void SavePlace();
@@ -111,25 +111,35 @@ class frmMain final : public frmBase, private TextMeasure {
 
 class frmMain::RunGuard {
  public:
-  explicit RunGuard(frmMain& window) : window_(window) {
-    window_.running_ = true;
-    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-    EnableWindow(window_.Window(), FALSE);
-    progress_ = OpenProgressWindow(window_);
-  }
-  ~RunGuard() {
-    // Enabled first: otherwise another program's window would come to the front when the progress window goes.
-    EnableWindow(window_.Window(), TRUE);
-    progress_.reset();
-    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    window_.running_ = false;
-  }
+  explicit RunGuard(frmMain& window) : inert_(window), progress_(OpenProgressWindow(window)) {}
+  /// Enabled first: otherwise another program's window would come to the front when the progress window goes.
+  ~RunGuard() { inert_.Enable(TRUE); }
   RunGuard(const RunGuard&) = delete;
   RunGuard& operator=(const RunGuard&) = delete;
   folivant::Progress& Progress() { return *progress_; }
 
  private:
-  frmMain& window_;
+  class Inert {
+   public:
+    explicit Inert(frmMain& window) : window_(window) {
+      window_.running_ = true;
+      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+      Enable(FALSE);
+    }
+    ~Inert() {
+      Enable(TRUE);
+      SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+      window_.running_ = false;
+    }
+    Inert(const Inert&) = delete;
+    Inert& operator=(const Inert&) = delete;
+    void Enable(BOOL enabled) const { EnableWindow(window_.Window(), enabled); }
+
+   private:
+    frmMain& window_;
+  };
+
+  Inert inert_;
   std::unique_ptr<folivant::Progress> progress_;
 };
 
@@ -149,7 +159,7 @@ void frmMain::Form_Load() {
     MakeFormatLabel();
     MakePathLabel();
   });
-  OnClick(cmdOptions, [this] { cmdOptions_Click(); });
+  OnClick(cmdOptions, [this] { ShowOptionsDialog(*this); });
   OnClick(cmdLoad, [this] { cmdLoad_Click(); });
   OnClick(cmdSave, [this] { cmdSave_Click(); });
   OnClick(cmdOK, [this] { cmdOK_Click(); });
@@ -168,11 +178,14 @@ void frmMain::Form_QueryClose() {
   }
 }
 
-bool frmMain::Form_Message(UINT message, WPARAM, LPARAM, LRESULT& result) {
+bool frmMain::Form_Message(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
   if (message == WM_SETCURSOR && running_) {
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     result = TRUE;
     return true;
+  }
+  if (message == WM_ENDSESSION && wParam != FALSE && !running_) {
+    SaveEverything();  // the user logs off; the process ends without closing its windows
   }
   return false;
 }
@@ -238,12 +251,6 @@ void frmMain::lblPath_Drop(const std::wstring& path) {
   ShowEverything();
 }
 
-/// The options are the first to show the printer's name, so the default printer is asked for here.
-void frmMain::cmdOptions_Click() {
-  ResolvePrinterName();
-  ShowOptionsDialog(*this);
-}
-
 void frmMain::cmdLoad_Click() {
   platform::FileDialog dialog;
   dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
@@ -270,7 +277,6 @@ void frmMain::cmdSave_Click() {
 bool frmMain::ChooseDestination() {
   switch (GetOutputTo()) {
     case OutputTarget::Printer:
-      ResolvePrinterName();
       mdlVars::OutputKind = OutputKind::Printer;
       return true;
     case OutputTarget::File: {
@@ -311,12 +317,16 @@ void frmMain::FinishRun() {
   }
 }
 
+void frmMain::SaveEverything() {
+  mdlVars::OutputTo = GetOutputTo();
+  SavePlace();
+  SaveSettings();
+}
+
 /// Saves everything and ends the program, also when something could not be saved.
 void frmMain::Unload() {
   try {
-    mdlVars::OutputTo = GetOutputTo();
-    SavePlace();
-    SaveSettings();
+    SaveEverything();
   } catch (const std::exception& problem) {
     ShowProblem(problem);
   }
