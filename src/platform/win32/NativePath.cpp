@@ -1,5 +1,7 @@
 #include "platform/win32/NativePath.h"
 
+#include <algorithm>
+
 #include "platform/win32/Win32.h"
 
 namespace folivant::platform {
@@ -14,11 +16,12 @@ bool IsDriveOrServer(std::wstring_view path) {
 
 /// A component such as "name." that the file functions would take for "name".
 bool LosesDotsOrBlanks(std::wstring_view path) {
-  for (std::size_t i = 1; i < path.size(); ++i) {
-    const bool atEnd = i + 1 == path.size() || path[i + 1] == L'\\';
-    if (atEnd && (path[i] == L'.' || path[i] == L' ') && path[i - 1] != L'\\' && path[i - 1] != L'.') {
+  while (!path.empty()) {
+    const std::wstring_view name = path.substr(0, path.find(L'\\'));
+    if ((name.ends_with(L'.') || name.ends_with(L' ')) && name != L"." && name != L"..") {
       return true;
     }
+    path.remove_prefix(std::min(name.size() + 1, path.size()));
   }
   return false;
 }

@@ -32,6 +32,12 @@ TEST(NativePath, LiftsTheLimitOfLongPaths) {
 TEST(NativePath, KeepsDotsAndBlanksAtTheEndOfNames) {
   EXPECT_EQ(NativePath(L"C:\\folder.\\a"), L"\\\\?\\C:\\folder.\\a");
   EXPECT_EQ(NativePath(L"C:\\a "), L"\\\\?\\C:\\a ");
+  for (const wchar_t* odd : {L"C:\\a..", L"C:\\a. \\b", L"C:\\...", L"C:\\ ", L"C:\\ \\b"}) {
+    EXPECT_EQ(NativePath(odd), std::wstring(L"\\\\?\\") + odd);
+  }
+  for (const wchar_t* plain : {L"C:\\", L"C:\\a\\", L"C:\\..\\a", L"C:\\a\\.", L"a.", L".."}) {
+    EXPECT_EQ(NativePath(plain), plain);
+  }
 }
 
 class WindowsFiles : public testing::Test {
