@@ -5,13 +5,12 @@
 namespace folivant {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kMillimetresPerInch = 25.4;
 
 }  // namespace
 
 double TwipsPerUnit(bool inches) {
-  return inches ? kTwipsPerInch : kTwipsPerInch / kMillimetresPerInch;
+  return inches ? platform::kTwipsPerInch : platform::kTwipsPerInch / kMillimetresPerInch;
 }
 
 PageMargins MarginsInTwips(const GeneralSettings& general) {

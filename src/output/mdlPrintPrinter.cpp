@@ -262,7 +262,10 @@ void PrinterWriter::FindList(std::span<const FoundItem> rows) {
   DrawFoundCaptions();
   page_->EndLine();
   page_->EndLine();
-  for (auto row = rows.begin(); row != rows.end() && !run_.Tree.Cancelled; ++row) {
+  const auto cancelled = [this] {
+    return run_.Tree.Cancelled || (run_.Watcher != nullptr && run_.Watcher->Cancelled());
+  };
+  for (auto row = rows.begin(); row != rows.end() && !cancelled(); ++row) {
     FoundLine(*row);
   }
 }

@@ -10,6 +10,8 @@
 
 namespace folivant::platform {
 
+inline constexpr double kTwipsPerInch = 1440;
+
 /// What one document asks of its printer. The numbers are those of the stored printer settings.
 struct PrintJob {
   std::wstring PrinterName;  ///< as PrinterNames lists it; empty is the default printer

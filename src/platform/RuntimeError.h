@@ -13,8 +13,6 @@ enum class FailedAction {
   CreateFile,
   ReadFile,
   WriteFile,
-  DeleteFile,
-  ReadSetting,  ///< a stored value that is not a number, flag or date
   WriteSetting,
   Print,
   StartProgram,

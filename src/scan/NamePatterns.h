@@ -8,9 +8,8 @@
 namespace folivant {
 
 /// A case-insensitive wildcard pattern: "*" any run of characters, "?" one character, "#" one digit, "[a-z0]" one of a
-/// class, "[!a-z]" one not of it ("[]" stands for no character, "[!]" for "!", an unclosed
-/// "[" for itself). Classes compare lower-case code
-/// points. Matching never takes longer than pattern length times name length.
+/// class, "[!a-z]" one not of it ("[]" stands for no character, "[!]" for "!", an unclosed "[" for itself). Classes
+/// compare lower-case code points. Matching never takes longer than pattern length times name length.
 class WildcardPattern {
  public:
   explicit WildcardPattern(std::wstring_view pattern);

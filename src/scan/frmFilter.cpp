@@ -44,8 +44,23 @@ constexpr int kAtLeast = 0;  // position in cmbSize
 
 /// By code, from 0: the order in which AttributeChoice counts.
 constexpr int kAttributeButtons[] = {chkN, chkY, chkX};
-/// By code, from 0; no button for no order.
-constexpr int kOrderButtons[] = {0, optName, optDOS, optSize, optDate, optExt};
+/// Nothing for no order and for a code without a meaning.
+constexpr int ButtonOf(OrderBy order) {
+  switch (order) {
+    case OrderBy::Name:
+      return optName;
+    case OrderBy::DosName:
+      return optDOS;
+    case OrderBy::Size:
+      return optSize;
+    case OrderBy::Date:
+      return optDate;
+    case OrderBy::Extension:
+      return optExt;
+    default:
+      return 0;
+  }
+}
 
 class frmFilter final : public frmBase {
  public:
@@ -62,6 +77,7 @@ class frmFilter final : public frmBase {
     SetCaptions<FilterSettings>(kBindings);
     AddItem(cmbSize, mdlVars::Texts[Text::AtLeast]);
     AddItem(cmbSize, mdlVars::Texts[Text::AtMost]);
+    NameFields();
     NameAttributeButtons();
 
     const FilterSettings& filter = mdlVars::Filter;
@@ -72,7 +88,7 @@ class frmFilter final : public frmBase {
     for (int i = 0; i < kAttributes; ++i) {
       Choose({chkY + i, chkX + i, chkN + i}, kAttributeButtons[static_cast<std::size_t>(ChoiceAt(filter, i))] + i);
     }
-    Choose({optName, optExt, optDOS, optSize, optDate}, kOrderButtons[static_cast<std::size_t>(filter.OrderBy)]);
+    Choose({optName, optExt, optDOS, optSize, optDate}, ButtonOf(filter.OrderBy));
     Choose({optAZ, optZA}, filter.OrderAZ ? optAZ : optZA);
     EnableParts();
 
@@ -99,6 +115,13 @@ class frmFilter final : public frmBase {
       for (const int control : {lblAttr, chkY, chkX, chkN}) {
         Enable(control + i, Checked(chkAttr));
       }
+    }
+  }
+
+  /// Fields that a check box introduces have hidden labels for screen readers.
+  void NameFields() {
+    for (const auto& [field, box] : {std::pair(txtName, chkName), {cmbSize, chkSize}, {txtSize, chkSize}}) {
+      SetText(LABEL_OF(field), FieldName(TextOf(box)));
     }
   }
 
@@ -149,9 +172,6 @@ class frmFilter final : public frmBase {
     return ToDateValue({shown.wYear, shown.wMonth, shown.wDay, shown.wHour, shown.wMinute, shown.wSecond});
   }
 
-  std::wstring FieldNameOf(int control) const override {
-    return control == txtSize ? FieldName(TextOf(chkSize)) : frmBase::FieldNameOf(control);
-  }
   /// A size that does not convert is asked for again, also when its part was switched off.
   void ShowField(int) override {
     SetChecked(chkSize, true);

@@ -16,10 +16,6 @@ Text TextOf(FailedAction action) {
       return Text::CannotReadFile;
     case FailedAction::WriteFile:
       return Text::CannotWriteFile;
-    case FailedAction::DeleteFile:
-      return Text::CannotDeleteFile;
-    case FailedAction::ReadSetting:
-      return Text::BadSetting;
     case FailedAction::WriteSetting:
       return Text::CannotWriteSetting;
     case FailedAction::Print:

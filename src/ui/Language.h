@@ -23,7 +23,7 @@ struct LanguageEntry {
 /// Every language file of the folder, in the order of the file system.
 std::vector<LanguageEntry> ListLanguages(const std::wstring& programFolder);
 
-/// Line breaks are written as "\n" in a language file; other texts stand as they are.
+/// Puts the texts in the places of "%1" to "%3"; what was put in is not searched again.
 std::wstring WithPlaceholders(std::wstring text, const std::wstring& one, const std::wstring& two = {},
                               const std::wstring& three = {});
 

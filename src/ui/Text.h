@@ -109,7 +109,6 @@ enum class Text : int {
   CannotCreateFile = 160,
   CannotReadFile = 161,
   CannotWriteFile = 162,
-  CannotDeleteFile = 163,
   BadSetting = 164,  ///< %1 store or file, %2 key, %3 value
   CannotWriteSetting = 165,
   CannotPrint = 166,

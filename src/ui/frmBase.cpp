@@ -10,6 +10,7 @@
 #include "ui/Language.h"
 
 namespace folivant {
+
 std::int32_t frmBase::WholeNumberOf(int control) const {
   const auto number = ParseWholeNumber(TextOf(control));
   if (!number) {

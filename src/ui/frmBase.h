@@ -77,7 +77,7 @@ class frmBase : public platform::Dialog {
   float SingleOf(int control) const;
   void SetCaption(int control, Text caption);
   /// How a message calls the field.
-  virtual std::wstring FieldNameOf(int control) const;
+  std::wstring FieldNameOf(int control) const;
   /// Brings a field into view before it gets the focus; for windows with pages.
   virtual void ShowField(int) {}
 

@@ -11,6 +11,7 @@
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
+#include "platform/win32/Owned.h"
 #include "platform/win32/Shell.h"
 #include "ui/Language.h"
 #include "ui/MarginCheck.h"
@@ -81,6 +82,13 @@ constexpr Legend kLegend[] = {
     {L"%n  ", Text::LegendPage},
 };
 
+struct ImageListKind {
+  using Raw = HIMAGELIST;
+  static Raw Empty() { return nullptr; }
+  static void Close(Raw list) { ImageList_Destroy(list); }
+};
+using OwnedImageList = platform::Owned<ImageListKind>;
+
 constexpr int kFlagWidth = 20;  // dots at 96 per inch
 constexpr int kPageBorder = 4;  // between the tab strip's frame and a page, likewise
 
@@ -91,18 +99,14 @@ std::wstring FontText(const std::wstring& name, int points) {
 class frmOptions final : public frmBase {
  public:
   frmOptions() : frmBase(dlgOptions), general_(mdlVars::General), printer_(mdlVars::Printer) {}
-  ~frmOptions() override {
-    if (flags_ != nullptr) {
-      ImageList_Destroy(flags_);
-    }
-  }
-  frmOptions(const frmOptions&) = delete;
-  frmOptions& operator=(const frmOptions&) = delete;
 
  private:
   void Form_Load() override;
   void Form_QueryClose() override { CloseKeepingTab(IDCANCEL); }
-  void Form_DpiChanged() override { PlacePages(); }
+  void Form_DpiChanged() override {
+    ShowFlags();
+    PlacePages();
+  }
   bool Form_KeyDown(WPARAM key) override;
   void ShowField(int control) override;
 
@@ -111,6 +115,7 @@ class frmOptions final : public frmBase {
   void ShowPage(int index);
   int ShownPage() const { return static_cast<int>(Send(TabStrip, TCM_GETCURSEL)); }
   void FillDateFormats();
+  void ShowFlags();
   void FillLanguages();
   void SetHandlers();
   void SetUnitLabels();
@@ -130,7 +135,7 @@ class frmOptions final : public frmBase {
   PrinterSettings printer_;
   std::vector<HWND> pages_;
   std::vector<std::wstring> languageFiles_;  ///< by the position that a language's key tells
-  HIMAGELIST flags_ = nullptr;
+  OwnedImageList flags_;
 };
 
 void frmOptions::Form_Load() {
@@ -141,6 +146,7 @@ void frmOptions::Form_Load() {
     SetText(lblLegend + i++, row.Code + mdlVars::Texts[row.Meaning]);
   }
   FillDateFormats();
+  ShowFlags();
   FillLanguages();
   Fill<General>(kBindings, general_);
   Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
@@ -220,13 +226,17 @@ void frmOptions::FillDateFormats() {
   Send(cmbDate, CB_SETCURSEL, static_cast<WPARAM>(general_.DateFormat));
 }
 
-void frmOptions::FillLanguages() {
+void frmOptions::ShowFlags() {
   const int percent = Scaled(100);
   const int strip = picFlags + (percent <= 100 ? 0 : percent <= 150 ? 1000 : 2000);
   const int width = kFlagWidth * (percent <= 100 ? 100 : percent <= 150 ? 150 : 200) / 100;
-  flags_ = ImageList_LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(strip), width, 0, CLR_NONE, IMAGE_BITMAP,
-                                LR_CREATEDIBSECTION);
-  Send(cmbLang, CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(flags_));
+  OwnedImageList flags(ImageList_LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(strip), width, 0, CLR_NONE,
+                                            IMAGE_BITMAP, LR_CREATEDIBSECTION));
+  Send(cmbLang, CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(flags.Get()));
+  flags_ = std::move(flags);
+}
+
+void frmOptions::FillLanguages() {
   for (LanguageEntry& language : ListLanguages(platform::ProgramFolder())) {
     COMBOBOXEXITEMW item{};
     item.mask = CBEIF_TEXT | CBEIF_IMAGE | CBEIF_SELECTEDIMAGE | CBEIF_LPARAM;
@@ -363,9 +373,13 @@ void frmOptions::cmdOK_Click() {
   CloseKeepingTab(IDOK);
 }
 
-/// However the dialog is closed, the page that was shown comes back next time.
+/// However the dialog is closed, the page that was shown comes back next time. A store that refuses keeps nobody here.
 void frmOptions::CloseKeepingTab(int result) {
-  SaveLastTab(ShownPage() + 1);
+  try {
+    SaveLastTab(ShownPage() + 1);
+  } catch (const std::exception& problem) {
+    ShowProblem(problem);
+  }
   Close(result);
 }
 

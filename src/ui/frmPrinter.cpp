@@ -80,9 +80,7 @@ void frmPrinter::cmdOK_Click() {
 }
 
 void frmPrinter::SetDuplex(int mode) {
-  for (int i = 0; i < kDuplexModes; ++i) {
-    SetChecked(optDuplex + i, i == mode);
-  }
+  Choose({optDuplex, optDuplex + 1, optDuplex + 2}, optDuplex + mode);
 }
 
 int frmPrinter::GetDuplex() const {

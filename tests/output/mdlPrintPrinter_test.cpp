@@ -225,14 +225,27 @@ TEST_F(PageWriter, ACancelledRunPrintsNothing) {
   EXPECT_EQ(printer.Aborted, 1);
 }
 
+/// Counts how often events get through; the user cancels at the first of them, if at all.
+struct PagesWatched final : Progress {
+  int Pumped = 0;
+  bool Cancels = false;
+  void ShowDirectory(std::wstring_view) override {}
+  void SetProgress(std::int32_t) override {}
+  void LetEventsThrough() override { ++Pumped; }
+  bool Cancelled() const override { return Cancels && Pumped > 0; }
+};
+
+TEST_F(PageWriter, AFileListStopsAtThePageOnWhichTheUserCancels) {
+  PagesWatched watcher;
+  watcher.Cancels = true;
+  run.Watcher = &watcher;
+  Begin(ListingStyle::FindWindow);
+  writer.FindList(std::vector<FoundItem>(500, {L"a.txt", L"C:\\Data", L"12 kb", L"now"}));
+  EXPECT_EQ(printer.Pages, 2);
+}
+
 TEST_F(PageWriter, EventsRunAtEveryPageOfAHugeDirectory) {
-  struct CountingProgress final : Progress {
-    int Pumped = 0;
-    void ShowDirectory(std::wstring_view) override {}
-    void SetProgress(std::int32_t) override {}
-    void LetEventsThrough() override { ++Pumped; }
-    bool Cancelled() const override { return false; }
-  } watcher;
+  PagesWatched watcher;
   run.Watcher = &watcher;
   Begin(ListingStyle::IncludeSubdirectories);
   ListDirectory(L"C:\\Data", 200);

@@ -40,10 +40,10 @@ TEST(ErrorText, HasOneTextForEachAction) {
     FailedAction action;
     const wchar_t* expected;
   } rows[] = {
-      {FailedAction::CreateFile, L"160 \"x\": no (5)"},   {FailedAction::ReadFile, L"161 \"x\": no (5)"},
-      {FailedAction::WriteFile, L"162 \"x\": no (5)"},    {FailedAction::DeleteFile, L"163 \"x\": no (5)"},
-      {FailedAction::WriteSetting, L"165 \"x\": no (5)"}, {FailedAction::Print, L"166 \"x\": no (5)"},
-      {FailedAction::StartProgram, L"167 \"x\": no (5)"}, {FailedAction::ReadWindow, L"168 \"x\": no (5)"},
+      {FailedAction::CreateFile, L"160 \"x\": no (5)"}, {FailedAction::ReadFile, L"161 \"x\": no (5)"},
+      {FailedAction::WriteFile, L"162 \"x\": no (5)"},  {FailedAction::WriteSetting, L"165 \"x\": no (5)"},
+      {FailedAction::Print, L"166 \"x\": no (5)"},      {FailedAction::StartProgram, L"167 \"x\": no (5)"},
+      {FailedAction::ReadWindow, L"168 \"x\": no (5)"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ErrorText(RuntimeError(row.action, L"x", L"no", 5), English()), row.expected);

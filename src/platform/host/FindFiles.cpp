@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -48,7 +49,9 @@ bool IsDots(const char* name) {
 
 std::uint64_t FileTime(const timespec& time) {
   constexpr std::int64_t kSecondsTo1970 = 11'644'473'600;
-  return static_cast<std::uint64_t>((time.tv_sec + kSecondsTo1970) * 10'000'000 + time.tv_nsec / 100);
+  constexpr std::int64_t kLastSecond = 900'000'000'000;  // what a file time can hold
+  const std::int64_t seconds = std::clamp<std::int64_t>(time.tv_sec, -kSecondsTo1970, kLastSecond);
+  return static_cast<std::uint64_t>((seconds + kSecondsTo1970) * 10'000'000 + time.tv_nsec / 100);
 }
 
 bool IsWritable(const struct stat& status) {

@@ -110,8 +110,12 @@ int Dialog::ShowModal(HWND owner) {
   modal_ = true;
   const std::vector<DWORD> made = TemplateWithSystemFont(resource_);
   const KeyWatch watch(*this);
-  return static_cast<int>(
-      DialogBoxIndirectParamW(Program(), AsTemplate(made), owner, Procedure, reinterpret_cast<LPARAM>(this)));
+  const INT_PTR result =
+      DialogBoxIndirectParamW(Program(), AsTemplate(made), owner, Procedure, reinterpret_cast<LPARAM>(this));
+  if (result == -1) {
+    ThrowNoWindow();
+  }
+  return static_cast<int>(result);
 }
 
 void Dialog::Create(HWND owner) {
@@ -119,9 +123,10 @@ void Dialog::Create(HWND owner) {
   modal_ = false;
   const std::vector<DWORD> made = TemplateWithSystemFont(resource_);
   CreateDialogIndirectParamW(Program(), AsTemplate(made), owner, Procedure, reinterpret_cast<LPARAM>(this));
-  if (window_ != nullptr) {
-    ModelessWindows().push_back(window_);
+  if (window_ == nullptr) {
+    ThrowNoWindow();
   }
+  ModelessWindows().push_back(window_);
 }
 
 void Dialog::Close(int result) {
@@ -192,18 +197,15 @@ LRESULT Dialog::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) co
   return SendMessageW(Item(control), message, wParam, lParam);
 }
 
-int Dialog::ChosenOf(std::initializer_list<int> buttons) const {
-  const auto* chosen = std::find_if(buttons.begin(), buttons.end(), [this](int button) { return Checked(button); });
-  return chosen == buttons.end() ? 0 : *chosen;
-}
-
 void Dialog::Choose(std::initializer_list<int> buttons, int button) {
+  // Arrow keys and Tab enter a group at its chosen button, or at the first one.
+  const bool any = std::find(buttons.begin(), buttons.end(), button) != buttons.end();
+  const int entrance = any ? button : *buttons.begin();
   for (const int each : buttons) {
     SetChecked(each, each == button);
-    // Arrow keys and Tab enter a group at its chosen button.
     const HWND item = Item(each);
     const LONG_PTR style = GetWindowLongPtrW(item, GWL_STYLE);
-    SetWindowLongPtrW(item, GWL_STYLE, each == button ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});
+    SetWindowLongPtrW(item, GWL_STYLE, each == entrance ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});
   }
 }
 
@@ -243,6 +245,13 @@ void Dialog::ShowPicture(int control, Picture& picture) {
   }
 }
 
+void Dialog::ShowPicturesAnew() {
+  for (auto& [control, picture] : pictures_) {
+    ShowPicture(control, *picture);
+  }
+  Form_DpiChanged();
+}
+
 void Dialog::GrowToPicture(int control, SIZE picture) {
   RECT room{};
   GetClientRect(Item(control), &room);
@@ -264,7 +273,7 @@ int Dialog::Scaled(int length) const {
 }
 
 int Dialog::WidthOfText(const std::wstring& text) const {
-  return WidthOfCaption(window_, text);
+  return WidthOfPlainText(window_, text);
 }
 
 void Dialog::On(int control, int code, Handler handler) {
@@ -387,17 +396,14 @@ INT_PTR Dialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         ShowHelp();
         return TRUE;
       case WM_CLOSE:
-        Form_QueryClose();
+        filled_ ? Form_QueryClose() : Close();
         return TRUE;
       case WM_DPICHANGED:
         // The system scales window and controls after this; pictures follow then.
         PostMessageW(window_, WM_APP, 0, 0);
         return FALSE;
       case WM_APP:
-        for (auto& [control, picture] : pictures_) {
-          ShowPicture(control, *picture);
-        }
-        Form_DpiChanged();
+        ShowPicturesAnew();
         return TRUE;
       default:
         return FALSE;
@@ -428,25 +434,25 @@ bool Dialog::Notify(int control, int code, HWND sender) {
   return false;
 }
 
-void LetWindowEventsThrough() {
+bool LetWindowEventsThrough() {
   MSG message{};
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
     if (message.message == WM_QUIT) {
       PostQuitMessage(static_cast<int>(message.wParam));
-      return;
+      return false;
     }
-    const auto& windows = ModelessWindows();
+    const auto windows = ModelessWindows();  // a copy: handlers open and close windows
     if (std::none_of(windows.begin(), windows.end(),
                      [&](HWND each) { return IsDialogMessageW(each, &message) != 0; })) {
       TranslateMessage(&message);
       DispatchMessageW(&message);
     }
   }
+  return true;
 }
 
 void RunUntilClosed(const Dialog& window) {
-  while (window.Window() != nullptr && WaitMessage() != 0) {
-    LetWindowEventsThrough();
+  while (window.Window() != nullptr && WaitMessage() != 0 && LetWindowEventsThrough()) {
   }
 }
 

@@ -46,8 +46,6 @@ class Dialog {
   void Enable(int control, bool enabled);
   void SetFocusTo(int control);
   LRESULT Send(int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  /// The id of the checked button among `buttons`, 0 when none is.
-  int ChosenOf(std::initializer_list<int> buttons) const;
   /// Checks `button` alone among `buttons`.
   void Choose(std::initializer_list<int> buttons, int button);
   void SetToolTip(int control, const std::wstring& text);
@@ -58,7 +56,7 @@ class Dialog {
   void AddItem(int control, const std::wstring& text);
   /// A length given for 96 dots per inch, in dots of this window's screen.
   int Scaled(int length) const;
-  /// The width of `text` in this window's font, in dots; "&" is not shown.
+  /// The width of `text` in this window's font, in dots; "&" is a letter like any other.
   int WidthOfText(const std::wstring& text) const;
 
  protected:
@@ -114,6 +112,7 @@ class Dialog {
   void GrowToPicture(int control, SIZE picture);
   static void GrowWindow(HWND window, SIZE by);
   void ShowPicture(int control, Picture& picture);
+  void ShowPicturesAnew();
 
   int resource_;
   HWND window_ = nullptr;
@@ -126,9 +125,9 @@ class Dialog {
   std::map<int, std::unique_ptr<Picture>> pictures_;
 };
 
-/// Lets pending events of all windows run and returns when none is left.
-void LetWindowEventsThrough();
-/// Runs events until `window` is destroyed.
+/// Lets pending events of all windows run and returns when none is left; false when the program has been asked to end.
+bool LetWindowEventsThrough();
+/// Runs events until `window` is destroyed or the program is asked to end.
 void RunUntilClosed(const Dialog& window);
 
 }  // namespace folivant::platform

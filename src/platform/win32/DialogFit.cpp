@@ -29,14 +29,15 @@ std::wstring ClassOf(HWND control) {
   return name;
 }
 
-int LineHeight(HWND control) {
+/// The box that one line of `text` takes in the window's font.
+RECT Measure(HWND window, const std::wstring& text, UINT format) {
   RECT box{};
-  const HDC screen = GetDC(control);
-  const HGDIOBJ old = SelectObject(screen, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
-  DrawTextW(screen, L"X", 1, &box, DT_CALCRECT | DT_SINGLELINE);
+  const HDC screen = GetDC(window);
+  const HGDIOBJ old = SelectObject(screen, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
+  DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &box, DT_CALCRECT | DT_SINGLELINE | format);
   SelectObject(screen, old);
-  ReleaseDC(control, screen);
-  return static_cast<int>(box.bottom);
+  ReleaseDC(window, screen);
+  return box;
 }
 
 Kind KindOfButton(LONG_PTR style) {
@@ -65,8 +66,9 @@ Kind KindOfLabel(HWND control, LONG_PTR style) {
   const bool isText = type == SS_LEFT || type == SS_CENTER || type == SS_RIGHT || type == SS_LEFTNOWORDWRAP;
   RECT box{};
   GetClientRect(control, &box);
-  const bool mayWrap = 2 * box.bottom > 3 * LineHeight(control);
-  return isText && !mayWrap && (style & SS_ELLIPSISMASK) == 0 ? Kind::Label : Kind::Other;
+  const bool mayWrap = 2 * box.bottom > 3 * Measure(control, L"X", 0).bottom;
+  const bool shown = (style & WS_VISIBLE) != 0;
+  return isText && shown && !mayWrap && (style & SS_ELLIPSISMASK) == 0 ? Kind::Label : Kind::Other;
 }
 
 Kind KindOf(HWND control) {
@@ -195,13 +197,11 @@ void Apply(const std::vector<Placed>& children) {
 }  // namespace
 
 int WidthOfCaption(HWND window, const std::wstring& text) {
-  RECT box{};
-  const HDC screen = GetDC(window);
-  const HGDIOBJ old = SelectObject(screen, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
-  DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &box, DT_CALCRECT | DT_SINGLELINE);
-  SelectObject(screen, old);
-  ReleaseDC(window, screen);
-  return static_cast<int>(box.right);
+  return static_cast<int>(Measure(window, text, 0).right);
+}
+
+int WidthOfPlainText(HWND window, const std::wstring& text) {
+  return static_cast<int>(Measure(window, text, DT_NOPREFIX).right);
 }
 
 int NeededWidth(HWND control) {

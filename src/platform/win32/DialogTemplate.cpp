@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <exception>
 
 #include "platform/win32/WindowSystem.h"
 
@@ -41,7 +40,7 @@ const WORD* AfterName(const WORD* at) {
 std::vector<DWORD> TemplateWithSystemFont(int resource) {
   const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(resource), RT_DIALOG);
   if (found == nullptr) {
-    throw std::exception();
+    ThrowNoWindow();
   }
   const auto* bytes = static_cast<const BYTE*>(LockResource(LoadResource(nullptr, found)));
   const std::size_t size = SizeofResource(nullptr, found);

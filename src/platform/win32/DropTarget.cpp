@@ -4,6 +4,7 @@
 #include <shlobj.h>
 
 #include <exception>
+#include <memory>
 
 #ifdef __GNUC__
 // Interfaces of the system have no virtual destructor; objects behind them delete themselves.
@@ -24,13 +25,13 @@ std::wstring FirstItem(IDataObject* object) {
   if (FAILED(object->GetData(&format, &medium))) {
     return {};
   }
+  const std::unique_ptr<STGMEDIUM, decltype(&ReleaseStgMedium)> owned(&medium, ReleaseStgMedium);
   std::wstring path;
   if (auto* drop = static_cast<HDROP>(GlobalLock(medium.hGlobal)); drop != nullptr) {
     path.resize(DragQueryFileW(drop, 0, nullptr, 0));
     DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size()) + 1);
     GlobalUnlock(medium.hGlobal);
   }
-  ReleaseStgMedium(&medium);
   return path;
 }
 
@@ -38,7 +39,8 @@ std::wstring FirstItem(IDataObject* object) {
 
 class DropTarget::Target final : public IDropTarget {
  public:
-  explicit Target(std::function<void(const std::wstring&)> dropped) : dropped_(std::move(dropped)) {}
+  Target(HWND window, std::function<void(const std::wstring&)> dropped)
+      : frame_(GetAncestor(window, GA_ROOT)), dropped_(std::move(dropped)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
     const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropTarget);
@@ -71,7 +73,7 @@ class DropTarget::Target final : public IDropTarget {
   HRESULT STDMETHODCALLTYPE Drop(IDataObject* object, DWORD, POINTL, DWORD* effect) override {
     *effect = DROPEFFECT_NONE;
     try {
-      if (const std::wstring path = FirstItem(object); !path.empty()) {
+      if (const std::wstring path = FirstItem(object); !path.empty() && TakesOrders()) {
         dropped_(path);
         *effect = DROPEFFECT_COPY;
       }
@@ -82,15 +84,17 @@ class DropTarget::Target final : public IDropTarget {
   }
 
  private:
-  DWORD Effect() const { return accepts_ ? DROPEFFECT_COPY : DROPEFFECT_NONE; }
+  bool TakesOrders() const { return IsWindowEnabled(frame_) != FALSE; }
+  DWORD Effect() const { return accepts_ && TakesOrders() ? DROPEFFECT_COPY : DROPEFFECT_NONE; }
 
+  HWND frame_;
   std::function<void(const std::wstring&)> dropped_;
   ULONG references_ = 1;
   bool accepts_ = false;
 };
 
 DropTarget::DropTarget(HWND window, std::function<void(const std::wstring&)> dropped)
-    : window_(window), target_(new Target(std::move(dropped))) {
+    : window_(window), target_(new Target(window, std::move(dropped))) {
   RegisterDragDrop(window_, target_);
 }
 

@@ -12,24 +12,11 @@
 namespace folivant::platform {
 namespace {
 
-/// An empty drive must not ask for a disk in a box of the system.
-class QuietDrives {
- public:
-  QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_); }
-  ~QuietDrives() { SetThreadErrorMode(before_, nullptr); }
-  QuietDrives(const QuietDrives&) = delete;
-  QuietDrives& operator=(const QuietDrives&) = delete;
-
- private:
-  DWORD before_ = 0;
-};
-
 std::wstring WithBackslash(std::wstring_view path) {
   return std::wstring(path) + (path.ends_with(L'\\') ? L"" : L"\\");
 }
 
 DWORD AttributesOf(std::wstring_view path) {
-  const QuietDrives quiet;
   return GetFileAttributesW(NativePath(path).c_str());
 }
 
@@ -50,8 +37,9 @@ void WriteAll(HANDLE file, std::string_view bytes, const std::wstring& path) {
   while (!bytes.empty()) {
     const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 20));
     DWORD written = 0;
-    if (!::WriteFile(file, bytes.data(), wanted, &written, nullptr)) {
-      throw SystemError(FailedAction::WriteFile, path, GetLastError());
+    const BOOL done = ::WriteFile(file, bytes.data(), wanted, &written, nullptr);
+    if (done == FALSE || written == 0) {
+      throw SystemError(FailedAction::WriteFile, path, done == FALSE ? GetLastError() : ERROR_WRITE_FAULT);
     }
     bytes.remove_prefix(written);
   }
@@ -198,7 +186,6 @@ std::optional<std::wstring> SendToFolder() {
 }
 
 std::wstring VolumeLabel(const std::wstring& root) {
-  const QuietDrives quiet;
   std::array<wchar_t, MAX_PATH + 1> label;
   const bool known = GetVolumeInformationW(WithBackslash(root).c_str(), label.data(), static_cast<DWORD>(label.size()),
                                            nullptr, nullptr, nullptr, nullptr, 0) != 0;
@@ -206,7 +193,6 @@ std::wstring VolumeLabel(const std::wstring& root) {
 }
 
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
-  const QuietDrives quiet;
   ULARGE_INTEGER total;
   ULARGE_INTEGER totalFree;
   if (!GetDiskFreeSpaceExW(WithBackslash(NativePath(directory)).c_str(), nullptr, &total, &totalFree)) {

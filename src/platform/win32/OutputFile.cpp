@@ -48,8 +48,9 @@ struct OutputFile::State {
     std::string_view rest = Bytes;
     while (!rest.empty()) {
       DWORD written = 0;
-      if (!::WriteFile(File.Get(), rest.data(), static_cast<DWORD>(rest.size()), &written, nullptr)) {
-        throw SystemError(FailedAction::WriteFile, Path, GetLastError());
+      const BOOL done = ::WriteFile(File.Get(), rest.data(), static_cast<DWORD>(rest.size()), &written, nullptr);
+      if (done == FALSE || written == 0) {  // a device that takes nothing would hold the run for ever
+        throw SystemError(FailedAction::WriteFile, Path, done == FALSE ? GetLastError() : ERROR_WRITE_FAULT);
       }
       rest.remove_prefix(written);
     }

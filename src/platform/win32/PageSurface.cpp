@@ -10,7 +10,6 @@
 namespace folivant::platform {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kPointsPerInch = 72;
 
 struct FontKind {
@@ -36,22 +35,25 @@ DWORD SpoolerError(int result) {
 
 class PrinterSurface final : public PageSurface {
  public:
+  /// Begin follows: a job that fails on its first page has to be taken back.
   PrinterSurface(std::wstring printer, const PrintJob& job)
       : printer_(std::move(printer)),
         dc_(OpenPrinterContext(printer_, job)),
         area_(AreaOf(Dc())),
         dotsPerTwipX_(GetDeviceCaps(Dc(), LOGPIXELSX) / kTwipsPerInch),
-        dotsPerTwipY_(GetDeviceCaps(Dc(), LOGPIXELSY) / kTwipsPerInch) {
+        dotsPerTwipY_(GetDeviceCaps(Dc(), LOGPIXELSY) / kTwipsPerInch) {}
+  ~PrinterSurface() override { AbortDocument(); }
+  PrinterSurface(const PrinterSurface&) = delete;
+  PrinterSurface& operator=(const PrinterSurface&) = delete;
+
+  void Begin(const std::wstring& title) {
     DOCINFOW document{};
     document.cbSize = sizeof document;
-    document.lpszDocName = job.Title.c_str();
+    document.lpszDocName = title.c_str();
     Check([&] { return StartDocW(Dc(), &document); });
     open_ = true;
     BeginPage();
   }
-  ~PrinterSurface() override { AbortDocument(); }
-  PrinterSurface(const PrinterSurface&) = delete;
-  PrinterSurface& operator=(const PrinterSurface&) = delete;
 
   PageArea Area() const override { return area_; }
 
@@ -159,7 +161,9 @@ class PrinterSurface final : public PageSurface {
 }  // namespace
 
 std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
-  return std::make_unique<PrinterSurface>(PrinterOf(job), job);
+  auto surface = std::make_unique<PrinterSurface>(PrinterOf(job), job);
+  surface->Begin(job.Title);
+  return surface;
 }
 
 PageArea PageAreaOf(const PrintJob& job) {

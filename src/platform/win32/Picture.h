@@ -6,9 +6,10 @@
 
 namespace folivant::platform {
 
+/// Its width and height in dots; zeros without a bitmap.
 SIZE SizeOfBitmap(HBITMAP bitmap);
 
-/// The picture for `dpi` dots per inch: drawn for it, or made smaller from the next larger drawing.
+/// The picture for `dpi` dots per inch: drawn for it, or stretched from the nearest drawing. Empty when there is none.
 OwnedBitmap LoadPicture(int resource, int dpi);
 
 }  // namespace folivant::platform

@@ -9,12 +9,11 @@
 #include <span>
 #include <utility>
 
+#include "platform/Printers.h"
 #include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 struct PrinterKind {
   using Raw = HANDLE;
@@ -136,14 +135,11 @@ std::wstring PrinterOf(const PrintJob& job) {
   if (!job.PrinterName.empty()) {
     return job.PrinterName;
   }
-  DWORD length = 0;
-  GetDefaultPrinterW(nullptr, &length);
-  std::wstring name(length, L'\0');
-  if (GetDefaultPrinterW(name.data(), &length) == FALSE) {
+  const std::optional<std::wstring> name = DefaultPrinterName();
+  if (!name) {
     throw SystemError(FailedAction::Print, {}, GetLastError());
   }
-  name.resize(length - 1);  // the length counts the final zero
-  return name;
+  return *name;
 }
 
 OwnedDeviceContext OpenPrinterContext(const std::wstring& printer, const PrintJob& job) {

@@ -1,5 +1,6 @@
 #include "platform/win32/Shell.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 #include <shellapi.h>
 #include <shlobj.h>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "platform/win32/SystemError.h"
+#include "platform/win32/WindowSystem.h"
 
 namespace folivant::platform {
 namespace {
@@ -45,7 +47,12 @@ bool Ask(HWND owner, FileDialog& dialog, DWORD flags, DialogCall call) {
   data.lpstrInitialDir = dialog.Folder.empty() ? nullptr : dialog.Folder.c_str();
   data.lpstrDefExt = dialog.DefaultExtension.empty() ? nullptr : dialog.DefaultExtension.c_str();
   data.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING | flags;
-  if (call(&data) == FALSE) {
+  BOOL chosen = call(&data);
+  if (chosen == FALSE && CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
+    name[0] = L'\0';  // a preset that is no file name must not keep the dialog from opening
+    chosen = call(&data);
+  }
+  if (chosen == FALSE) {
     return false;
   }
   dialog.FileName = name.data();
@@ -65,8 +72,8 @@ std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& titl
   browse.lpfn = PreselectStart;
   browse.lParam = reinterpret_cast<LPARAM>(start.c_str());
   const std::unique_ptr<ITEMIDLIST, decltype(&CoTaskMemFree)> chosen(SHBrowseForFolderW(&browse), CoTaskMemFree);
-  std::array<wchar_t, MAX_PATH> path{};
-  if (!chosen || SHGetPathFromIDListW(chosen.get(), path.data()) == FALSE) {
+  std::vector<wchar_t> path(kPathRoom);
+  if (!chosen || !SHGetPathFromIDListEx(chosen.get(), path.data(), static_cast<DWORD>(path.size()), GPFIDL_DEFAULT)) {
     return std::nullopt;
   }
   return std::wstring(path.data());
@@ -82,12 +89,9 @@ bool AskForOpenName(HWND owner, FileDialog& dialog) {
 }
 
 bool AskForFont(HWND owner, FontChoice& font) {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-  ReleaseDC(nullptr, screen);
   LOGFONTW logical{};
   font.Name.copy(logical.lfFaceName, LF_FACESIZE - 1);
-  logical.lfHeight = -MulDiv(font.Points, dpi, 72);
+  logical.lfHeight = -MulDiv(font.Points, SystemDpi(), 72);
   logical.lfWeight = FW_NORMAL;
   logical.lfCharSet = DEFAULT_CHARSET;
   CHOOSEFONTW data{};
@@ -121,7 +125,8 @@ void OpenDocument(HWND owner, const std::wstring& file) {
 }
 
 void OpenInProgram(HWND owner, const std::wstring& program, const std::wstring& file) {
-  ShellExecuteW(owner, L"open", program.c_str(), file.c_str(), nullptr, SW_SHOWNORMAL);
+  const std::wstring quoted = L'"' + file + L'"';
+  ShellExecuteW(owner, L"open", program.c_str(), quoted.c_str(), nullptr, SW_SHOWNORMAL);
 }
 
 }  // namespace folivant::platform

@@ -45,7 +45,7 @@ void OpenInProgram(HWND owner, const std::wstring& program, const std::wstring& 
 class DropTarget {
  public:
   /// `dropped` gets the first file-system item of each drop; its errors end the drop silently. The source learns that
-  /// the item was copied.
+  /// the item was copied. Nothing is accepted while the top-level window takes no orders.
   DropTarget(HWND window, std::function<void(const std::wstring& path)> dropped);
   ~DropTarget();
   DropTarget(const DropTarget&) = delete;

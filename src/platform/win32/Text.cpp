@@ -80,6 +80,9 @@ void AppendSortKey(std::wstring_view text, std::string& keys) {
   }
   const std::size_t start = keys.size();
   const int needed = map(nullptr, 0);
+  if (needed <= 0) {
+    return;  // refused: sorts first
+  }
   keys.resize(start + static_cast<std::size_t>(needed));
   map(keys.data() + start, needed);
   keys.pop_back();

@@ -3,6 +3,9 @@
 #include <commctrl.h>
 #include <ole2.h>
 
+#include <stdexcept>
+#include <string>
+
 namespace folivant::platform {
 
 void PrepareWindows() {
@@ -36,6 +39,10 @@ int DpiOf(HWND window) {
       reinterpret_cast<GetDpi>(reinterpret_cast<Plain>(NewerFunction(L"user32.dll", "GetDpiForWindow")));
   const int dpi = getDpi != nullptr && window != nullptr ? static_cast<int>(getDpi(window)) : 0;
   return dpi > 0 ? dpi : SystemDpi();
+}
+
+void ThrowNoWindow() {
+  throw std::runtime_error("A window could not be opened (" + std::to_string(GetLastError()) + ").");
 }
 
 }  // namespace folivant::platform

@@ -4,5 +4,7 @@
 #include "platform/win32/Win32.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+  SetErrorMode(GetErrorMode() |
+               SEM_FAILCRITICALERRORS);  // an empty drive must not ask for a disk in a box of the system
   return folivant::Start(commandLine);
 }
