@@ -51,6 +51,13 @@ class FittingTexts {
     }
   }
 
+  /// In dots; `format` is what DrawText takes, such as DT_NOPREFIX.
+  LONG WidthOf(const std::wstring& text, UINT format = 0) const {
+    RECT box{};
+    DrawTextW(screen_, text.c_str(), -1, &box, DT_CALCRECT | DT_SINGLELINE | format);
+    return box.right;
+  }
+
  private:
   LONG Scaled(LONG length) const { return MulDiv(length, dpi_, 96); }
 
@@ -59,20 +66,14 @@ class FittingTexts {
     const std::wstring kind = control.ClassName();
     const LONG_PTR style = GetWindowLongPtrW(control.Handle(), GWL_STYLE);
     const RECT box = control.Rectangle();
-    const bool label = kind == L"Static" && (style & SS_TYPEMASK) <= SS_RIGHT && (style & SS_ELLIPSISMASK) == 0 &&
-                       box.bottom - box.top < Scaled(25);
+    const bool label = kind == L"Static" && (style & WS_VISIBLE) != 0 && (style & SS_TYPEMASK) <= SS_RIGHT &&
+                       (style & SS_ELLIPSISMASK) == 0 && box.bottom - box.top < Scaled(25);
     const bool button = kind == L"Button" && box.right - box.left > Scaled(22);
     if (!label && !button) {
       return 0;
     }
     const bool push = (style & BS_TYPEMASK) <= BS_DEFPUSHBUTTON;
     return WidthOf(control.Text()) + (label ? 0 : push ? Scaled(8) : Scaled(16));
-  }
-
-  LONG WidthOf(const std::wstring& text) const {
-    RECT box{};
-    DrawTextW(screen_, text.c_str(), -1, &box, DT_CALCRECT | DT_SINGLELINE);
-    return box.right;
   }
 
   HFONT font_;

@@ -110,6 +110,20 @@ TEST_F(Dialogs, TheFilterStoresWhatWasChosen) {
   EXPECT_EQ(ReadStore(L"Filter", L"FilterName"), L"*.txt, *.doc") << "cancel changes nothing";
 }
 
+TEST_F(Dialogs, TheFilterTakesAnOrderWithoutAMeaningForNone) {
+  const std::wstring file = scratch.FilterFile(L"odd.fvf", {"OrderBy=30000"});
+  main.Press(cmdLoad);
+  const Window open = program.WaitForBox(main);
+  Confirm(open, file);
+  EXPECT_TRUE(open.WaitUntilGone());
+  const Window filter = Show(cmdFilter, 200);
+  for (const int order : {optName, optExt, optDOS, optSize, optDate}) {
+    EXPECT_FALSE(filter.IsChecked(order)) << order;
+  }
+  Dismiss(filter, cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"OrderBy"), L"0");
+}
+
 TEST_F(Dialogs, TheFilterNamesASizeThatIsNoNumber) {
   const Window filter = Show(cmdFilter, 200);
   filter.SetText(txtName, L"*.zip");

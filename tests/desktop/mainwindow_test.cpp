@@ -1,6 +1,7 @@
 // The main window: what it shows, each destination from its OK button, filter files, and what comes back at the next
 // start.
 #include "desktop/MainWindow.h"
+#include "desktop/FittingTexts.h"
 
 namespace folivant::desktop {
 namespace {
@@ -103,6 +104,36 @@ TEST_F(MainWindow, TwoScreenRunsWriteTheSameFileAndStartTheViewer) {
     EXPECT_NE(ReadBytes(file).find("A.txt"), std::string::npos) << "run " << run;
     EXPECT_TRUE(main.IsEnabled()) << "the window stays open";
   }
+  Close(program, main);
+}
+
+TEST_F(MainWindow, TheViewerGetsAFileInAFolderWithBlanksAsOneParameter) {
+  wchar_t before[MAX_PATH];
+  GetTempPathW(MAX_PATH, before);
+  SetEnvironmentVariableW(L"TMP", scratch.Dir(L"with blanks").c_str());
+  WriteStore(L"Settings", L"TextViewer", scratch.File(L"viewer.cmd", "@copy %1 \"%~dp0seen.txt\" >nul\r\n"));
+  const Program program(Argument());
+  SetEnvironmentVariableW(L"TMP", before);
+  const Window main = Main(program);
+  main.Click(optScreen);
+  main.Press(cmdOK);
+  EXPECT_TRUE(WaitUntil([&] { return Exists(scratch / L"seen.txt"); }));
+  EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+  Close(program, main);
+}
+
+TEST_F(MainWindow, APathWithAmpersandsIsMeasuredAsItIsShown) {
+  std::wstring below = L"R&D";
+  for (int level = 0; level < 20; ++level) {
+    below += L"\\R&D";
+  }
+  const std::wstring folder = scratch.Dir(below);
+  const Program program(L'"' + folder + L'"');
+  const Window main = Main(program);
+  const Window label = main.Control(lblPath);
+  RECT room{};
+  GetClientRect(label.Handle(), &room);
+  EXPECT_LE(FittingTexts().WidthOf(label.Text(), DT_NOPREFIX), room.right) << testing::PrintToString(label.Text());
   Close(program, main);
 }
 

@@ -148,6 +148,15 @@ TEST_F(Printers, AStoredPrinterThatIsGoneIsNotChosenAndOkStoresAnEmptyName) {
   EXPECT_EQ(Printer(L"PrinterName"), L"");
 }
 
+TEST_F(Printers, WithoutAChoiceTheDefaultPrinterIsStoredAtTheEnd) {
+  WriteStore(L"Settings", L"PrinterName", L"(no printer)");
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Press(cmdCancel);
+  EXPECT_EQ(program.WaitForExit(), 0u);
+  EXPECT_EQ(Printer(L"PrinterName"), L"Plain");
+}
+
 TEST_F(Printers, WithoutAChoiceTheOptionsShowTheDefaultPrinter) {
   WriteStore(L"Settings", L"PrinterName", L"(no printer)");
   const Program program(L"");
@@ -243,7 +252,7 @@ TEST_F(Printers, ACancelledRunPrintsNothing) {
   const Program program(L"");
   main = program.WaitForWindow(L"Folivant");
   main.Press(cmdOK);
-  const Window progress = program.WaitForWindow(L"Folivant - Listing");
+  const Window progress = program.WaitForWindow(L"Folivant - Printing");
   progress.Press(cmdCancel);
   program.WaitForBox(progress).Answer(IDYES);
   ASSERT_TRUE(progress.WaitUntilGone());
