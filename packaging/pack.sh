@@ -1,6 +1,7 @@
 #!/bin/bash
 # Packs a finished Windows build:  packaging/pack.sh BUILD DIST [VERSION]
-# VERSION is that of the project unless a test plays an older one.
+# VERSION is that of the project unless a test plays an older one. What the manifests say comes from package.conf, or from
+# the file named by PACKAGE_CONF.
 # Leaves in DIST the installer, the portable zip, the package managers' manifests and SHA256SUMS. The same commit gives the
 # same bytes: all times are those of the commit (or SOURCE_DATE_EPOCH), all lists are sorted.
 set -euo pipefail
@@ -13,7 +14,7 @@ version=${3:-$(sed -n 's/^project(Folivant VERSION \([0-9.]*\).*/\1/p' "$root/CM
 : "${SOURCE_DATE_EPOCH:=$(git -C "$root" log -1 --format=%ct)}"
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
 # shellcheck source=packaging/package.conf
-. "$here/package.conf"
+. "${PACKAGE_CONF:-$here/package.conf}"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -49,7 +50,7 @@ list_files() {
 }
 
 pack_installer() {
-  (cd "$here" && makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DSTAGE="$stage" -DFILES="$work/files" \
+  (cd "$here" && makensis -V2 -NOCONFIG -INPUTCHARSET UTF8 -DVERSION="$version" -DSTAGE="$stage" -DFILES="$work/files" \
     -DOUTPUT="$dist/$setup" Folivant.nsi)
 }
 
@@ -60,14 +61,11 @@ pack_zip() {
 
 sha256_of() { sha256sum "$dist/$1" | cut -d' ' -f1; }
 
-# Each @NAME@ of a template becomes its value.
 fill() {
-  mkdir -p "$(dirname "$2")"
-  sed -e "s,@VERSION@,$version,g" -e "s,@PUBLISHER@,$PUBLISHER,g" -e "s,@IDENTIFIER@,$IDENTIFIER,g" \
-    -e "s,@LICENSE@,$LICENSE,g" -e "s,@HOMEPAGE@,$HOMEPAGE,g" -e "s|@SUMMARY@|$SUMMARY|g" \
-    -e "s|@DESCRIPTION@|$DESCRIPTION|g" -e "s,@DATE@,$(date -u -d "@$SOURCE_DATE_EPOCH" +%F),g" \
-    -e "s,@SETUP_URL@,$DOWNLOADS/$setup,g" -e "s,@PORTABLE_URL@,$DOWNLOADS/$portable,g" \
-    -e "s,@SETUP_SHA256@,$(sha256_of "$setup"),g" -e "s,@PORTABLE_SHA256@,$(sha256_of "$portable"),g" "$1" >"$2"
+  python3 "$here/fill.py" "$1" "$2" VERSION="$version" PUBLISHER="$PUBLISHER" IDENTIFIER="$IDENTIFIER" \
+    LICENSE="$LICENSE" HOMEPAGE="$HOMEPAGE" SUMMARY="$SUMMARY" DESCRIPTION="$DESCRIPTION" \
+    DATE="$(date -u -d "@$SOURCE_DATE_EPOCH" +%F)" SETUP_URL="$DOWNLOADS/$setup" PORTABLE_URL="$DOWNLOADS/$portable" \
+    SETUP_SHA256="$(sha256_of "$setup")" PORTABLE_SHA256="$(sha256_of "$portable")"
 }
 
 fill_manifests() {

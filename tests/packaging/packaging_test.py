@@ -8,6 +8,7 @@ import hashlib
 import json
 import os
 import re
+import shlex
 import shutil
 import subprocess
 import sys
@@ -46,9 +47,10 @@ def tearDownModule():
     shutil.rmtree(scratch)
 
 
-def pack(build, name, *version):
+def pack(build, name, *version, **environment):
     folder = scratch / name
-    subprocess.run([ROOT / 'packaging/pack.sh', build, folder, *version], check=True, stdout=subprocess.DEVNULL)
+    subprocess.run([ROOT / 'packaging/pack.sh', build, folder, *version], check=True, stdout=subprocess.DEVNULL,
+                   env=os.environ | environment)
     return folder
 
 
@@ -106,12 +108,13 @@ def value(key, name=''):
     return found.get(full, {}).get(name)
 
 
-def install(folder, *switches):
-    return wine(folder / next(p.name for p in folder.iterdir() if p.name.endswith('-setup.exe')), '/S', *switches)
+def install(folder, *switches, **options):
+    setup = next(p.name for p in folder.iterdir() if p.name.endswith('-setup.exe'))
+    return wine(folder / setup, '/S', *switches, **options)
 
 
-def uninstall(place, *switches):
-    done = wine(place / 'Uninstall.exe', '/S', *switches)
+def uninstall(place, *switches, **options):
+    done = wine(place / 'Uninstall.exe', '/S', *switches, **options)
     wait_until(lambda: not place.exists(), 'the uninstaller is done')
     time.sleep(1)  # its copy in the temporary folder goes on for a moment
     return done
@@ -204,6 +207,29 @@ class Package(unittest.TestCase):
         for path in (dist / 'manifests').rglob('*.*'):
             self.assertNotRegex(path.read_text(), '@[A-Z0-9_]+@', path.name)
 
+    def test_manifests_hold_any_text(self):
+        texts = {'PUBLISHER': 'Jones & Söhne, "Inc." #1: <O\'Neil>', 'IDENTIFIER': 'Folivant.Folivant', 'LICENSE': 'yes',
+                 'HOMEPAGE': 'https://folivant.example/?a=1&b=2', 'DOWNLOADS': "https://folivant.example/o'neil/a&b,c|d",
+                 'SUMMARY': '@VERSION@ | \\1, "tabs" & more', 'DESCRIPTION': '- It lists: C:\\new\\table, {x}'}
+        conf = scratch / 'package.conf'
+        conf.write_text(''.join(f'{name}={shlex.quote(text)}\n' for name, text in texts.items()))
+        manifests = pack(BUILD, 'any-text', PACKAGE_CONF=str(conf)) / 'manifests'
+        winget = yaml.safe_load((manifests / 'winget/Folivant.Folivant.locale.en-US.yaml').read_text())
+        self.assertEqual([texts[name] for name in ('PUBLISHER', 'LICENSE', 'HOMEPAGE', 'SUMMARY', 'DESCRIPTION')],
+                         [winget[name] for name in ('Publisher', 'License', 'PackageUrl', 'ShortDescription', 'Description')])
+        installer = yaml.safe_load((manifests / 'winget/Folivant.Folivant.installer.yaml').read_text())
+        self.assertEqual(f"{texts['DOWNLOADS']}/{SETUP}", installer['Installers'][0]['InstallerUrl'])
+        scoop = json.loads((manifests / 'scoop/folivant.json').read_text())
+        self.assertEqual([texts[name] for name in ('SUMMARY', 'HOMEPAGE', 'LICENSE')],
+                         [scoop[name] for name in ('description', 'homepage', 'license')])
+        self.assertEqual(f"{texts['DOWNLOADS']}/{PORTABLE}", scoop['architecture']['64bit']['url'])
+        space = '{http://schemas.microsoft.com/packaging/2015/06/nuspec.xsd}'
+        metadata = ElementTree.parse(manifests / 'chocolatey/folivant.nuspec').getroot().find(space + 'metadata')
+        self.assertEqual([texts[name] for name in ('PUBLISHER', 'HOMEPAGE', 'SUMMARY', 'DESCRIPTION')],
+                         [metadata.find(space + name).text for name in ('authors', 'projectUrl', 'summary', 'description')])
+        script = (manifests / 'chocolatey/tools/chocolateyinstall.ps1').read_text()
+        self.assertIn(f"-Url64bit 'https://folivant.example/o''neil/a&b,c|d/{SETUP}' -Checksum64", script)
+
     def test_zip_runs_from_a_folder_with_blanks_and_letters_beyond_ascii(self):
         place = scratch / 'Übung mit Ж blanks'
         zipfile.ZipFile(dist / PORTABLE).extractall(place)
@@ -232,24 +258,23 @@ class Installation(unittest.TestCase):
         left = [str(p) for top in (PREFIX / 'drive_c', HOME) for p in top.rglob('*') if 'folivant' in p.name.lower()]
         self.assertEqual([], left)
 
-    def opened_path(self, line):
-        """Starts the line, closes the window that comes, and returns the folder that the program then remembers: None when
-        it was given a list of files, which it does not keep."""
-        wine('reg', 'delete', r'HKCU\Software\Folivant 3.0', '/f')
+    def open_window(self, line):
+        """Starts the line, which opens the program's window; returns the process and the window."""
         started = run_line(line)
         window = []
 
         def shown():
-            found = subprocess.run(['xdotool', 'search', '--onlyvisible', '--name', '^Folivant$'], text=True,
-                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout.split()
-            window[:] = found
-            return bool(found)
+            window[:] = subprocess.run(['xdotool', 'search', '--onlyvisible', '--name', '^Folivant$'], text=True,
+                                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout.split()
+            return bool(window)
 
         wait_until(shown, 'the main window')
+        return started, window[0]
 
+    def close_window(self, started, window):
         def closed():
             # Keys go to the window that has the focus, which on a busy machine may not be this one yet.
-            subprocess.run(['timeout', '5', 'xdotool', 'windowactivate', '--sync', window[0], 'key', '--clearmodifiers',
+            subprocess.run(['timeout', '5', 'xdotool', 'windowactivate', '--sync', window, 'key', '--clearmodifiers',
                             'alt+F4'], stderr=subprocess.DEVNULL)
             try:
                 return started.wait(3) is not None
@@ -257,6 +282,12 @@ class Installation(unittest.TestCase):
                 return False
 
         wait_until(closed, 'the end of the program')
+
+    def opened_path(self, line):
+        """Starts the line, closes the window that comes, and returns the folder that the program then remembers: None when
+        it was given a list of files, which it does not keep."""
+        wine('reg', 'delete', r'HKCU\Software\Folivant 3.0', '/f')
+        self.close_window(*self.open_window(line))
         wait_until(lambda: value(r'HKCU\Software\Folivant 3.0\Settings', 'TextWidth') is not None, 'the settings')
         time.sleep(1)  # the rest of them
         return value(r'HKCU\Software\Folivant 3.0\Settings', 'Path')
