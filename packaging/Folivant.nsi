@@ -5,7 +5,12 @@
 ;   Uninstall.exe [/S] [/DeleteSettings]
 ;
 ; /S shows nothing. /D comes last and takes no quotes. Without a scope the installed copy is renewed where it is, and a
-; first installation is for the current user alone, without elevation.
+; first installation is for the current user alone, without elevation. Status 0: done, 1: cancelled or without the rights,
+; 2: Folivant is running or a file cannot be written. The uninstaller's own start copies it elsewhere and ends with 0 at
+; once; whoever wants to wait for the end gives it _?=FOLDER as its last argument, and deletes Uninstall.exe then. Both pass
+; /Elevated to themselves when they start again as an administrator.
+;
+; Functions keep the registers of their callers.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -41,6 +46,7 @@ VIAddVersionKey "LegalCopyright" ""
 !define DROP_HANDLER "{86C86720-42A0-1069-A2E8-08002B30309D}"
 
 Var Scope        ; "user" or "all"
+Var GivenFolder  ; that of /D, which is no longer among the parameters
 Var ForAll       ; the radio button
 Var DropSettings ; the uninstaller's check box, then its state
 
@@ -79,56 +85,84 @@ UninstPage custom un.SettingsPage un.SettingsPageLeave
 ; Deletes what $INSTDIR\files.lst names: one file a line, folders with a "\" at their end after what they hold. The list
 ; of the installed version is the one that counts, so an upgrade leaves nothing of its predecessor behind.
 Function ${un}DeleteListedFiles
+  Push $0
+  Push $1
+  Push $2
   ClearErrors
   FileOpen $0 "$INSTDIR\files.lst" r
-  ${If} ${Errors}
-    Return
+  ${IfNot} ${Errors}
+    ${Do}
+      FileRead $0 $1
+      ${If} ${Errors}
+        ${ExitDo}
+      ${EndIf}
+      ${${un}TrimNewLines} $1 $1
+      StrCpy $2 $1 1 -1
+      ${If} $2 == "\"
+        RMDir "$INSTDIR\$1"
+      ${ElseIf} $1 != ""
+        Delete "$INSTDIR\$1"
+      ${EndIf}
+      ClearErrors
+    ${Loop}
+    FileClose $0
+    Delete "$INSTDIR\files.lst"
   ${EndIf}
-  ${Do}
-    FileRead $0 $1
-    ${If} ${Errors}
-      ${ExitDo}
-    ${EndIf}
-    ${${un}TrimNewLines} $1 $1
-    StrCpy $2 $1 1 -1
-    ${If} $2 == "\"
-      RMDir "$INSTDIR\$1"
-    ${ElseIf} $1 != ""
-      Delete "$INSTDIR\$1"
-    ${EndIf}
-    ClearErrors
-  ${Loop}
-  FileClose $0
-  Delete "$INSTDIR\files.lst"
+  Pop $2
+  Pop $1
+  Pop $0
 FunctionEnd
 
-Function ${un}IsElevated ; pushes 1 or 0
+; For what takes an administrator: returns when this process is one. Otherwise the program on the stack is started as one,
+; with the parameters on top of it, and this process waits and ends with the same status. Sets the error flag when the user,
+; or the account, does not have it so.
+Function ${un}BecomeAdministrator
+  System::Store "Sr1r0"
   UserInfo::GetAccountType
-  Pop $0
-  ${If} $0 == "Admin"
-    Push 1
-  ${Else}
-    Push 0
+  Pop $2
+  ClearErrors
+  ${If} $2 != "Admin"
+    ${GetParameters} $2
+    ClearErrors
+    ${GetOptions} $2 "/Elevated" $3
+    ${IfNot} ${Errors} ; not one even now: Windows asks nobody when its account control is off
+      MessageBox MB_OK|MB_ICONSTOP "$(AdministratorOnly)" /SD IDOK
+      SetErrors
+    ${Else}
+      ; A SHELLEXECUTEINFO: no message, no other thread, and the process' handle comes back.
+      System::Call '*(i 112, i 0x540, p $HWNDPARENT, w "runas", w r0, w r1, p 0, p 1, p, p, p, p, p, p, p)p.r2'
+      System::Call 'shell32::ShellExecuteExW(p r2)i.r3'
+      ${If} $3 <> 0
+        HideWindow
+        System::Call '*$2(i, i, p, p, p, p, p, p, p, p, p, p, p, p, p.r3)'
+        System::Call 'kernel32::WaitForSingleObject(p r3, i -1)'
+        System::Call 'kernel32::GetExitCodeProcess(p r3, *i.r4)'
+        SetErrorLevel $4
+        Quit
+      ${EndIf}
+      System::Free $2
+      SetErrors
+    ${EndIf}
   ${EndIf}
+  System::Store L
 FunctionEnd
 
 ; A program that runs keeps its file locked: better to say so than to leave half of it.
 Function ${un}WaitUntilClosed
-  ${Do}
-    ${IfNot} ${FileExists} "$INSTDIR\Folivant.exe"
-      Return
-    ${EndIf}
+  Push $0
+  ${DoWhile} ${FileExists} "$INSTDIR\Folivant.exe"
     ClearErrors
     FileOpen $0 "$INSTDIR\Folivant.exe" a
     ${IfNot} ${Errors}
       FileClose $0
-      Return
+      ${ExitDo}
     ${EndIf}
     MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(IsRunning)" /SD IDCANCEL IDRETRY again
     SetErrorLevel 2
     Abort
     again:
   ${Loop}
+  Pop $0
 FunctionEnd
 
 Function ${un}TellShell
@@ -146,17 +180,16 @@ FunctionEnd
 ; ---------------------------------------------------------------------------------------------------------------------
 ; Installer
 
-Function UseScope
+Function UseScopeFolder
   ${If} $Scope == "all"
     SetShellVarContext all
   ${Else}
     SetShellVarContext current
   ${EndIf}
-FunctionEnd
-
-Function UseScopeFolder
-  Call UseScope
-  ReadRegStr $INSTDIR SHCTX "${UNINSTALL_KEY}" "InstallLocation"
+  StrCpy $INSTDIR $GivenFolder
+  ${If} $INSTDIR == ""
+    ReadRegStr $INSTDIR SHCTX "${UNINSTALL_KEY}" "InstallLocation"
+  ${EndIf}
   ${If} $INSTDIR != ""
     Return
   ${EndIf}
@@ -167,14 +200,26 @@ Function UseScopeFolder
   ${EndIf}
 FunctionEnd
 
-; Starts this installer again with the rights that all users' folders need.
-Function Elevate
+; Sets the error flag when the scope is for all users and this user may not change their folders.
+Function CheckScope
+  Push $0
   ClearErrors
-  ${GetParameters} $1
-  ExecShell "runas" "$EXEPATH" "$1 /AllUsers"
+  ${If} $Scope == "all"
+    ${GetParameters} $0
+    StrCpy $0 "$0 /AllUsers /Elevated"
+    ${If} $GivenFolder != ""
+      StrCpy $0 "$0 /D=$GivenFolder"
+    ${EndIf}
+    Push $EXEPATH
+    Push $0
+    Call BecomeAdministrator
+  ${EndIf}
+  Pop $0
 FunctionEnd
 
 Function ChooseScope
+  Push $0
+  Push $1
   StrCpy $Scope "user"
   ReadRegStr $0 HKLM "${UNINSTALL_KEY}" "InstallLocation"
   ReadRegStr $1 HKCU "${UNINSTALL_KEY}" "InstallLocation"
@@ -193,23 +238,20 @@ Function ChooseScope
   ${IfNot} ${Errors}
     StrCpy $Scope "all"
   ${EndIf}
+  Pop $1
+  Pop $0
 FunctionEnd
 
 Function .onInit
   SetRegView 64
+  StrCpy $GivenFolder $INSTDIR
   Call ChooseScope
-  Call IsElevated
-  Pop $0
-  ${If} $Scope == "all"
-  ${AndIf} $0 == 0
-    Call Elevate
+  Call CheckScope
+  ${If} ${Errors}
+    SetErrorLevel 1
     Quit
   ${EndIf}
-  ${If} $INSTDIR == "" ; no /D
-    Call UseScopeFolder
-  ${Else}
-    Call UseScope
-  ${EndIf}
+  Call UseScopeFolder
   Call ChooseFolderEntry
 FunctionEnd
 
@@ -242,16 +284,10 @@ Function ScopePageLeave
   ${If} $Scope == $R0
     Return
   ${EndIf}
-  Call IsElevated
-  Pop $0
-  ${If} $Scope == "all"
-  ${AndIf} $0 == 0
-    Call Elevate
-    ${If} ${Errors} ; the user said no
-      StrCpy $Scope $R0
-      Abort
-    ${EndIf}
-    Quit
+  Call CheckScope
+  ${If} ${Errors}
+    StrCpy $Scope $R0
+    Abort
   ${EndIf}
   Call UseScopeFolder
 FunctionEnd
@@ -323,6 +359,9 @@ SectionEnd
 
 ; As the switch says, else as it was installed before.
 Function ChooseFolderEntry
+  Push $0
+  Push $1
+  Push $2
   ReadRegStr $0 SHCTX "${CLASSES}\Directory\shell\Folivant\command" ""
   ${GetParameters} $1
   ClearErrors
@@ -338,6 +377,9 @@ Function ChooseFolderEntry
   ${If} $0 != ""
     !insertmacro SelectSection ${FolderEntry}
   ${EndIf}
+  Pop $2
+  Pop $1
+  Pop $0
 FunctionEnd
 
 ; ---------------------------------------------------------------------------------------------------------------------
@@ -358,10 +400,15 @@ Function un.onInit
     Return
   ${EndIf}
   SetShellVarContext all
-  Call un.IsElevated
-  Pop $1
-  ${If} $1 == 0
-    ExecShell "runas" "$INSTDIR\Uninstall.exe" $0
+  StrCpy $0 "$0 /Elevated"
+  ${If} $EXEDIR == $INSTDIR ; by one who waits for the end
+    StrCpy $0 "$0 _?=$INSTDIR"
+  ${EndIf}
+  Push "$INSTDIR\Uninstall.exe"
+  Push $0
+  Call un.BecomeAdministrator
+  ${If} ${Errors}
+    SetErrorLevel 1
     Quit
   ${EndIf}
 FunctionEnd

@@ -8,6 +8,7 @@
 
 !insertmacro Texts ENGLISH
 LangString IsRunning ${L} "Folivant is running. Close it and try again."
+LangString AdministratorOnly ${L} "Only an administrator can do this for all users."
 LangString ScopeTitle ${L} "Who will use Folivant?"
 LangString ScopeQuestion ${L} "Installing for all users needs an administrator."
 LangString ScopeUser ${L} "Only &me"
@@ -23,6 +24,7 @@ LangString SettingsToo ${L} "&Delete my settings too"
 
 !insertmacro Texts DUTCH
 LangString IsRunning ${L} "Folivant is actief. Sluit het programma en probeer het opnieuw."
+LangString AdministratorOnly ${L} "Alleen een beheerder kan dit voor alle gebruikers doen."
 LangString ScopeTitle ${L} "Wie gaat Folivant gebruiken?"
 LangString ScopeQuestion ${L} "Installeren voor alle gebruikers vereist een beheerder."
 LangString ScopeUser ${L} "Alleen &ik"
@@ -38,6 +40,7 @@ LangString SettingsToo ${L} "Ook mijn instellingen &verwijderen"
 
 !insertmacro Texts GERMAN
 LangString IsRunning ${L} "Folivant läuft noch. Bitte beenden Sie es und versuchen Sie es erneut."
+LangString AdministratorOnly ${L} "Nur ein Administrator kann dies für alle Benutzer tun."
 LangString ScopeTitle ${L} "Wer wird Folivant benutzen?"
 LangString ScopeQuestion ${L} "Die Installation für alle Benutzer erfordert einen Administrator."
 LangString ScopeUser ${L} "Nur &ich"
@@ -53,6 +56,7 @@ LangString SettingsToo ${L} "Auch meine Einstellungen &löschen"
 
 !insertmacro Texts FRENCH
 LangString IsRunning ${L} "Folivant est en cours d'exécution. Fermez-le puis réessayez."
+LangString AdministratorOnly ${L} "Seul un administrateur peut faire cela pour tous les utilisateurs."
 LangString ScopeTitle ${L} "Qui utilisera Folivant ?"
 LangString ScopeQuestion ${L} "L'installation pour tous les utilisateurs exige un administrateur."
 LangString ScopeUser ${L} "&Moi seulement"
@@ -68,6 +72,7 @@ LangString SettingsToo ${L} "&Supprimer aussi mes paramètres"
 
 !insertmacro Texts SPANISH
 LangString IsRunning ${L} "Folivant se está ejecutando. Ciérrelo e inténtelo de nuevo."
+LangString AdministratorOnly ${L} "Solo un administrador puede hacer esto para todos los usuarios."
 LangString ScopeTitle ${L} "¿Quién usará Folivant?"
 LangString ScopeQuestion ${L} "La instalación para todos los usuarios requiere un administrador."
 LangString ScopeUser ${L} "Solo &yo"
@@ -83,6 +88,7 @@ LangString SettingsToo ${L} "&Eliminar también mi configuración"
 
 !insertmacro Texts ITALIAN
 LangString IsRunning ${L} "Folivant è in esecuzione. Chiuderlo e riprovare."
+LangString AdministratorOnly ${L} "Solo un amministratore può farlo per tutti gli utenti."
 LangString ScopeTitle ${L} "Chi userà Folivant?"
 LangString ScopeQuestion ${L} "L'installazione per tutti gli utenti richiede un amministratore."
 LangString ScopeUser ${L} "Solo &io"
@@ -98,6 +104,7 @@ LangString SettingsToo ${L} "&Elimina anche le mie impostazioni"
 
 !insertmacro Texts PORTUGUESE
 LangString IsRunning ${L} "O Folivant está em execução. Feche-o e tente de novo."
+LangString AdministratorOnly ${L} "Só um administrador pode fazer isto para todos os utilizadores."
 LangString ScopeTitle ${L} "Quem vai usar o Folivant?"
 LangString ScopeQuestion ${L} "A instalação para todos os utilizadores exige um administrador."
 LangString ScopeUser ${L} "Só &eu"
@@ -113,6 +120,7 @@ LangString SettingsToo ${L} "&Eliminar também as minhas definições"
 
 !insertmacro Texts POLISH
 LangString IsRunning ${L} "Program Folivant jest uruchomiony. Zamknij go i spróbuj ponownie."
+LangString AdministratorOnly ${L} "Tylko administrator może to zrobić dla wszystkich użytkowników."
 LangString ScopeTitle ${L} "Kto będzie używać programu Folivant?"
 LangString ScopeQuestion ${L} "Instalacja dla wszystkich użytkowników wymaga administratora."
 LangString ScopeUser ${L} "Tylko &ja"
@@ -128,6 +136,7 @@ LangString SettingsToo ${L} "&Usuń także moje ustawienia"
 
 !insertmacro Texts RUSSIAN
 LangString IsRunning ${L} "Программа Folivant запущена. Закройте её и повторите попытку."
+LangString AdministratorOnly ${L} "Только администратор может сделать это для всех пользователей."
 LangString ScopeTitle ${L} "Кто будет пользоваться Folivant?"
 LangString ScopeQuestion ${L} "Для установки всем пользователям нужны права администратора."
 LangString ScopeUser ${L} "Только &я"

@@ -54,6 +54,16 @@ def pack(build, name, *version, **environment):
     return folder
 
 
+def pack_for_plain_users():
+    """The packages with an installer that takes who starts it for a plain user: see UserInfo.cpp."""
+    builder = scratch / 'nsis'
+    if not builder.exists():
+        shutil.copytree('/usr/share/nsis', builder)
+        subprocess.run(['x86_64-w64-mingw32-g++', '-shared', '-static', '-Os', ROOT / 'tests/packaging/UserInfo.cpp', '-o',
+                        builder / 'Plugins/amd64-unicode/UserInfo.dll'], check=True)
+    return pack(BUILD, 'for-plain-users', NSISDIR=str(builder))
+
+
 def wait_until(done, what):
     end = time.monotonic() + PATIENCE
     while not done():
@@ -111,6 +121,10 @@ def value(key, name=''):
 def install(folder, *switches, **options):
     setup = next(p.name for p in folder.iterdir() if p.name.endswith('-setup.exe'))
     return wine(folder / setup, '/S', *switches, **options)
+
+
+def rights(what):
+    return {'env': os.environ | {'FOLIVANT_RIGHTS': what}}
 
 
 def uninstall(place, *switches, **options):
@@ -388,6 +402,67 @@ class Installation(unittest.TestCase):
         self.assertFalse(user_place().exists(), 'an upgrade goes where the program is')
         uninstall(place, '/DeleteSettings')
         (PREFIX / 'drive_c/My Tools').rmdir()
+        self.expect_no_trace()
+
+    def test_a_running_program_stops_installation_and_removal(self):
+        install(pack(BUILD, 'version-3.9.8', '3.9.8'))
+        place = user_place()
+        before = {p.relative_to(place): p.read_bytes() for p in place.rglob('*') if p.is_file()}
+
+        def expect_all_there():
+            self.assertEqual(before, {p.relative_to(place): p.read_bytes() for p in place.rglob('*') if p.is_file()})
+            self.assertEqual('3.9.8', value('HKCU\\' + UNINSTALL, 'DisplayVersion'))
+            self.assertIsNotNone(value(r'HKCU\Software\Classes\Folivant.SendTo\shell\open\command'))
+
+        running = self.open_window(f'"{windows(place)}\\Folivant.exe"')
+        self.assertEqual(2, install(dist).returncode)
+        expect_all_there()
+        folder = value('HKCU\\' + UNINSTALL, 'InstallLocation')
+        self.assertEqual(2, wine(place / 'Uninstall.exe', '/S', '_?=' + folder).returncode)
+        expect_all_there()
+        self.close_window(*running)
+        self.assertEqual(0, install(dist).returncode)
+        self.assertEqual(0, wine(place / 'Uninstall.exe', '/S', '/DeleteSettings', '_?=' + folder).returncode)
+        self.assertEqual(['Uninstall.exe'], [p.name for p in place.iterdir()], 'which cannot delete itself that way')
+        shutil.rmtree(place)
+        self.expect_no_trace()
+
+    def test_becomes_administrator_with_all_switches(self):
+        packed = pack_for_plain_users()
+        tools = PREFIX / 'drive_c/All Tools'
+        place = tools / 'Fo li'
+        given = r'/D=C:\All Tools\Fo li'.split(' ')  # put together again without quotes
+        self.assertEqual(0, install(packed, '/AllUsers', '/FolderEntry', *given, **rights('granted')).returncode)
+        self.assertTrue((place / 'files.lst').exists(), 'waited for the end')
+        self.assertEqual(r'C:\All Tools\Fo li', value('HKLM\\' + UNINSTALL, 'InstallLocation'))
+        self.assertIsNotNone(value(r'HKLM\Software\Classes\Directory\shell\Folivant\command'))
+        self.assertFalse((PREFIX / 'drive_c/Program Files/Folivant').exists())
+        running = self.open_window(r'"C:\All Tools\Fo li\Folivant.exe"')
+        self.assertEqual(2, install(packed, **rights('granted')).returncode, "the administrator's status")
+        in_place = r'_?=C:\All Tools\Fo li'.split(' ')
+        self.assertEqual(2, wine(place / 'Uninstall.exe', '/S', *in_place, **rights('granted')).returncode)
+        self.close_window(*running)
+        wait_until(lambda: value(r'HKCU\Software\Folivant 3.0\Settings', 'TextWidth') is not None, 'the settings')
+        time.sleep(1)
+        uninstall(place, '/DeleteSettings', **rights('granted'))
+        tools.rmdir()
+        self.expect_no_trace()
+
+    def test_without_an_administrator_nothing_changes(self):
+        packed = pack_for_plain_users()
+        place = PREFIX / 'drive_c/Program Files/Folivant'
+        for kind in ('useless', 'refused'):
+            with self.subTest(kind):
+                self.assertEqual(1, install(packed, '/AllUsers', **rights(kind)).returncode)
+                self.assertFalse(place.exists())
+                self.assertEqual({}, registry('HKLM\\' + UNINSTALL))
+        install(packed, '/AllUsers', **rights('granted'))
+        in_place = r'_?=C:\Program Files\Folivant'.split(' ')
+        for kind in ('useless', 'refused'):
+            with self.subTest('uninstaller, ' + kind):
+                self.assertEqual(1, wine(place / 'Uninstall.exe', '/S', *in_place, **rights(kind)).returncode)
+                self.assertTrue((place / 'Folivant.exe').exists())
+        uninstall(place, '/DeleteSettings', **rights('granted'))
         self.expect_no_trace()
 
 
