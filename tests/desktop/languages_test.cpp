@@ -1,6 +1,7 @@
-// Every window in every language: no caption is wider than its control.
+// Every window in every language: no caption is wider than its control, and every field has a label.
 #include <filesystem>
 
+#include "desktop/FieldLabels.h"
 #include "desktop/FittingTexts.h"
 #include "desktop/MainWindow.h"
 #include "find/StandIn.h"
@@ -23,10 +24,13 @@ TEST_P(Languages, FitIntoEveryWindow) {
     main.Press(button);
     const Window dialog = program.WaitForWindow(Message(title, GetParam()), main);
     texts.ExpectNothingClipped(dialog, dialog.Text());
+    const int fields = button == cmdFilter ? 5 : button == cmdOptions ? 12 : 0;
+    EXPECT_EQ(ExpectEveryFieldLabelled(dialog), fields);
     if (button == cmdFormat) {
       dialog.Press(Command1);
       const Window columns = program.WaitForWindow(Message(202, GetParam()), dialog);
       texts.ExpectNothingClipped(columns, columns.Text());
+      EXPECT_EQ(ExpectEveryFieldLabelled(columns), 1);
       columns.Answer(cmdCancel);
     }
     dialog.Answer(cmdCancel);
@@ -43,6 +47,7 @@ TEST_P(Languages, FitIntoTheWindowsOfARun) {
   main.Press(cmdOK);
   const Window choice = program.WaitForWindow(Message(206, GetParam()));
   texts.ExpectNothingClipped(choice, choice.Text());
+  EXPECT_EQ(ExpectEveryFieldLabelled(choice), 1);
   const Window progress = program.WaitForWindow(Message(203, GetParam()), main);
   texts.ExpectNothingClipped(progress, progress.Text());
   choice.Press(cmdCancel);

@@ -1,7 +1,9 @@
 // The windows where printers show: the printer dialog, the options that ask a printer for its borders, a run that is
 // cancelled, and a system without any printer. Needs the queues "Plain", "Borders" and "Refusing" (print_test.py starts
 // them), the second suite a system without any; FOLIVANT_JOBS names the folder in which documents arrive.
+#include "desktop/FieldLabels.h"
 #include "desktop/FittingTexts.h"
+#include "desktop/Manuals.h"
 #include "res/Controls.h"
 
 namespace folivant::desktop {
@@ -122,7 +124,19 @@ TEST_F(Printers, EveryLanguageFitsIntoTheDialog) {
     printers = program.WaitForWindow(Message(205, language));
     EXPECT_EQ(printers.TextOf(cmdCancel), Message(42, language)) << "the language is in use";
     texts.ExpectNothingClipped(printers, printers.Text());
+    EXPECT_EQ(ExpectEveryFieldLabelled(printers), 3);
   }
+}
+
+TEST_F(Printers, F1OpensTheManual) {
+  if (!MayReplaceTheBrowser()) {
+    GTEST_SKIP() << "would open the user's browser";
+  }
+  const BrowserStandIn browser(scratch.Path());
+  const Program program(L"");
+  OpenPrinters(program).Activate();
+  PressKey(VK_F1);
+  browser.ExpectOpened("english.html");
 }
 
 TEST_F(Printers, CancelChangesNothing) {
