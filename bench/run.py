@@ -101,10 +101,6 @@ class Trees:
         return root
 
 
-class RunFailed(Exception):
-    pass
-
-
 class Bench:
     def __init__(self, scratch, pairs):
         self.scratch, self.pairs, self.clock = scratch, pairs, 'wall'
@@ -118,7 +114,7 @@ class Bench:
                                   env=self.environment, check=True, timeout=600)
         found = re.search(r'^measured (\S+) (\S+) (\d+) (-?\d+)$', done.stderr.decode(errors='replace'), re.M)
         if found is None or found.group(4) != '0':
-            raise RunFailed(f'{command} failed: {done.stderr.decode(errors="replace")}')
+            sys.exit(f'{command} failed: {done.stderr.decode(errors="replace")}')
         return float(found.group(1 if self.clock == 'wall' else 2)), int(found.group(3))
 
     def ratio(self, first, second, pairs=None):
@@ -240,15 +236,13 @@ def under_wine(bench, trees, empty):
 
 
 def interpreter(bench, trees):
-    """The command interpreter's listing; one pair, because it takes minutes."""
+    """The command interpreter's listing; one pair, because it takes minutes. It needs more than twice as long for twice as
+    large a directory, and dies in the chain."""
     rows = []
-    for name, tree in trees.items():
+    for name, tree in list(trees.items())[:2]:
         floor = (['wine', bench.scratch / 'floor.exe', dos(tree)], None)
         listing_ = (['wine', 'cmd', '/c', 'dir', '/s', dos(tree)], bench.scratch / 'list.out')
-        try:
-            rows.append([name, f'{bench.ratio(listing_, floor, 1):.1f}'])
-        except RunFailed:
-            rows.append([name, 'it fails'])
+        rows.append([name, f'{bench.ratio(listing_, floor, 1):.1f}'])
     return table('Under Wine, the command interpreter against the floor', ['Tree', 'cmd /c dir /s'], rows)
 
 
