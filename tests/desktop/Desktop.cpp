@@ -82,9 +82,13 @@ Scratch::Scratch() {
   std::filesystem::create_directories(path_);
 }
 
+/// A viewer or a command that the test has started may be about to end, and holds its folder until then.
 Scratch::~Scratch() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+  WaitUntil([this] {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+    return !Exists(path_);
+  });
 }
 
 std::wstring Scratch::File(std::wstring_view name, std::string_view bytes, std::optional<SYSTEMTIME> written) const {
