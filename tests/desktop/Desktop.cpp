@@ -204,54 +204,91 @@ std::vector<std::wstring> Window::ItemsOf(int id) const {
 
 namespace {
 
-/// A piece of another process's memory, for messages that the system does not carry over.
-class RemoteDay {
+/// A value in the memory of a window's process, for messages that the system does not carry over.
+template <typename Value>
+class RemoteValue {
  public:
-  explicit RemoteDay(HWND picker) : picker_(picker) {
+  explicit RemoteValue(HWND window) {
     DWORD owner = 0;
-    GetWindowThreadProcessId(picker, &owner);
+    GetWindowThreadProcessId(window, &owner);
     process_ =
         platform::OwnedKernel(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, owner));
-    there_ = VirtualAllocEx(process_.Get(), nullptr, sizeof(SYSTEMTIME), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    there_ = VirtualAllocEx(process_.Get(), nullptr, sizeof(Value), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     EXPECT_NE(there_, nullptr);
   }
-  ~RemoteDay() { VirtualFreeEx(process_.Get(), there_, 0, MEM_RELEASE); }
-  RemoteDay(const RemoteDay&) = delete;
-  RemoteDay& operator=(const RemoteDay&) = delete;
+  ~RemoteValue() { VirtualFreeEx(process_.Get(), there_, 0, MEM_RELEASE); }
+  RemoteValue(const RemoteValue&) = delete;
+  RemoteValue& operator=(const RemoteValue&) = delete;
 
-  SYSTEMTIME Read() const {
-    SYSTEMTIME day{};
-    SendMessageW(picker_, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(there_));
-    EXPECT_NE(ReadProcessMemory(process_.Get(), there_, &day, sizeof day, nullptr), 0);
-    return day;
+  /// Its address in the other process.
+  void* There() const { return there_; }
+  Value Read() const {
+    Value value{};
+    EXPECT_NE(ReadProcessMemory(process_.Get(), there_, &value, sizeof value, nullptr), 0);
+    return value;
   }
-  void Write(const SYSTEMTIME& day) const {
-    EXPECT_NE(WriteProcessMemory(process_.Get(), there_, &day, sizeof day, nullptr), 0);
-    SendMessageW(picker_, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(there_));
+  void Write(const Value& value) const {
+    EXPECT_NE(WriteProcessMemory(process_.Get(), there_, &value, sizeof value, nullptr), 0);
   }
 
  private:
-  HWND picker_;
   platform::OwnedKernel process_;
   void* there_ = nullptr;
 };
 
+SYSTEMTIME ReadDay(HWND picker) {
+  const RemoteValue<SYSTEMTIME> day(picker);
+  SendMessageW(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(day.There()));
+  return day.Read();
+}
+
 }  // namespace
 
 std::wstring Window::DayOf(int id) const {
-  const SYSTEMTIME day = RemoteDay(Control(id).Handle()).Read();
+  const SYSTEMTIME day = ReadDay(Control(id).Handle());
   wchar_t text[20];
   swprintf(text, 20, L"%04u/%02u/%02u", day.wYear, day.wMonth, day.wDay);
   return text;
 }
 
 void Window::SetDay(int id, WORD year, WORD month, WORD day) const {
-  const RemoteDay picker(Control(id).Handle());
-  SYSTEMTIME time = picker.Read();
+  const HWND picker = Control(id).Handle();
+  SYSTEMTIME time = ReadDay(picker);
   time.wYear = year;
   time.wMonth = month;
   time.wDay = day;
-  picker.Write(time);
+  const RemoteValue<SYSTEMTIME> remote(picker);
+  remote.Write(time);
+  SendMessageW(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(remote.There()));
+}
+
+std::wstring Window::SelectedBranch() const {
+  HWND tree = nullptr;
+  EnumChildWindows(
+      handle_,
+      [](HWND child, LPARAM found) {
+        const bool isTree = Window(child).ClassName() == WC_TREEVIEWW;
+        *reinterpret_cast<HWND*>(found) = isTree ? child : nullptr;
+        return isTree ? FALSE : TRUE;
+      },
+      reinterpret_cast<LPARAM>(&tree));
+  const LRESULT selected = SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0);
+  if (selected == 0) {
+    return {};
+  }
+  struct Branch {
+    TVITEMW item;
+    wchar_t text[MAX_PATH];
+  };
+  const RemoteValue<Branch> remote(tree);
+  Branch branch{};
+  branch.item.mask = TVIF_TEXT;
+  branch.item.hItem = reinterpret_cast<HTREEITEM>(selected);
+  branch.item.pszText = static_cast<Branch*>(remote.There())->text;
+  branch.item.cchTextMax = MAX_PATH;
+  remote.Write(branch);
+  SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(remote.There()));
+  return remote.Read().text;
 }
 
 bool Window::WaitUntilGone(DWORD milliseconds) const {

@@ -74,6 +74,8 @@ class Window {
   /// The day of a date picker as "yyyy/mm/dd".
   std::wstring DayOf(int id) const;
   void SetDay(int id, WORD year, WORD month, WORD day) const;
+  /// The text of the selected item in the tree of this window; empty while none is selected.
+  std::wstring SelectedBranch() const;
   void Close() const { PostMessageW(handle_, WM_CLOSE, 0, 0); }
   /// Whether the window is gone within the time.
   bool WaitUntilGone(DWORD milliseconds = kPatience) const;
