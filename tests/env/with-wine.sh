@@ -24,6 +24,7 @@ finish() {
 }
 
 export LANG=C.UTF-8 TZ=${TZ:-UTC}
+export PYTHONDONTWRITEBYTECODE=1 # nothing is left in the source folders
 export HOME=$scratch/home TMPDIR=$scratch/tmp XDG_CONFIG_HOME=$scratch/config
 export WINEPREFIX=${FOLIVANT_PREFIX:-$scratch/prefix} WINEDEBUG=-all
 export WINEDLLOVERRIDES='winedbg.exe=d;winemenubuilder.exe=d;mscoree=d;mshtml=d'
