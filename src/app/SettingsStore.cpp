@@ -1,7 +1,5 @@
 #include "app/SettingsStore.h"
 
-#include "platform/Store.h"
-
 namespace folivant {
 namespace {
 
@@ -28,13 +26,14 @@ void SettingsStore::SaveSettingEx(const std::wstring& section, const std::wstrin
 
 std::wstring SettingsStore::GetStoreSetting(const std::wstring& section, const std::wstring& key,
                                             const std::wstring& preset) const {
-  return file_ ? std::wstring() : platform::ReadStore(section, key).value_or(preset);
+  return file_ ? std::wstring() : sections_.try_emplace(section, section).first->second.Read(key).value_or(preset);
 }
 
 void SettingsStore::SaveStoreSetting(const std::wstring& section, const std::wstring& key,
                                      const std::wstring& value) const {
   if (!file_) {
     platform::WriteStore(section, key, value);
+    sections_.erase(section);  // it may not have been there before
   }
 }
 

@@ -2,10 +2,12 @@
 // value is text under a section and a key.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 
 #include "app/ProfileFile.h"
+#include "platform/Store.h"
 
 namespace folivant {
 
@@ -36,6 +38,7 @@ class SettingsStore {
 
  private:
   std::optional<ProfileFile> file_;
+  mutable std::map<std::wstring, platform::StoreSection> sections_;  ///< of the per-user store, as far as asked for
 };
 
 }  // namespace folivant

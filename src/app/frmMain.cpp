@@ -335,7 +335,7 @@ void frmMain::Unload() {
 }
 
 void frmMain::RestorePlace() {
-  const auto place = ParseWindowPlace(platform::ReadStore(kPlaceSection, kPlaceKey).value_or(L""));
+  const auto place = ParseWindowPlace(platform::StoreSection(kPlaceSection).Read(kPlaceKey).value_or(L""));
   RECT frame{};
   GetWindowRect(Window(), &frame);
   if (!place) {

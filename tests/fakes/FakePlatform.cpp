@@ -1,6 +1,7 @@
 #include "fakes/FakePlatform.h"
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include <memory>
 
@@ -113,9 +114,21 @@ BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons
   return BoxAnswer::Ok;
 }
 
-std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
-  const auto found = Fake().Store.find({section, key});
-  return found == Fake().Store.end() ? std::nullopt : std::optional(found->second);
+struct StoreSection::State {
+  std::wstring Name;
+  bool IsThere;  ///< when it was opened
+};
+
+StoreSection::StoreSection(const std::wstring& section)
+    : state_(std::make_unique<State>(State{section, std::ranges::any_of(Fake().Store, [&](const auto& value) {
+                                             return value.first.first == section;
+                                           })})) {}
+
+StoreSection::~StoreSection() = default;
+
+std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
+  const auto found = Fake().Store.find({state_->Name, key});
+  return !state_->IsThere || found == Fake().Store.end() ? std::nullopt : std::optional(found->second);
 }
 
 void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value) {

@@ -62,9 +62,17 @@ ProfileText& Text() {
 
 }  // namespace
 
-std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
+struct StoreSection::State {
+  std::wstring Name;
+};
+
+StoreSection::StoreSection(const std::wstring& section) : state_(std::make_unique<State>(section)) {}
+
+StoreSection::~StoreSection() = default;
+
+std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
   try {
-    return Text().Read(section, key);
+    return Text().Read(state_->Name, key);
   } catch (const RuntimeError&) {  // a store that cannot be read holds nothing, as a registry key without access
     return std::nullopt;
   }

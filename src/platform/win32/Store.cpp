@@ -14,13 +14,28 @@ std::size_t BytesOf(const std::wstring& text) {
 
 }  // namespace
 
-std::optional<std::wstring> ReadStore(const std::wstring& section, const std::wstring& key) {
-  const std::wstring place = kRoot + section;
+struct StoreSection::State {
+  OwnedKey Place;
+};
+
+StoreSection::StoreSection(const std::wstring& section) : state_(std::make_unique<State>()) {
+  HKEY place = nullptr;
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, (kRoot + section).c_str(), 0, KEY_QUERY_VALUE, &place) == ERROR_SUCCESS) {
+    state_->Place = OwnedKey(place);
+  }
+}
+
+StoreSection::~StoreSection() = default;
+
+std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
+  if (!state_->Place.IsOpen()) {
+    return std::nullopt;
+  }
   std::wstring value(256, L'\0');
   for (;;) {
     DWORD size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
     const LSTATUS status =
-        RegGetValueW(HKEY_CURRENT_USER, place.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
+        RegGetValueW(state_->Place.Get(), nullptr, key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
     if (status == ERROR_SUCCESS) {
       value.resize(size / sizeof(wchar_t) - 1);
       return value;

@@ -21,7 +21,7 @@ class HostStore : public testing::Test {
 };
 
 TEST_F(HostStore, HoldsNothingAtFirst) {
-  EXPECT_FALSE(ReadStore(L"Settings", L"Language"));
+  EXPECT_FALSE(StoreSection(L"Settings").Read(L"Language"));
   EXPECT_EQ(scratch_.Count(), 0) << "reading must make no file";
 }
 
@@ -29,9 +29,9 @@ TEST_F(HostStore, KeepsValuesInAProfileFile) {
   WriteStore(L"Settings", L"Language", L"english.ini");
   WriteStore(L"Filter", L"Pattern", L" *.txt ");
   WriteStore(L"Settings", L"Language", L"\u65E5");
-  EXPECT_EQ(ReadStore(L"settings", L"language"), L"\u65E5");
-  EXPECT_EQ(ReadStore(L"Filter", L"Pattern"), L" *.txt ");
-  EXPECT_FALSE(ReadStore(L"Filter", L"Language"));
+  EXPECT_EQ(StoreSection(L"settings").Read(L"language"), L"\u65E5");
+  EXPECT_EQ(StoreSection(L"Filter").Read(L"Pattern"), L" *.txt ");
+  EXPECT_FALSE(StoreSection(L"Filter").Read(L"Language"));
   EXPECT_TRUE(PathExists(scratch_.Path(file_)));
   EXPECT_EQ(StoreName(L"Filter"), scratch_.Path(file_));
 }
@@ -46,9 +46,9 @@ TEST_F(HostStore, KeepsWhatItDoesNotKnow) {
 TEST_F(HostStore, SeesWhatOthersWrite) {
   WriteStore(L"Settings", L"A", L"1");
   ReplaceFile(scratch_.Path(file_), "[Settings]\r\nA=2\r\n");
-  EXPECT_EQ(ReadStore(L"Settings", L"A"), L"2");
+  EXPECT_EQ(StoreSection(L"Settings").Read(L"A"), L"2");
   WriteStore(L"Settings", L"B", L"3");
-  EXPECT_EQ(ReadStore(L"Settings", L"A"), L"2");
+  EXPECT_EQ(StoreSection(L"Settings").Read(L"A"), L"2");
 }
 
 TEST_F(HostStore, NamesSectionAndKeyOfAFailedWrite) {

@@ -129,13 +129,13 @@ class WindowsStore : public testing::Test {
 };
 
 TEST_F(WindowsStore, KeepsTextInTheRegistry) {
-  EXPECT_FALSE(ReadStore(section_, L"Key"));
+  EXPECT_FALSE(StoreSection(section_).Read(L"Key"));
   WriteStore(section_, L"Key", L"value \u65E5");
   WriteStore(section_, L"Empty", L"");
   WriteStore(section_, L"Long", std::wstring(5000, L'x'));
-  EXPECT_EQ(ReadStore(section_, L"kEY"), L"value \u65E5");
-  EXPECT_EQ(ReadStore(section_, L"Empty"), L"");
-  EXPECT_EQ(ReadStore(section_, L"Long"), std::wstring(5000, L'x'));
+  EXPECT_EQ(StoreSection(section_).Read(L"kEY"), L"value \u65E5");
+  EXPECT_EQ(StoreSection(section_).Read(L"Empty"), L"");
+  EXPECT_EQ(StoreSection(section_).Read(L"Long"), std::wstring(5000, L'x'));
   wchar_t value[50];
   DWORD size = sizeof value;
   EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str(), L"Key", RRF_RT_REG_SZ,
@@ -151,7 +151,7 @@ TEST_F(WindowsStore, ReadsTextOnly) {
   ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str(), L"Number", REG_DWORD,
                             &number, sizeof number),
             ERROR_SUCCESS);
-  EXPECT_FALSE(ReadStore(section_, L"Number"));
+  EXPECT_FALSE(StoreSection(section_).Read(L"Number"));
 }
 
 TEST_F(WindowsStore, NamesSectionAndKeyOfAFailedWrite) {

@@ -1,0 +1,24 @@
+#include "app/SettingsStore.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/FakePlatform.h"
+
+namespace folivant {
+namespace {
+
+class SettingsStoreTest : public testing::Test {
+ protected:
+  SettingsStoreTest() { fakes::Fake().Reset(); }
+};
+
+TEST_F(SettingsStoreTest, FindsWhatItWroteIntoASectionThatWasNotThere) {
+  SettingsStore store;
+  EXPECT_EQ(store.GetStoreSetting(L"Settings", L"Key", L"preset"), L"preset");
+  store.SaveStoreSetting(L"Settings", L"Key", L"stored");
+  EXPECT_EQ(store.GetStoreSetting(L"Settings", L"Key", L"preset"), L"stored");
+  EXPECT_EQ(store.GetStoreSetting(L"Settings", L"Other", L"preset"), L"preset");
+}
+
+}  // namespace
+}  // namespace folivant
