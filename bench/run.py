@@ -31,8 +31,12 @@ def build(scratch, windows):
     if windows:
         run('cmake', '--preset', 'windows')
         run('cmake', '--build', 'build/windows', '--target', 'Folivant')
+        program = scratch / 'program'  # for all of them: the loader looks for each library in the program's folder first
+        program.mkdir()
+        for file in (HOUSE / 'build/windows/Folivant.exe', *(HOUSE / 'build/windows').glob('*.ini')):
+            shutil.copy(file, program)
         run(WINDOWS_COMPILER, '-std=c++20', '-O2', '-static', '-municode', 'bench/floor_windows.cpp', '-o',
-            scratch / 'floor.exe')
+            program / 'floor.exe')
         build_empty(scratch, run)
 
 
@@ -53,7 +57,7 @@ def build_empty(scratch, run):
                       'extern "C" int __stdcall WinMain(void*, void*, char*, int) { return keep[0] == nullptr; }\n')
     libraries = re.search(r'target_link_libraries\(folivant_platform PUBLIC (shell32[^)]*)\)',
                           (HOUSE / 'src/CMakeLists.txt').read_text()).group(1).split()
-    run(WINDOWS_COMPILER, '-O2', '-static', '-mwindows', source, '-o', scratch / 'empty.exe',
+    run(WINDOWS_COMPILER, '-O2', '-static', '-mwindows', source, '-o', scratch / 'program/empty.exe',
         *[f'-l{name}' for name in libraries])
     return functions
 
@@ -109,13 +113,17 @@ class Bench:
 
     def once(self, command, output=None):
         """Time in seconds and peak memory in kilobytes of one run."""
-        with open(output or os.devnull, 'wb') as sink:
-            done = subprocess.run([self.scratch / 'measure', *command], stdout=sink, stderr=subprocess.PIPE,
-                                  env=self.environment, check=True, timeout=600)
-        found = re.search(r'^measured (\S+) (\S+) (\d+) (-?\d+)$', done.stderr.decode(errors='replace'), re.M)
-        if found is None or found.group(4) != '0':
-            sys.exit(f'{command} failed: {done.stderr.decode(errors="replace")}')
-        return float(found.group(1 if self.clock == 'wall' else 2)), int(found.group(3))
+        for _ in range(3):
+            with open(output or os.devnull, 'wb') as sink:
+                done = subprocess.run([self.scratch / 'measure', *command], stdout=sink, stderr=subprocess.PIPE,
+                                      env=self.environment, check=True, timeout=600)
+            wall, cpu, peak, status = re.search(r'^measured (\S+) (\S+) (\d+) (-?\d+)$',
+                                                done.stderr.decode(errors='replace'), re.M).groups()
+            if status == '0':
+                return float(wall if self.clock == 'wall' else cpu), int(peak)
+            if command[0] != 'wine' or float(wall) > 0.02:  # one start of Wine in some thousand ends before the program
+                break
+        sys.exit(f'{command} failed: {done.stderr.decode(errors="replace")}')
 
     def ratio(self, first, second, pairs=None):
         """Median of the ratios of paired runs, in alternating order, after one run of each to warm the cache."""
@@ -219,11 +227,11 @@ def memory(bench, few, many, nodes, name_length):
 
 
 def under_wine(bench, trees, empty):
-    exe = ['wine', HOUSE / 'build/windows/Folivant.exe']
+    exe = ['wine', bench.scratch / 'program/Folivant.exe']
     out = bench.scratch / 'list.out'
     rows = []
     for name, tree in trees.items():
-        floor = (['wine', bench.scratch / 'floor.exe', dos(tree)], None)
+        floor = (['wine', bench.scratch / 'program/floor.exe', dos(tree)], None)
         rows.append([name, f'{bench.ratio((listing(exe, tree, out), None), floor):.2f}'])
     lines = table('Under Wine, whole process, against the floor', ['Tree', 'Folivant.exe'], rows)
     tree = next(iter(trees.values()))
@@ -231,7 +239,7 @@ def under_wine(bench, trees, empty):
     for kind, name in (('h', 'HTML'), ('x', 'XML')):
         rows.append([f'{name} against text', f'{bench.ratio((listing(exe, tree, out, kind), None), (listing(exe, tree, out), None)):.2f}'])
     rows.append(['Empty folder against an empty program',
-                 f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "empty.exe"], None), 3 * bench.pairs):.2f}'])
+                 f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "program/empty.exe"], None), 15 * bench.pairs):.2f}'])
     return lines + table('Under Wine, other runs', ['Run', 'Ratio'], rows)
 
 
@@ -240,7 +248,7 @@ def interpreter(bench, trees):
     large a directory, and dies in the chain."""
     rows = []
     for name, tree in list(trees.items())[:2]:
-        floor = (['wine', bench.scratch / 'floor.exe', dos(tree)], None)
+        floor = (['wine', bench.scratch / 'program/floor.exe', dos(tree)], None)
         listing_ = (['wine', 'cmd', '/c', 'dir', '/s', dos(tree)], bench.scratch / 'list.out')
         rows.append([name, f'{bench.ratio(listing_, floor, 1):.1f}'])
     return table('Under Wine, the command interpreter against the floor', ['Tree', 'cmd /c dir /s'], rows)
