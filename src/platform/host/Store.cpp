@@ -66,7 +66,7 @@ struct StoreSection::State {
   std::wstring Name;
 };
 
-StoreSection::StoreSection(const std::wstring& section) : state_(std::make_unique<State>(section)) {}
+StoreSection::StoreSection(const std::wstring& section) : state_(std::make_unique<State>(State{section})) {}
 
 StoreSection::~StoreSection() = default;
 
