@@ -40,25 +40,26 @@ std::optional<Number> ToNumber(std::wstring_view text) {
   return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
 }
 
+/// The user's decimal separator or a point, so that a filter file from another country is read as it was meant.
+template <class Number>
+std::optional<Number> ToFraction(const std::wstring& text) {
+  const auto number = ToNumber<Number>(ReplaceAll(text, platform::Locale().DecimalSeparator, L"."));
+  return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
 std::optional<bool> ToFlag(const std::wstring& text) {
   const std::wstring lower = platform::ToLower(text);
   if (lower == L"true" || lower == L"false") {
     return lower == L"true";
   }
-  const auto number = ToNumber<double>(text);
-  return number && std::isfinite(*number) ? std::optional(*number != 0) : std::nullopt;
-}
-
-/// The user's decimal separator or a point, so that a filter file from another country is read as it was meant.
-std::optional<float> ToSingle(const std::wstring& text) {
-  const auto number = ToNumber<float>(ReplaceAll(text, platform::Locale().DecimalSeparator, L"."));
-  return number && std::isfinite(*number) ? number : std::nullopt;
+  const auto number = ToFraction<double>(text);
+  return number ? std::optional(*number != 0) : std::nullopt;
 }
 
 /// A fraction is rounded, halves to even, as in the text boxes.
 template <class Whole>
 std::optional<Whole> ToWhole(const std::wstring& text) {
-  const auto number = ToNumber<double>(ReplaceAll(text, platform::Locale().DecimalSeparator, L"."));
+  const auto number = ToFraction<double>(text);
   const double rounded = std::nearbyint(number.value_or(std::numeric_limits<double>::quiet_NaN()));
   const bool fits = rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max();
   return fits ? std::optional(static_cast<Whole>(rounded)) : std::nullopt;
@@ -135,7 +136,7 @@ struct Reader {
 
   bool operator()(std::wstring* member) const { return *member = Text, true; }
   bool operator()(bool* member) const { return Take(ToFlag(Trimmed), member); }
-  bool operator()(float* member) const { return Take(ToSingle(Trimmed), member); }
+  bool operator()(float* member) const { return Take(ToFraction<float>(Trimmed), member); }
   bool operator()(const DayMember& member) const { return Take(ToDay(Trimmed), member.Date); }
   bool operator()(const SwitchGroup& member) const {
     if (!AreDigits(Trimmed, member.Flags.size(), L'9')) {

@@ -441,6 +441,11 @@ TEST(Settings, NumbersAndFlagsAreReadAsPeopleWriteThem) {
   EXPECT_FALSE(General.Inches);
   LoadWith(L"Settings", L"Inches", L"-1");
   EXPECT_TRUE(General.Inches);
+  LoadWith(L"Settings", L"Inches", L"0.0");
+  EXPECT_FALSE(General.Inches);
+  Fake().Locale.DecimalSeparator = L",";
+  LoadWith(L"Settings", L"Inches", L"0,5");
+  EXPECT_TRUE(General.Inches);
 }
 
 TEST(Settings, AFractionOfAWholeNumberIsRounded) {
