@@ -8,6 +8,7 @@
 #include "platform/win32/NativePath.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
+#include "platform/win32/WriteAll.h"
 
 namespace folivant::platform {
 namespace {
@@ -31,18 +32,6 @@ std::wstring Filled(Fill fill) {
   }
   text.resize(length);
   return text;
-}
-
-void WriteAll(HANDLE file, std::string_view bytes, const std::wstring& path) {
-  while (!bytes.empty()) {
-    const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 20));
-    DWORD written = 0;
-    const BOOL done = ::WriteFile(file, bytes.data(), wanted, &written, nullptr);
-    if (done == FALSE || written == 0) {
-      throw SystemError(FailedAction::WriteFile, path, done == FALSE ? GetLastError() : ERROR_WRITE_FAULT);
-    }
-    bytes.remove_prefix(written);
-  }
 }
 
 /// A new file beside `path` that deletes itself unless it is moved over it.

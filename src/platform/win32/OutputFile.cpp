@@ -7,6 +7,7 @@
 #include "platform/win32/NativePath.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
+#include "platform/win32/WriteAll.h"
 
 namespace folivant::platform {
 namespace {
@@ -45,15 +46,7 @@ struct OutputFile::State {
     Bytes.clear();
     AppendAnsi(std::wstring_view(Text).substr(0, length), Bytes);
     Text.erase(0, length);
-    std::string_view rest = Bytes;
-    while (!rest.empty()) {
-      DWORD written = 0;
-      const BOOL done = ::WriteFile(File.Get(), rest.data(), static_cast<DWORD>(rest.size()), &written, nullptr);
-      if (done == FALSE || written == 0) {  // a device that takes nothing would hold the run for ever
-        throw SystemError(FailedAction::WriteFile, Path, done == FALSE ? GetLastError() : ERROR_WRITE_FAULT);
-      }
-      rest.remove_prefix(written);
-    }
+    WriteAll(File.Get(), Bytes, Path);
   }
 };
 

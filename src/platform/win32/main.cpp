@@ -4,7 +4,7 @@
 #include "platform/win32/Win32.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
-  SetErrorMode(GetErrorMode() |
-               SEM_FAILCRITICALERRORS);  // an empty drive must not ask for a disk in a box of the system
+  // An empty drive must not ask for a disk in a box of the system.
+  SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
   return folivant::Start(commandLine);
 }
