@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 #include "platform/FindFiles.h"
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Locale.h"
 #include "platform/Text.h"
 

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "app/DateValue.h"
+#include "base/DateValue.h"
 #include "output/OutputKind.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "app/ProfileFile.h"
+#include "base/ProfileFile.h"
 #include "platform/Store.h"
 
 namespace folivant {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/GeneralSettings.h"
+#include "base/GeneralSettings.h"
 #include "output/ListingRun.h"
 #include "output/OutputKind.h"
 #include "scan/FilterSettings.h"

@@ -1,6 +1,6 @@
 #include "output/Columns.h"
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 
 namespace folivant {
 namespace {

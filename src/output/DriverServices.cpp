@@ -1,6 +1,6 @@
 #include "output/DriverServices.h"
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/EntryFormatting.h"
 #include "platform/Clock.h"
 #include "platform/Files.h"

@@ -4,7 +4,7 @@
 #include <array>
 #include <iterator>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Locale.h"
 
 namespace folivant {

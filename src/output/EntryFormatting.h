@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "app/Currency.h"
-#include "app/DateValue.h"
+#include "base/Currency.h"
+#include "base/DateValue.h"
 #include "platform/Files.h"
 #include "scan/FilterSettings.h"
 #include "scan/ScanTree.h"
@@ -16,7 +16,7 @@
 namespace folivant {
 
 /// The size text of listings: at most four digits, thousands grouped, one blank, two unit characters ("9,999 kb").
-/// ScaleSize (app/mdlFileRoutines.h) chooses the unit. Beyond terabytes the number grows past four digits.
+/// ScaleSize (base/mdlFileRoutines.h) chooses the unit. Beyond terabytes the number grows past four digits.
 std::wstring FormatSize(Currency bytes, const Messages& texts);
 /// The same appended to a text: what the scanner uses for every entry.
 void AppendSize(Currency bytes, const Messages& texts, std::wstring& out);

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/GeneralSettings.h"
+#include "base/GeneralSettings.h"
 #include "output/OutputKind.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/mdlPrintHTML.h"
 #include "output/mdlPrintPrinter.h"
 #include "output/mdlPrintText.h"

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "output/ListingRun.h"
-#include "output/ListingWriter.h"
+#include "scan/ListingWriter.h"
 
 namespace folivant {
 

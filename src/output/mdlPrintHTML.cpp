@@ -1,6 +1,6 @@
 #include "output/mdlPrintHTML.h"
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
 #include "output/DriverServices.h"
 #include "output/Escaping.h"

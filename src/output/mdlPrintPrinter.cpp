@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
 #include "output/DriverServices.h"
 #include "output/NameShortening.h"

@@ -8,10 +8,10 @@
 
 #include "output/Columns.h"
 #include "output/ListingRun.h"
-#include "output/ListingWriter.h"
 #include "output/Page.h"
 #include "output/PageColumns.h"
-#include "output/PageMargins.h"
+#include "scan/ListingWriter.h"
+#include "ui/PageMargins.h"
 
 namespace folivant {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/DriverServices.h"
 #include "output/NameShortening.h"
 

@@ -8,7 +8,7 @@
 #include "output/Columns.h"
 #include "output/ListingFile.h"
 #include "output/ListingRun.h"
-#include "output/ListingWriter.h"
+#include "scan/ListingWriter.h"
 
 namespace folivant {
 

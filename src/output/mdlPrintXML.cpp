@@ -1,6 +1,6 @@
 #include "output/mdlPrintXML.h"
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
 #include "output/Escaping.h"
 #include "platform/Clock.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 
 namespace folivant {
 

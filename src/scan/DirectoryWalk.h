@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "output/ListingWriter.h"
 #include "scan/DirectoryStack.h"
 #include "scan/FileRecords.h"
+#include "scan/ListingWriter.h"
 #include "scan/Progress.h"
 #include "scan/ScanTree.h"
 #include "scan/WalkPath.h"

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "app/DateValue.h"
+#include "base/DateValue.h"
 
 namespace folivant {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "output/EntryFormatting.h"
 #include "platform/Text.h"
 #include "scan/FileDates.h"

@@ -1,7 +1,7 @@
 // The filter test: which enumerated entries a listing keeps.
 #pragma once
 
-#include "app/Currency.h"
+#include "base/Currency.h"
 #include "platform/FindFiles.h"
 #include "scan/FilterSettings.h"
 #include "scan/NamePatterns.h"

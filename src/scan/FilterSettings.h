@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/DateValue.h"
+#include "base/DateValue.h"
 
 namespace folivant {
 

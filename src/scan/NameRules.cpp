@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/FindFiles.h"
 #include "platform/Text.h"
 

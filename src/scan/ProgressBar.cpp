@@ -1,6 +1,6 @@
 #include "scan/ProgressBar.h"
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 
 namespace folivant {
 namespace {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Currency.h"
+#include "base/Currency.h"
 #include "scan/TextArena.h"
 
 namespace folivant {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "app/GeneralSettings.h"
+#include "base/GeneralSettings.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"
 #include "scan/NamePatterns.h"

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "output/ListingWriter.h"
+#include "scan/ListingWriter.h"
 #include "scan/Progress.h"
 
 namespace folivant {

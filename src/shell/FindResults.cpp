@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 #include "shell/ListViewRequest.h"

@@ -2,7 +2,7 @@
 // (style 6). Both fill ScanTree::FoundList and then raise FindList once, unless the run was cancelled meanwhile.
 #pragma once
 
-#include "output/ListingWriter.h"
+#include "scan/ListingWriter.h"
 #include "scan/Progress.h"
 
 namespace folivant {

@@ -3,8 +3,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/mdlFileRoutines.h"
 #include "app/mdlVars.h"
+#include "base/mdlFileRoutines.h"
 #include "output/EntryFormatting.h"
 #include "platform/Files.h"
 #include "platform/FindFiles.h"

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Locale.h"
 
 namespace folivant {

@@ -1,6 +1,6 @@
 #include "ui/Help.h"
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 
 namespace folivant {

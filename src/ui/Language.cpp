@@ -1,7 +1,7 @@
 #include "ui/Language.h"
 
-#include "app/ProfileFile.h"
-#include "app/mdlFileRoutines.h"
+#include "base/ProfileFile.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/GeneralSettings.h"
+#include "base/GeneralSettings.h"
 
 namespace folivant {
 

@@ -7,7 +7,6 @@
 #include "app/Settings.h"
 #include "app/mdlVars.h"
 #include "output/EntryFormatting.h"
-#include "output/PageMargins.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
@@ -15,6 +14,7 @@
 #include "platform/win32/Shell.h"
 #include "ui/Language.h"
 #include "ui/MarginCheck.h"
+#include "ui/PageMargins.h"
 #include "ui/frmBase.h"
 #include "ui/frmPrinter.h"
 

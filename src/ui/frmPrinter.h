@@ -1,7 +1,7 @@
 // The dialog in which the user picks the printer, its quality, paper bin and duplex mode.
 #pragma once
 
-#include "app/GeneralSettings.h"
+#include "base/GeneralSettings.h"
 
 namespace folivant {
 

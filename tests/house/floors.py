@@ -14,9 +14,10 @@ SEAM, HELPERS, ENGINE, RUN, WINDOWS, STARTUP = range(6)
 
 # The first pattern that fits a path below src/ tells its floor. Plain records hold no logic; every floor may name them.
 FLOORS = [
-    (r'platform/(win32|host)/(main|MainWindow|FindDialog)\.cpp', STARTUP),
+    (r'(app|shell)/(win32|host)/', STARTUP),
     (r'platform/|res/', SEAM),
-    (r'ui/(Messages|Text)\.h|app/GeneralSettings\.h|scan/(FilterSettings|ListingFormat)\.h|output/OutputKind\.h', HELPERS),
+    (r'base/', HELPERS),
+    (r'ui/(Messages|Text)\.h|scan/(FilterSettings|ListingFormat)\.h|output/OutputKind\.h', HELPERS),
     (r'app/(StartUp|CommandLine|frmMain|MainWindow)', STARTUP),
     (r'.*/frm', WINDOWS),
     (r'app/(mdlVars|Settings)\.', RUN),
@@ -40,7 +41,7 @@ def complaints_about(source, path):
         own, system = included.groups()
         if own and (source / own).exists() and floor_of(own) > floor_of(path):
             yield f'{path}:{number}: includes {own} from a floor above'
-        if system and SYSTEM_HEADER.match(system) and not re.match(r'platform/(win32|host)/|.*/frm', path):
+        if system and SYSTEM_HEADER.match(system) and not re.match(r'(platform|app)/(win32|host)/|.*/frm', path):
             yield f'{path}:{number}: {system} outside the seam'
 
 

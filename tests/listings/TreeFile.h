@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "fakes/FakePlatform.h"
 
 namespace folivant::listings {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "fakes/FakePlatform.h"
 #include "output/TestTexts.h"
 

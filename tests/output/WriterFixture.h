@@ -8,8 +8,8 @@
 
 #include "fakes/FakePlatform.h"
 #include "output/ListingRun.h"
-#include "output/ListingWriter.h"
 #include "output/TestTexts.h"
+#include "scan/ListingWriter.h"
 
 namespace folivant {
 

@@ -10,8 +10,8 @@
 
 #include "app/mdlVars.h"
 #include "fakes/FakePlatform.h"
-#include "output/ListingWriter.h"
 #include "platform/RuntimeError.h"
+#include "scan/ListingWriter.h"
 #include "scan/mdlScan.h"
 
 namespace folivant {

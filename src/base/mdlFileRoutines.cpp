@@ -1,4 +1,4 @@
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "output/PageMargins.h"
+#include "ui/PageMargins.h"
 
 #include "platform/RuntimeError.h"
 

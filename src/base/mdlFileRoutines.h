@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Currency.h"
+#include "base/Currency.h"
 
 namespace folivant {
 

@@ -1,7 +1,7 @@
 // Page margins between their settings, in inches or millimetres from the paper's edge, and the page surface's twips.
 #pragma once
 
-#include "app/GeneralSettings.h"
+#include "base/GeneralSettings.h"
 #include "platform/PageSurface.h"
 
 namespace folivant {

@@ -1,8 +1,8 @@
-#include "output/PageMargins.h"
+#include "ui/PageMargins.h"
 
 #include <gtest/gtest.h>
 
-#include "app/mdlFileRoutines.h"
+#include "base/mdlFileRoutines.h"
 #include "fakes/RecordingSurface.h"
 
 namespace folivant {
