@@ -10,15 +10,15 @@
 LangString IsRunning ${L} "Folivant is running. Close it and try again."
 LangString AdministratorOnly ${L} "Only an administrator can do this for all users."
 LangString ScopeTitle ${L} "Who will use Folivant?"
-LangString ScopeQuestion ${L} "Installing for all users needs an administrator."
+LangString ScopeQuestion ${L} "Installing for all users requires administrator rights."
 LangString ScopeUser ${L} "Only &me"
 LangString ScopeAll ${L} "&All users of this computer"
 LangString ProgramHint ${L} "The program, its languages and the manual."
 LangString ListWith ${L} "List with Folivant"
-LangString ListWithHint ${L} "Adds this entry to the menu of folders and drives."
+LangString ListWithHint ${L} "Adds this entry to the shortcut menu of folders and drives."
 LangString FilterFile ${L} "Folivant filter file"
 LangString SettingsTitle ${L} "Settings"
-LangString SettingsQuestion ${L} "Your settings can stay for a later installation."
+LangString SettingsQuestion ${L} "Your settings can be kept for a later installation."
 LangString SettingsToo ${L} "&Delete my settings too"
 !insertmacro EndTexts
 
