@@ -39,15 +39,15 @@ LangString SettingsToo ${L} "Ook mijn instellingen &verwijderen"
 !insertmacro EndTexts
 
 !insertmacro Texts GERMAN
-LangString IsRunning ${L} "Folivant läuft noch. Bitte beenden Sie es und versuchen Sie es erneut."
+LangString IsRunning ${L} "Folivant läuft noch. Beenden Sie das Programm und versuchen Sie es erneut."
 LangString AdministratorOnly ${L} "Nur ein Administrator kann dies für alle Benutzer tun."
 LangString ScopeTitle ${L} "Wer wird Folivant benutzen?"
-LangString ScopeQuestion ${L} "Die Installation für alle Benutzer erfordert einen Administrator."
+LangString ScopeQuestion ${L} "Die Installation für alle Benutzer erfordert Administratorrechte."
 LangString ScopeUser ${L} "Nur &ich"
 LangString ScopeAll ${L} "&Alle Benutzer dieses Computers"
 LangString ProgramHint ${L} "Das Programm, seine Sprachen und das Handbuch."
 LangString ListWith ${L} "Mit Folivant auflisten"
-LangString ListWithHint ${L} "Fügt diesen Eintrag dem Menü von Ordnern und Laufwerken hinzu."
+LangString ListWithHint ${L} "Fügt diesen Eintrag dem Kontextmenü von Ordnern und Laufwerken hinzu."
 LangString FilterFile ${L} "Folivant-Filterdatei"
 LangString SettingsTitle ${L} "Einstellungen"
 LangString SettingsQuestion ${L} "Ihre Einstellungen können für eine spätere Installation erhalten bleiben."
