@@ -97,9 +97,8 @@ std::wstring SingleText(float value) {
 
 std::wstring FieldName(std::wstring_view caption) {
   std::wstring name = Trim(ReplaceAll(caption, L"&", L""));
-  while (!name.empty() && (name.back() == L':' || name.back() == L' ')) {
-    name.pop_back();
-  }
+  // French has a blank that does not break before the colon.
+  name.erase(name.find_last_not_of(L": \u00A0") + 1);
   return name;
 }
 
