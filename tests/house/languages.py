@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds every language file against the numbers that the program uses: each text is there, placeholders and line breaks are
-those of the English text, no two mnemonics of one window are the same, and texts whose place is narrow fit into it. Which
-captions meet in one window is read from the tables of the frm files.
+those of the English text, no two mnemonics of one window are the same, and texts whose place is narrow fit into it; French
+marks have blanks that do not break. Which captions meet in one window is read from the tables of the frm files.
 
     tests/house/languages.py REPOSITORY
 """
@@ -17,6 +17,7 @@ LONGEST = 299
 NARROW = {'FilesCaption': 9, 'DirectorySizeCaption': 9, 'TotalFilesCaption': 9, 'TotalSizeCaption': 9,
           'DirectorySizeText': 5, 'UnitBytes': 2, 'UnitKilobytes': 2, 'UnitMegabytes': 2, 'UnitGigabytes': 2,
           'UnitTerabytes': 2, 'SizeCaption': 8, 'DosNameCaption': 12, 'DateCaption': 16}
+BREAKING = re.compile(r' [:;?!»]|« |\d %')
 
 
 def numbers():
@@ -70,6 +71,8 @@ def complaints(language, used, english):
             yield f'{language}: {number} ({name}) has other placeholders or line breaks than English'
         if not text.strip() or len(text) > NARROW.get(name, LONGEST):
             yield f'{language}: {number} ({name}) is empty or too long: {text}'
+        if language == 'french' and BREAKING.search(text):
+            yield f'french: {number} ({name}) may break before or after a mark: {text}'
     for number in set(own) - {str(n) for n in used.values()} - {'Language', 'Flag'}:
         yield f'{language}: {number} is not used'
     for window, names in windows():

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds every manual in help/ against the English one and against its language file: the same elements, anchors, links,
 pictures and code in the same places, every control (<b>) named as the windows name it, nothing left in English, and each
-style, button, switch and placeholder of the program explained.
+style, button, switch and placeholder of the program explained. French marks have blanks that do not break.
 
     tests/house/manuals.py REPOSITORY
 """
@@ -23,6 +23,7 @@ EXPLAINED = [*range(0, 16), 18, 19, 20, *range(24, 29), 42, 105, 106, 108, 109, 
              222, 223, 224, 225, 226, 228, 233, 234, 240, 241, 246, 251, 260, 261, 263, 265, 266, 267, 268, 269, 272,
              279, 280, 282, 283, 285, 287, 288]
 EXPLAINED.remove(216)  # "between", which the pickers show
+BREAKING = re.compile(r' [:;?!»]|« |\d %|\d \d')
 
 
 class Block:
@@ -131,6 +132,12 @@ def of_the_file(page):
             yield f'{file.name} is shown nowhere'
 
 
+def of_french_marks(page):
+    for text in [text for block in page.blocks for text in (block.text, *block.controls)] + page.alts:
+        if BREAKING.search(text):
+            yield f'"{text.strip()[:60]}" may break before or after a mark'
+
+
 def of_the_controls(page, own):
     named = set()
     for control in [control for block in page.blocks for control in block.controls]:
@@ -206,6 +213,8 @@ def main():
             complaints += of_the_program(page)
         elif page.blocks:
             complaints += [*against_english(page, own, english, captions), *in_english(page, own, english, captions)]
+        if language == 'french':
+            complaints += of_french_marks(page)
         found += [f'{language}: {complaint}' for complaint in complaints]
     languages = {path.stem for path in (ROOT / 'lang').glob('*.ini')}
     found += [f'{name}: no manual for this language, or a manual for none' for name in languages ^ set(TAGS)]
