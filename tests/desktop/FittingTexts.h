@@ -73,7 +73,7 @@ class FittingTexts {
       return 0;
     }
     const bool push = (style & BS_TYPEMASK) <= BS_DEFPUSHBUTTON;
-    return WidthOf(control.Text()) + (label ? 0 : push ? Scaled(8) : Scaled(16));
+    return WidthOf(control.Text()) + Scaled(label ? 2 : push ? 8 : 16);
   }
 
   HFONT font_;

@@ -15,6 +15,7 @@ constexpr int kButtonPadding = 20;
 constexpr int kCheckPadding = 22;
 constexpr int kFramePadding = 22;
 constexpr int kComboPadding = 30;
+constexpr int kLabelPadding = 2;  // a text may be drawn a dot wider than it measures: the colon would go
 constexpr int kWidestCombo = 300;
 
 std::wstring CaptionOf(HWND control) {
@@ -214,7 +215,7 @@ int NeededWidth(HWND control) {
     case Kind::Frame:
       return padded(WidthOfCaption(control, CaptionOf(control)), kFramePadding);
     case Kind::Label:
-      return WidthOfCaption(control, CaptionOf(control));
+      return padded(WidthOfCaption(control, CaptionOf(control)), kLabelPadding);
     case Kind::Combo:
       return std::min(padded(WidestItem(control), kComboPadding), MulDiv(kWidestCombo, DpiOf(control), 96));
     case Kind::Other:
