@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "base/Lengths.h"
 #include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
 #include "output/DriverServices.h"
@@ -30,7 +31,7 @@ constexpr std::array<double EntryPositions::*, kFurtherColumns.size()> kEntryPla
 /// A caption that would run into the one before it loses its end.
 std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasure& measure) {
   constexpr std::wstring_view kDots = L"...";
-  if (measure.WidthOf(caption) <= room) {
+  if (!IsLonger(measure.WidthOf(caption), room)) {
     return std::wstring(caption);
   }
   std::wstring cut(caption.substr(0, DrawnMeasure(measure).Fit(caption, room - measure.WidthOf(kDots))));
@@ -100,7 +101,7 @@ void PrinterWriter::DrawCentred(std::wstring_view text, double y) {
 }
 
 void PrinterWriter::BreakPage(double linesToKeepFree) {
-  if (page_->Y() > bodyBottom_ - linesToKeepFree * lineHeight_) {
+  if (IsLonger(page_->Y(), bodyBottom_ - linesToKeepFree * lineHeight_)) {
     page_->NextPage();
     StartPage();
     if (run_.Watcher != nullptr) {
@@ -304,7 +305,7 @@ void PrinterWriter::AbortListing() noexcept {
 }
 
 void PrinterWriter::DrawName(double x, std::wstring_view name, double width) {
-  if (page_->WidthOf(name) <= width) {
+  if (!IsLonger(page_->WidthOf(name), width)) {
     page_->Draw(x, name);
   } else {
     page_->Draw(x, ShortenName(name, width, DrawnMeasure(*page_)));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Lengths.h"
 #include "base/mdlFileRoutines.h"
 #include "platform/FindFiles.h"
 #include "platform/Text.h"
@@ -114,7 +115,7 @@ LongPath GetLongPath(std::wstring_view path) {
 }
 
 std::wstring FitPathToWidth(std::wstring_view path, double width, const TextMeasure& form) {
-  if (form.WidthOf(path) < width) {
+  if (IsShorter(form.WidthOf(path), width)) {
     return std::wstring(path);
   }
   const std::size_t last = path.rfind(L'\\');
@@ -126,7 +127,7 @@ std::wstring FitPathToWidth(std::wstring_view path, double width, const TextMeas
   std::size_t tooLong = leading.size() + 1;
   while (fits + 1 < tooLong) {
     const std::size_t middle = fits + (tooLong - fits) / 2;
-    if (form.WidthOf(candidate(middle)) < width) {
+    if (IsShorter(form.WidthOf(candidate(middle)), width)) {
       fits = middle;
     } else {
       tooLong = middle;

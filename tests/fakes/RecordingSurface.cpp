@@ -28,12 +28,17 @@ class RecordingSurface final : public platform::PageSurface {
   }
   double TextWidth(std::wstring_view text) override {
     ++printer_.Measured;
+    if (printer_.Resolution > 0) {
+      return Twips(static_cast<double>(text.size()) * printer_.DotsOfCharacter(font_.Points));
+    }
     const auto blanks = std::count(text.begin(), text.end(), L' ');
     const double others = static_cast<double>(text.size()) - static_cast<double>(blanks);
     const double bold = font_.Bold ? 1 : 0;
     return font_.Points * (others * (12 + bold) + static_cast<double>(blanks) * (6 + bold));
   }
-  double TextHeight() override { return font_.Points * 22; }
+  double TextHeight() override {
+    return printer_.Resolution > 0 ? Twips(printer_.DotsOfLine(font_.Points)) : font_.Points * 22;
+  }
   void Draw(double x, double y, std::wstring_view text) override {
     FailIf(PrinterFailure::Draw);
     printer_.Keep(x, y, text, font_);
@@ -53,6 +58,9 @@ class RecordingSurface final : public platform::PageSurface {
   }
 
  private:
+  /// As a device's texts become twips: by another division than its sheet.
+  double Twips(double dots) const { return dots / (printer_.Resolution / platform::kTwipsPerInch); }
+
   void FailIf(PrinterFailure failure) const {
     if (printer_.Failure == failure && printer_.Pages == printer_.FailingPage) {
       throw RuntimeError(FailedAction::Print, printerName_, L"The printer is out of order.", 4242);
@@ -73,12 +81,26 @@ RecordingPrinter::RecordingPrinter() {
 
 void RecordingPrinter::Reset() {
   Area = {11906, 16838, 0, 0, 0, 0};
+  Resolution = 0;
   Failure = PrinterFailure::None;
   FailingPage = 1;
   Jobs.clear();
   BeginDocument();
   Pages = Ended = Aborted = 0;
   Measured = 0;
+}
+
+void RecordingPrinter::SetSheet(int dotsPerInch, double width, double height) {
+  Resolution = dotsPerInch;
+  Area = {width * platform::kTwipsPerInch / dotsPerInch, height * platform::kTwipsPerInch / dotsPerInch, 0, 0, 0, 0};
+}
+
+double RecordingPrinter::DotsOfCharacter(double points) const {
+  return std::round(points * Resolution / 120);
+}
+
+double RecordingPrinter::DotsOfLine(double points) const {
+  return std::round(points * Resolution / 64);
 }
 
 void RecordingPrinter::BeginDocument() {

@@ -26,10 +26,12 @@ struct DrawnText {
 enum class PrinterFailure { None, Open, SelectFont, Draw, NewPage, EndDocument };
 
 /// The one printer that OpenPageSurface opens. A character is 12 twips wide per point and a blank 6, in bold one more
-/// each; a line is 22 twips high per point. So in 10 points a "W" is 120 by 220 twips and a blank 60 wide.
+/// each; a line is 22 twips high per point. So in 10 points a "W" is 120 by 220 twips and a blank 60 wide. With a
+/// resolution it is a device: every character is as wide as any other, and all lengths are whole dots.
 class RecordingPrinter {
  public:
   platform::PageArea Area;
+  int Resolution = 0;  ///< dots per inch; 0 for measures of its own
   PrinterFailure Failure = PrinterFailure::None;
   int FailingPage = 1;  ///< the page on which Draw and NewPage fail
 
@@ -44,6 +46,11 @@ class RecordingPrinter {
   RecordingPrinter();
   /// An A4-like sheet without borders that works, and nothing printed.
   void Reset();
+  /// Makes it a device with a sheet of so many dots, all of which it can print on.
+  void SetSheet(int dotsPerInch, double width, double height);
+  /// In dots, as a device of the Resolution draws them: three fifths of the font's height wide, 9 eighths of it high.
+  double DotsOfCharacter(double points) const;
+  double DotsOfLine(double points) const;
   /// Forgets the last document's texts.
   void BeginDocument();
   void Keep(double x, double y, std::wstring_view text, const platform::PageFont& font);

@@ -1,0 +1,18 @@
+// Lengths as they are compared. On paper the same length is reached in different ways (dots of the device, margins in
+// inches or millimetres, sums of both), and as fractions of a twip the results differ by rounding alone.
+#pragma once
+
+namespace folivant {
+
+/// Lengths that differ by less count as equal. A hundredth of a twip is 144,000 to the inch, far below any device's dot
+/// and far above what rounding leaves; of pixels and characters, which are whole, it changes nothing.
+inline constexpr double kLengthSlack = 0.01;
+
+constexpr bool IsShorter(double length, double than) {
+  return length < than - kLengthSlack;
+}
+constexpr bool IsLonger(double length, double than) {
+  return IsShorter(than, length);
+}
+
+}  // namespace folivant
