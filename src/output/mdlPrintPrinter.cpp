@@ -49,19 +49,14 @@ platform::PageFont HeaderFooterFont(const GeneralSettings& general) {
   return {general.FontNameHF, static_cast<double>(general.FontSizeHF), false};
 }
 
-platform::PrintJob JobOf(const ListingRun& run) {
-  platform::PrintJob job = PrintJobOf(run.Printer, run.General.Portrait);
-  job.Title = L"Folivant - " + run.Tree.StartPath;
-  return job;
-}
-
 }  // namespace
 
 void PrinterWriter::BeginListing() {
-  page_ = std::make_unique<Page>(platform::OpenPageSurface(JobOf(run_)), ListingFont(run_.General),
-                                 HeaderFooterFont(run_.General));
+  page_ = std::make_unique<Page>(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)),
+                                 ListingFont(run_.General), HeaderFooterFont(run_.General));
   Measure();
   PlaceColumns();
+  page_->BeginDocument(L"Folivant - " + run_.Tree.StartPath);
   StartPage();
 }
 

@@ -25,7 +25,7 @@ PageMargins MinimumMargins(const platform::PageArea& area, bool inches) {
 
 PageMargins MinimumMarginsOf(const PrinterSettings& printer, bool portrait, bool inches) {
   try {
-    return MinimumMargins(platform::PageAreaOf(PrintJobOf(printer, portrait)), inches);
+    return MinimumMargins(platform::OpenPageSurface(PrintJobOf(printer, portrait))->Area(), inches);
   } catch (const RuntimeError&) {
     return {};
   }

@@ -24,7 +24,7 @@ PageMargins MinimumMargins(const platform::PageArea& area, bool inches);
 /// keeps a user without one from confirming the options.
 PageMargins MinimumMarginsOf(const PrinterSettings& printer, bool portrait, bool inches);
 
-/// The job that the printer settings describe, without a title.
+/// The job that the printer settings describe.
 platform::PrintJob PrintJobOf(const PrinterSettings& printer, bool portrait);
 
 }  // namespace folivant

@@ -18,12 +18,16 @@ TEST_F(PageWriter, TheJobCarriesThePrinterSettings) {
   ASSERT_EQ(printer.Jobs.size(), 1U);
   const platform::PrintJob& job = printer.Jobs[0];
   EXPECT_EQ(job.PrinterName, L"Laser");
-  EXPECT_EQ(job.Title, L"Folivant - C:\\Data");
   EXPECT_EQ(job.Copies, 3);
   EXPECT_EQ(job.Duplex, 2);
   EXPECT_EQ(job.Quality, -4);
   EXPECT_EQ(job.PaperBin, 4);
   EXPECT_FALSE(job.Portrait);
+}
+
+TEST_F(PageWriter, TheDocumentIsNamedAfterTheStartPath) {
+  Begin(ListingStyle::NoSubdirectories);
+  EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - C:\\Data"});
 }
 
 TEST_F(PageWriter, HeaderAndFooterAreCentredInFourFifthsOfTheFont) {
@@ -300,7 +304,9 @@ TEST_P(PrinterFailures, ReachTheCallerWithTheSystemsText) {
 
 INSTANTIATE_TEST_SUITE_P(Where, PrinterFailures,
                          ::testing::Values(FailureCase{"Open", fakes::PrinterFailure::Open, 1, 0},
-                                           FailureCase{"Font", fakes::PrinterFailure::SelectFont, 1, 1},
+                                           FailureCase{"Font", fakes::PrinterFailure::SelectFont, 0, 0},
+                                           FailureCase{"Begin", fakes::PrinterFailure::BeginDocument, 0, 0},
+                                           FailureCase{"FontLater", fakes::PrinterFailure::SelectFont, 2, 1},
                                            FailureCase{"Draw", fakes::PrinterFailure::Draw, 1, 1},
                                            FailureCase{"DrawLater", fakes::PrinterFailure::Draw, 2, 1},
                                            FailureCase{"NewPage", fakes::PrinterFailure::NewPage, 1, 1},
