@@ -53,4 +53,26 @@ std::wstring ShortenName(std::wstring_view name, double width, const NameMeasure
   return CutTo(base, width - measure.WidthOf(extension), measure) + extension;
 }
 
+std::wstring FitHeading(std::wstring_view heading, double width, const TextMeasure& form) {
+  if (IsShorter(form.WidthOf(heading), width)) {
+    return std::wstring(heading);
+  }
+  const std::wstring fitted = FitPathToWidth(heading, width, form);
+  if (IsShorter(form.WidthOf(fitted), width)) {
+    return fitted;
+  }
+  const auto candidate = [&](std::size_t kept) { return std::wstring(kDots) += heading.substr(heading.size() - kept); };
+  std::size_t fits = 0;
+  std::size_t tooMany = heading.size() + 1;
+  while (fits + 1 < tooMany) {
+    const std::size_t middle = fits + (tooMany - fits) / 2;
+    if (IsShorter(form.WidthOf(candidate(middle)), width)) {
+      fits = middle;
+    } else {
+      tooMany = middle;
+    }
+  }
+  return candidate(fits);
+}
+
 }  // namespace folivant

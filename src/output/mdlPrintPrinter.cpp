@@ -66,7 +66,7 @@ void PrinterWriter::Measure() {
   lineHeight_ = page_->LineHeight();
   origin_ = margins.Left - area.LeftOffset;
   usableWidth_ = area.Width - margins.Left - margins.Right + area.LeftOffset + area.RightOffset;
-  // Without the offsets, on purpose: the path in a heading gets a little less than the line could hold.
+  // Without the offsets, on purpose: a heading gets a little less than the line could hold.
   headingWidth_ = std::nearbyint(area.Width - margins.Left - margins.Right);
   headerTop_ = margins.Top - area.TopOffset;
   bodyBottom_ = area.Height - margins.Bottom + area.BottomOffset;
@@ -157,8 +157,8 @@ void PrinterWriter::DirectoryHeading(std::wstring_view path) {
   page_->Select(Page::Face::Heading);
   text_ = run_.Texts[Text::DirectoryHeading];
   text_ += L' ';
-  text_ += FitPathToWidth(path, headingWidth_, *page_);
-  DrawAtOrigin(text_);
+  text_ += path;
+  DrawAtOrigin(FitHeading(text_, headingWidth_, *page_));
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();

@@ -61,7 +61,7 @@ class PrinterWriter final : public ListingWriter {
   std::unique_ptr<Page> page_;  ///< from the beginning of a listing to its end
   double origin_ = 0;           ///< where lines begin: the left margin within the printable area
   double usableWidth_ = 0;      ///< from there to the right margin
-  double headingWidth_ = 0;     ///< for the path in a directory's heading
+  double headingWidth_ = 0;     ///< for a directory's heading
   double headerTop_ = 0;
   double bodyBottom_ = 0;  ///< the bottom margin within the printable area
   double lineHeight_ = 0;  ///< of the listing font

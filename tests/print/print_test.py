@@ -267,6 +267,20 @@ class Pages(PrintTest):
         self.near(word.left, LEFT)
         self.assertLess(word.right, DOS_NAME - 12)
 
+    def test_headings_keep_the_end_of_the_directorys_name(self):
+        # Bold letters are as wide as others, so 2006.56 dots hold 80 characters. Beside the dots of a name that alone is
+        # too long they hold 77 of it, and beside "Directory of " and "...\\" with a name of 54 they hold 9 of its path.
+        long, short = "n" * 150 + "-End", "m" * 50 + "-End"
+        for name in (long, short):
+            self.file(f"{name}/a.txt")
+        document = self.print("Format=1")
+        headings = [line for line in document.all_lines() if line.endswith("-End")]
+        start = "Z:\\Tmp\\Print"[:9]
+        self.assertEqual(headings, [f"Directory of {start}...\\{short}", "..." + "n" * 73 + "-End"])
+        right = max(word.right for page in document.pages for word in page if word.text.endswith("-End"))
+        # In the document a letter is 25.2 dots wide: 42 dots of font height, of which the measure leaves the fraction out.
+        self.near(right, LEFT + 80 * 25.2 * POINTS)
+
     def test_ten_thousand_entries_fill_176_pages(self):
         self.files(10_000)
         document = self.print("Format=0")
