@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
 
 #include "base/Lengths.h"
@@ -10,6 +9,7 @@
 #include "output/Columns.h"
 #include "output/DriverServices.h"
 #include "output/NameShortening.h"
+#include "ui/PageMargins.h"
 
 namespace folivant {
 namespace {
@@ -38,51 +38,20 @@ std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasur
   return cut += kDots;
 }
 
-platform::PageFont ListingFont(const GeneralSettings& general) {
-  return {general.FontName, static_cast<double>(general.FontSize), false};
-}
-
-platform::PageFont HeaderFooterFont(const GeneralSettings& general) {
-  if (general.Font80HF) {
-    return {general.FontName, general.FontSize * 4 / 5.0, false};
-  }
-  return {general.FontNameHF, static_cast<double>(general.FontSizeHF), false};
-}
-
 }  // namespace
 
 void PrinterWriter::BeginListing() {
-  page_ = std::make_unique<Page>(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)),
-                                 ListingFont(run_.General), HeaderFooterFont(run_.General));
-  Measure();
-  PlaceColumns();
+  page_ = MakePage(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)), run_.General);
+  layout_ = LayOut(*page_, run_.General, run_.Format);
   page_->BeginDocument(L"Folivant - " + run_.Tree.StartPath);
   StartPage();
-}
-
-void PrinterWriter::Measure() {
-  const platform::PageArea area = page_->Area();
-  const PageMargins margins = MarginsInTwips(run_.General);
-  lineHeight_ = page_->LineHeight();
-  origin_ = margins.Left - area.LeftOffset;
-  usableWidth_ = area.Width - margins.Left - margins.Right + area.LeftOffset + area.RightOffset;
-  // Without the offsets, on purpose: a heading gets a little less than the line could hold.
-  headingWidth_ = std::nearbyint(area.Width - margins.Left - margins.Right);
-  headerTop_ = margins.Top - area.TopOffset;
-  bodyBottom_ = area.Height - margins.Bottom + area.BottomOffset;
-}
-
-void PrinterWriter::PlaceColumns() {
-  entryAt_ = PlaceEntryColumns(run_.Format.Files, usableWidth_, *page_);
-  directoryAt_ = PlaceDirectoryColumns(run_.Format.Directories, usableWidth_, *page_);
-  foundAt_ = PlaceFoundColumns(origin_, usableWidth_, *page_);
 }
 
 void PrinterWriter::StartPage() {
   ++run_.PageNumber;
   page_->Select(Page::Face::HeaderFooter);
-  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, run_), bodyBottom_ - lineHeight_);
-  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, run_), headerTop_);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, run_), layout_.BodyBottom - layout_.LineHeight);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, run_), layout_.HeaderTop);
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();
@@ -96,7 +65,7 @@ void PrinterWriter::DrawCentred(std::wstring_view text, double y) {
 }
 
 void PrinterWriter::BreakPage(double linesToKeepFree) {
-  if (IsLonger(page_->Y(), bodyBottom_ - linesToKeepFree * lineHeight_)) {
+  if (IsLonger(page_->Y(), layout_.BodyBottom - linesToKeepFree * layout_.LineHeight)) {
     page_->NextPage();
     StartPage();
     if (run_.Watcher != nullptr) {
@@ -127,7 +96,7 @@ void PrinterWriter::DrawEntryCaptions() {
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
     if (run_.Format.Files.*column.Shown) {
-      DrawCaption(entryAt_.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
+      DrawCaption(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
     }
   }
 }
@@ -136,9 +105,9 @@ void PrinterWriter::DrawDirectoryCaptions() {
   DrawAtOrigin(run_.Texts[Text::DirectoryCaption]);
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
     if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
-      const double begin = i == 0 ? directoryAt_.NameWidth : directoryAt_.Ends[i - 1];
-      const double room = directoryAt_.Ends[i] - begin - page_->RememberedWidthOf(L" ");
-      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i],
+      const double begin = i == 0 ? layout_.Directories.NameWidth : layout_.Directories.Ends[i - 1];
+      const double room = layout_.Directories.Ends[i] - begin - page_->RememberedWidthOf(L" ");
+      page_->DrawEndingAt(layout_.Origin + layout_.Directories.Ends[i],
                           CutCaption(run_.Texts[kDirectoryColumns[i].Caption], room, *page_));
     }
   }
@@ -146,9 +115,9 @@ void PrinterWriter::DrawDirectoryCaptions() {
 
 void PrinterWriter::DrawFoundCaptions() {
   DrawAtOrigin(run_.Texts[Text::NameCaption]);
-  page_->Draw(origin_ + foundAt_.Folder, run_.Texts[Text::FolderCaption]);
-  DrawCaption(foundAt_.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
-  page_->Draw(origin_ + foundAt_.Date, run_.Texts[Text::DateCaption]);
+  page_->Draw(layout_.Origin + layout_.Found.Folder, run_.Texts[Text::FolderCaption]);
+  DrawCaption(layout_.Found.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
+  page_->Draw(layout_.Origin + layout_.Found.Date, run_.Texts[Text::DateCaption]);
 }
 
 void PrinterWriter::DirectoryHeading(std::wstring_view path) {
@@ -158,7 +127,7 @@ void PrinterWriter::DirectoryHeading(std::wstring_view path) {
   text_ = run_.Texts[Text::DirectoryHeading];
   text_ += L' ';
   text_ += path;
-  DrawAtOrigin(FitHeading(text_, headingWidth_, *page_));
+  DrawAtOrigin(FitHeading(text_, layout_.HeadingWidth, *page_));
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();
@@ -169,7 +138,7 @@ void PrinterWriter::DirectoryHeading(std::wstring_view path) {
 
 void PrinterWriter::DirectorySummary(std::wstring_view summary) {
   page_->EndLine();
-  page_->Draw(origin_ + kSummaryIndent, summary);
+  page_->Draw(layout_.Origin + kSummaryIndent, summary);
   page_->EndLine();
 }
 
@@ -190,7 +159,7 @@ void PrinterWriter::FullPathLines(const DirectoryListing& directory) {
     BreakPageBeforeLine();
     text_ = folder;
     text_ += directory.Records[index].Name;
-    DrawAtOrigin(FitPathToWidth(text_, usableWidth_, *page_));
+    DrawAtOrigin(FitPathToWidth(text_, layout_.UsableWidth, *page_));
     page_->EndLine();
   }
 }
@@ -205,12 +174,12 @@ void PrinterWriter::TreeEntry(const FileRecord& entry) {
 
 void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
   if (run_.Format.Files.*kNameColumn.Shown) {
-    DrawName(origin_, name, entryAt_.NameWidth);
+    DrawName(layout_.Origin, name, layout_.Entries.NameWidth);
   }
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
     if (run_.Format.Files.*column.Shown) {
-      DrawCell(entryAt_.*kEntryPlaces[i], column.Layout.Align, entry.*column.Value);
+      DrawCell(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, entry.*column.Value);
     }
   }
   page_->EndLine();
@@ -219,9 +188,9 @@ void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
 
 void PrinterWriter::DrawCell(double position, Alignment alignment, std::wstring_view text) {
   if (alignment == Alignment::Right) {
-    page_->DrawEndingAt(origin_ + position, text);
+    page_->DrawEndingAt(layout_.Origin + position, text);
   } else {
-    page_->Draw(origin_ + position, text);
+    page_->Draw(layout_.Origin + position, text);
   }
 }
 
@@ -234,15 +203,15 @@ void PrinterWriter::DrawCaption(double position, Alignment alignment, std::wstri
 
 void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
   if (node.Level == 0) {
-    DrawAtOrigin(FitPathToWidth(node.Path, directoryAt_.NameWidth, *page_));
+    DrawAtOrigin(FitPathToWidth(node.Path, layout_.Directories.NameWidth, *page_));
   } else {
-    DrawName(origin_, Indented(node.Level, node.Name), directoryAt_.NameWidth);
+    DrawName(layout_.Origin, Indented(node.Level, node.Name), layout_.Directories.NameWidth);
   }
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
     if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
       text_.clear();
       kDirectoryColumns[i].AppendValue(node, run_.Texts, text_);
-      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i], text_);
+      page_->DrawEndingAt(layout_.Origin + layout_.Directories.Ends[i], text_);
     }
   }
   page_->EndLine();
@@ -267,10 +236,10 @@ void PrinterWriter::FindList(std::span<const FoundItem> rows) {
 }
 
 void PrinterWriter::FoundLine(const FoundItem& row) {
-  DrawName(origin_, row.Name, foundAt_.NameWidth);
-  DrawName(origin_ + foundAt_.Folder, row.InFolder, foundAt_.FolderWidth);
-  page_->DrawEndingAt(origin_ + foundAt_.SizeEnd, row.Size);
-  page_->Draw(origin_ + foundAt_.Date, row.Modified);
+  DrawName(layout_.Origin, row.Name, layout_.Found.NameWidth);
+  DrawName(layout_.Origin + layout_.Found.Folder, row.InFolder, layout_.Found.FolderWidth);
+  page_->DrawEndingAt(layout_.Origin + layout_.Found.SizeEnd, row.Size);
+  page_->Draw(layout_.Origin + layout_.Found.Date, row.Modified);
   page_->EndLine();
   BreakPageBeforeLine();
 }
