@@ -33,7 +33,8 @@ class Page final : public TextMeasure {
   /// The same for texts that are likely to come back, such as sizes.
   double RememberedWidthOf(std::wstring_view text) const;
   /// The height of a line in the selected font.
-  double LineHeight() const { return lineHeights_[Index(face_)]; }
+  double LineHeight() const { return LineHeightOf(face_); }
+  double LineHeightOf(Face face) const { return lineHeights_[Index(face)]; }
 
   double Y() const { return y_; }
   void MoveTo(double y) { y_ = y; }

@@ -14,9 +14,8 @@
 namespace folivant {
 namespace {
 
-/// Line heights that an ordinary line leaves free above the bottom margin, for the footer.
-constexpr double kLinesBelowLine = 4;
-/// The same for a directory's heading: more, so that none stands alone at the foot of a page.
+/// Line heights that a directory's heading leaves free: more than a line, so that none stands alone at the foot of a
+/// page.
 constexpr double kLinesBelowHeading = 10;
 /// A small fixed indent in twips, kept as designed.
 constexpr double kSummaryIndent = 20;
@@ -42,7 +41,7 @@ std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasur
 
 void PrinterWriter::BeginListing() {
   page_ = MakePage(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)), run_.General);
-  layout_ = LayOut(*page_, run_.General, run_.Format);
+  layout_ = LayOut(*page_, run_.General, run_.Format, run_.Texts);
   page_->BeginDocument(L"Folivant - " + run_.Tree.StartPath);
   StartPage();
 }

@@ -498,6 +498,28 @@ class Failures(PrintTest):
         self.assertRegex(self.answer_box(), r'^Cannot print on "Dying": .+ \(\d+\)$')
         self.assertEqual(process.wait(timeout=60), 1)
 
+    def check_refused(self, message, *lines, **settings):
+        """A run that is refused with this message leaves nothing in the queue."""
+        self.file("a.txt")
+        self.store(PrinterName="Plain", **settings)
+        jobs = server.run("lpstat", "-W", "all", "-o", "Plain")
+        process = self.start(*lines)
+        self.assertEqual(self.answer_box(), message)
+        self.assertEqual(process.wait(timeout=60), 1)
+        self.assertEqual(server.run("lpstat", "-W", "all", "-o", "Plain"), jobs)
+
+    def test_margins_that_leave_no_room_are_refused(self):
+        self.check_refused("The margins leave no room for the listing on the page "
+                           "(Left: 20; Top: 15; Right: 20; Bottom: 20 in).", "Format=0", Inches="True")
+        # A letter and dots are 100 dots wide, and 2479 - 236.22 - 182.5 x 11.811 are 87.
+        self.check_refused("The margins leave no room for the listing on the page "
+                           "(Left: 20; Top: 15; Right: 182.5; Bottom: 20 mm).", "Format=4", "MarginRight=182.5")
+
+    def test_fonts_that_fit_on_no_page_are_refused(self):
+        self.check_refused("The listing cannot be printed in this font size (Courier New, 0).", "Format=0", "FontSize=0")
+        self.check_refused("The listing cannot be printed in this font size (Arial, 2000000000).", "Format=3",
+                           "Font80HF=False", "FontNameHF=Arial", "FontSizeHF=2000000000")
+
     def test_without_any_printer_a_message_says_so(self):
         self.file("a.txt")
         self.environment = dict(server.environment, CUPS_SERVER="127.0.0.1:1")
@@ -525,6 +547,9 @@ class Windows(PrintTest):
 
     def test_margins_that_a_printer_cannot_do(self):
         self.check("SmallMargins.*")
+
+    def test_settings_that_leave_no_room(self):
+        self.check("NoRoom.*")
 
     def test_windows_of_a_system_without_printers(self):
         self.check("NoPrinters.*", CUPS_SERVER="127.0.0.1:1")
