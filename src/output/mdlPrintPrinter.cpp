@@ -63,18 +63,28 @@ void PrinterWriter::DrawCentred(std::wstring_view text, double y) {
   page_->Draw(page_->Area().Width / 2 - page_->WidthOf(text) / 2, text);
 }
 
-void PrinterWriter::BreakPage(double linesToKeepFree) {
-  if (IsLonger(page_->Y(), layout_.BodyBottom - linesToKeepFree * layout_.LineHeight)) {
-    page_->NextPage();
-    StartPage();
-    if (run_.Watcher != nullptr) {
-      run_.Watcher->LetEventsThrough();  // a directory may fill hundreds of pages
-    }
+bool PrinterWriter::BreakPage(double linesToKeepFree) {
+  if (!IsLonger(page_->Y(), layout_.BodyBottom - linesToKeepFree * layout_.LineHeight)) {
+    return false;
+  }
+  page_->NextPage();
+  StartPage();
+  return true;
+}
+
+void PrinterWriter::BreakPageInBody(double linesToKeepFree) {
+  if (BreakPage(linesToKeepFree) && run_.Watcher != nullptr) {
+    run_.Watcher->LetEventsThrough();  // a directory may fill hundreds of pages
   }
 }
 
 void PrinterWriter::BreakPageBeforeLine() {
-  BreakPage(kLinesBelowLine);
+  BreakPageInBody(kLinesBelowLine);
+}
+
+/// Nothing of a cancelled run is printed, so nothing more of it is drawn.
+bool PrinterWriter::Cancelled() const {
+  return run_.Tree.Cancelled || (run_.Watcher != nullptr && run_.Watcher->Cancelled());
 }
 
 void PrinterWriter::DrawStyleCaptions() {
@@ -120,7 +130,7 @@ void PrinterWriter::DrawFoundCaptions() {
 }
 
 void PrinterWriter::DirectoryHeading(std::wstring_view path) {
-  BreakPage(kLinesBelowHeading);
+  BreakPageInBody(kLinesBelowHeading);
   page_->EndLine();
   page_->Select(Page::Face::Heading);
   text_ = run_.Texts[Text::DirectoryHeading];
@@ -145,9 +155,15 @@ void PrinterWriter::ListDirectory(const DirectoryListing& directory) {
   if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
     return FullPathLines(directory);
   }
+  if (Cancelled()) {
+    return;
+  }
   DirectoryHeading(directory.Path);
   for (const std::uint32_t index : directory.Order) {
     EntryLine(directory.Records[index], directory.Records[index].Name);
+    if (Cancelled()) {
+      return;
+    }
   }
   DirectorySummary(directory.Summary);
 }
@@ -156,6 +172,9 @@ void PrinterWriter::FullPathLines(const DirectoryListing& directory) {
   const std::wstring folder = AddBackslash(directory.Path);
   for (const std::uint32_t index : directory.Order) {
     BreakPageBeforeLine();
+    if (Cancelled()) {
+      return;
+    }
     text_ = folder;
     text_ += directory.Records[index].Name;
     DrawAtOrigin(FitPathToWidth(text_, layout_.UsableWidth, *page_));
@@ -168,7 +187,9 @@ void PrinterWriter::BeginTree(std::wstring_view root) {
 }
 
 void PrinterWriter::TreeEntry(const FileRecord& entry) {
-  EntryLine(entry, Indented(entry.Level, entry.Name));
+  if (!Cancelled()) {
+    EntryLine(entry, Indented(entry.Level, entry.Name));
+  }
 }
 
 void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
@@ -226,10 +247,7 @@ void PrinterWriter::FindList(std::span<const FoundItem> rows) {
   DrawFoundCaptions();
   page_->EndLine();
   page_->EndLine();
-  const auto cancelled = [this] {
-    return run_.Tree.Cancelled || (run_.Watcher != nullptr && run_.Watcher->Cancelled());
-  };
-  for (auto row = rows.begin(); row != rows.end() && !cancelled(); ++row) {
+  for (auto row = rows.begin(); row != rows.end() && !Cancelled(); ++row) {
     FoundLine(*row);
   }
 }
@@ -254,8 +272,9 @@ void PrinterWriter::EndListing() {
   page_.reset();
 }
 
+/// Without letting events through: the listing is complete, and a run can be cancelled no more.
 void PrinterWriter::ClosingLine(std::wstring_view text) {
-  BreakPageBeforeLine();
+  BreakPage(kLinesBelowLine);
   DrawAtOrigin(text);
   page_->EndLine();
 }

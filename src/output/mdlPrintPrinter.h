@@ -31,8 +31,12 @@ class PrinterWriter final : public ListingWriter {
  private:
   void StartPage();
   void DrawCentred(std::wstring_view text, double y);
-  void BreakPage(double linesToKeepFree);
+  /// Whether a new page was begun, because less than these line heights were left.
+  bool BreakPage(double linesToKeepFree);
+  /// The same between lines of the listing: events get through at the new page, and may cancel the run.
+  void BreakPageInBody(double linesToKeepFree);
   void BreakPageBeforeLine();
+  bool Cancelled() const;
 
   void DrawStyleCaptions();
   void DrawEntryCaptions();
