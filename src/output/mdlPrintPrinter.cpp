@@ -42,7 +42,15 @@ std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasur
 void PrinterWriter::BeginListing() {
   page_ = MakePage(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)), run_.General);
   layout_ = LayOut(*page_, run_.General, run_.Format, run_.Texts);
-  page_->BeginDocument(L"Folivant - " + run_.Tree.StartPath);
+  // The user chooses a Find window later, and the document is named after it.
+  if (run_.Format.ListingStyle != ListingStyle::FindWindow) {
+    BeginPages(run_.Tree.StartPath);
+  }
+}
+
+/// `listed` is what the printer's queue says about the document.
+void PrinterWriter::BeginPages(const std::wstring& listed) {
+  page_->BeginDocument(L"Folivant - " + listed);
   StartPage();
 }
 
@@ -239,6 +247,9 @@ void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
 }
 
 void PrinterWriter::FindList(std::span<const FoundItem> rows) {
+  if (run_.Format.ListingStyle == ListingStyle::FindWindow) {
+    BeginPages(run_.Tree.FindWindowTitle);
+  }
   page_->Select(Page::Face::Heading);
   DrawAtOrigin(run_.Tree.FindWindowTitle);
   page_->EndLine();

@@ -29,6 +29,7 @@ class PrinterWriter final : public ListingWriter {
   void AbortListing() noexcept override;
 
  private:
+  void BeginPages(const std::wstring& listed);
   void StartPage();
   void DrawCentred(std::wstring_view text, double y);
   /// Whether a new page was begun, because less than these line heights were left.

@@ -30,6 +30,30 @@ TEST_F(PageWriter, TheDocumentIsNamedAfterTheStartPath) {
   EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - C:\\Data"});
 }
 
+TEST_F(PageWriter, APathListsDocumentIsNamedAfterItsFile) {
+  tree.StartPath = L"C:\\Lists\\paths.txt";
+  tree.FindWindowTitle = L"Search Results";  // of an earlier run
+  Begin(ListingStyle::PathListFile);
+  writer.FindList({});
+  EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - C:\\Lists\\paths.txt"});
+}
+
+TEST_F(PageWriter, AFindListsDocumentIsNamedAfterItsWindow) {
+  Begin(ListingStyle::FindWindow);
+  EXPECT_TRUE(printer.Jobs.empty()) << "the window is chosen after the beginning";
+  tree.FindWindowTitle = L"Search Results";
+  writer.FindList({});
+  writer.EndListing();
+  EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - Search Results"});
+  EXPECT_EQ(printer.Ended, 1);
+}
+
+TEST_F(PageWriter, AFindListWhoseChoiceIsCancelledNeverReachesTheQueue) {
+  Begin(ListingStyle::FindWindow).AbortListing();
+  EXPECT_TRUE(printer.Jobs.empty());
+  EXPECT_EQ(printer.Aborted, 0);
+}
+
 TEST_F(PageWriter, HeaderAndFooterAreCentredInFourFifthsOfTheFont) {
   Begin(ListingStyle::NoSubdirectories);
   // "H 1" is 2 x 96 + 48 = 240 wide: 6,000 - 120.
@@ -188,7 +212,11 @@ TEST_P(ClosingLines, AreThoseOfTheStyle) {
   tree.Totals.TotalFiles = 2;
   tree.Totals.TotalDirs = 1;
   tree.Totals.TotalSize = Currency::FromWhole(2048);
-  Begin(GetParam().Style).EndListing();
+  Begin(GetParam().Style);
+  if (format.IsFileList()) {
+    writer.FindList({});
+  }
+  writer.EndListing();
   EXPECT_EQ(printer.Ended, 1);
   const std::wstring totals = L"2 files, 1 directory, 2,048 b ";
   const std::wstring freeSpace = L"4,882 kb free of 19 Mb.";

@@ -4,6 +4,7 @@
 #include "desktop/FieldLabels.h"
 #include "desktop/FittingTexts.h"
 #include "desktop/Manuals.h"
+#include "find/StandIn.h"
 #include "res/Controls.h"
 
 namespace folivant::desktop {
@@ -11,17 +12,34 @@ namespace {
 
 constexpr DWORD kDocumentComes = 3'000;  // milliseconds; one that is on its way takes less than one second
 
-/// The documents that have arrived on the queue.
-int Documents(const std::wstring& queue) {
+std::wstring QueueFolder(const std::wstring& queue) {
   wchar_t folder[MAX_PATH];
   GetEnvironmentVariableW(L"FOLIVANT_JOBS", folder, MAX_PATH);
+  return std::wstring(folder) + L"\\" + queue + L"\\";
+}
+
+std::vector<std::wstring> FilesOf(const std::wstring& queue, const std::wstring& pattern) {
   WIN32_FIND_DATAW found;
-  const HANDLE search = FindFirstFileW((std::wstring(folder) + L"\\" + queue + L"\\*.pdf").c_str(), &found);
-  int count = 0;
+  const HANDLE search = FindFirstFileW((QueueFolder(queue) + pattern).c_str(), &found);
+  std::vector<std::wstring> files;
   for (BOOL more = search != INVALID_HANDLE_VALUE; more != 0; more = FindNextFileW(search, &found)) {
-    ++count;
+    files.push_back(QueueFolder(queue) + found.cFileName);
   }
   FindClose(search);
+  return files;
+}
+
+/// The documents that have arrived on the queue.
+int Documents(const std::wstring& queue) {
+  return static_cast<int>(FilesOf(queue, L"*.pdf").size());
+}
+
+/// How many documents of the queue were called that.
+int DocumentsNamed(const std::wstring& queue, const std::string& title) {
+  int count = 0;
+  for (const std::wstring& job : FilesOf(queue, L"*.job")) {
+    count += ReadBytes(job).starts_with("title=" + title + "\n") ? 1 : 0;
+  }
   return count;
 }
 
@@ -304,6 +322,15 @@ TEST_F(NoRoom, ARunSaysTheSameAndTheWindowWorksOn) {
   EXPECT_TRUE(WaitUntil([this] { return main.IsEnabled(); }));
   EXPECT_TRUE(program.IsRunning());
   EXPECT_FALSE(WaitUntil([before] { return Documents(L"Borders") != before; }, kDocumentComes));
+}
+
+TEST_F(Printers, AListFromAFindWindowIsNamedAfterTheWindowInTheQueue) {
+  const tests::StandIn window(L"Search Results in Reports", {"Report.txt\tC:\\Data\t12 KB\tText\t1/2/2001 3:04 PM"});
+  const int before = Documents(L"Borders");
+  const Program program(L"/f " + scratch.FilterFile(L"five.fvf", {"Format=5"}) + L" /t p /g");
+  EXPECT_EQ(program.WaitForExit(), 0u);
+  ASSERT_TRUE(WaitUntil([before] { return Documents(L"Borders") == before + 1; }));
+  EXPECT_EQ(DocumentsNamed(L"Borders", "Folivant - Search Results in Reports"), 1);
 }
 
 TEST_F(Printers, ARunFromTheWindowPrintsAndEndsTheProgram) {
