@@ -17,7 +17,7 @@ inline constexpr double kTwipsPerInch = 1440;
 struct PrintJob {
   std::wstring PrinterName;  ///< as PrinterNames lists it; empty is the default printer
   bool Portrait = true;
-  std::int32_t Copies = 1;
+  std::int32_t Copies = 1;    ///< collated where the printer can
   std::int32_t Duplex = 1;    ///< 1 simplex, 2 vertical, 3 horizontal
   std::int32_t Quality = -2;  ///< -1 draft, -2 low, -3 medium, -4 high
   std::int32_t PaperBin = 1;  ///< 1 upper, 2 lower, 3 middle, 4 manual

@@ -389,6 +389,7 @@ class Jobs(PrintTest):
         self.file("a.txt")
         document = self.print("Format=0", PrinterCopies=3, PrinterDuplex=2, PrinterQuality=-4, PrinterPaperBin=2)
         self.assertEqual(document.job["copies"], "3")
+        self.assertIn("collate", document.options, "one copy after the other")
         self.assertIn("sides=two-sided-long-edge", document.options)
         self.assertIn("Duplex=DuplexNoTumble", document.options)
         postscript = document.postscript()
