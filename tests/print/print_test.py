@@ -356,6 +356,13 @@ class Styles(PrintTest):
         for end, expected in zip(ends, (FILES_END, DIRECTORY_SIZE_END - UNIT, TOTAL_FILES_END, TOTAL_SIZE_END - UNIT)):
             self.near(end, expected)
 
+    def test_directory_view_captions_that_fill_their_columns_stay_whole(self):
+        # "T. files" and the blank before it are the nine characters of its column. In these sizes (17 and 32 dots to a
+        # character) twips say so only to the last digit of a fraction.
+        for points in (7, 13):
+            document = self.print("Format=3", "TShow=1111", f"FontSize={points}")
+            self.assertEqual(document.lines()[1], "Directory Files Size T. files T. size")
+
     def test_full_path_list(self):
         document = self.print("Format=4")
         lines = document.lines()
