@@ -12,9 +12,9 @@ from pathlib import Path
 ROOT = Path(sys.argv[1])
 LANGUAGES = ['english', 'dutch', 'german', 'french', 'spanish', 'italian', 'portuguese', 'polish', 'russian']
 LONGEST = 299
-# Characters that a listing leaves for a text: directory-view captions, the size text of directories before its three
-# blanks, units, column captions.
-NARROW = {'FilesCaption': 9, 'DirectorySizeCaption': 9, 'TotalFilesCaption': 9, 'TotalSizeCaption': 9,
+# Characters that a listing leaves for a text: directory-view captions, which on paper have nine or ten with the blank
+# before them, the size text of directories before its three blanks, units, column captions.
+NARROW = {'FilesCaption': 8, 'DirectorySizeCaption': 9, 'TotalFilesCaption': 8, 'TotalSizeCaption': 9,
           'DirectorySizeText': 5, 'UnitBytes': 2, 'UnitKilobytes': 2, 'UnitMegabytes': 2, 'UnitGigabytes': 2,
           'UnitTerabytes': 2, 'SizeCaption': 8, 'DosNameCaption': 12, 'DateCaption': 16}
 
