@@ -2,6 +2,8 @@
 // inches or millimetres, sums of both), and as fractions of a twip the results differ by rounding alone.
 #pragma once
 
+#include <cstddef>
+
 namespace folivant {
 
 /// Lengths that differ by less count as equal. A hundredth of a twip is 144,000 to the inch, far below any device's dot
@@ -13,6 +15,23 @@ constexpr bool IsShorter(double length, double than) {
 }
 constexpr bool IsLonger(double length, double than) {
   return IsShorter(than, length);
+}
+
+/// The largest count up to `most` that `fits`, by halving, because measuring text is slow: what fits has to fit with
+/// less, too. 0 when nothing else fits.
+template <class Fits>
+std::size_t LargestFitting(std::size_t most, Fits fits) {
+  std::size_t fitting = 0;
+  std::size_t tooMany = most + 1;
+  while (fitting + 1 < tooMany) {
+    const std::size_t middle = fitting + (tooMany - fitting) / 2;
+    if (fits(middle)) {
+      fitting = middle;
+    } else {
+      tooMany = middle;
+    }
+  }
+  return fitting;
 }
 
 }  // namespace folivant

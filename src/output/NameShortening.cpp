@@ -28,17 +28,8 @@ std::size_t CharacterMeasure::Fit(std::wstring_view text, double width) const {
 }
 
 std::size_t DrawnMeasure::Fit(std::wstring_view text, double width) const {
-  std::size_t fits = 0;
-  std::size_t tooMany = text.size() + 1;
-  while (fits + 1 < tooMany) {
-    const std::size_t middle = fits + (tooMany - fits) / 2;
-    if (IsLonger(form_.WidthOf(text.substr(0, middle)), width)) {
-      tooMany = middle;
-    } else {
-      fits = middle;
-    }
-  }
-  return fits;
+  return LargestFitting(text.size(),
+                        [&](std::size_t count) { return !IsLonger(form_.WidthOf(text.substr(0, count)), width); });
 }
 
 std::wstring ShortenName(std::wstring_view name, double width, const NameMeasure& measure) {
@@ -57,22 +48,13 @@ std::wstring FitHeading(std::wstring_view heading, double width, const TextMeasu
   if (IsShorter(form.WidthOf(heading), width)) {
     return std::wstring(heading);
   }
-  const std::wstring fitted = FitPathToWidth(heading, width, form);
+  std::wstring fitted = FitPathToWidth(heading, width, form);
   if (IsShorter(form.WidthOf(fitted), width)) {
     return fitted;
   }
-  const auto candidate = [&](std::size_t kept) { return std::wstring(kDots) += heading.substr(heading.size() - kept); };
-  std::size_t fits = 0;
-  std::size_t tooMany = heading.size() + 1;
-  while (fits + 1 < tooMany) {
-    const std::size_t middle = fits + (tooMany - fits) / 2;
-    if (IsShorter(form.WidthOf(candidate(middle)), width)) {
-      fits = middle;
-    } else {
-      tooMany = middle;
-    }
-  }
-  return candidate(fits);
+  const auto end = [&](std::size_t kept) { return std::wstring(kDots) += heading.substr(heading.size() - kept); };
+  return end(
+      LargestFitting(heading.size(), [&](std::size_t kept) { return IsShorter(form.WidthOf(end(kept)), width); }));
 }
 
 }  // namespace folivant
