@@ -25,7 +25,8 @@ struct ListingRun {
   const std::wstring& OutputFile;
   const std::wstring& DatePattern;  ///< the run's date pattern, such as "yyyy/mm/dd"
   std::int16_t& PageNumber;         ///< advanced by the page writer alone; 0 in the file writers
-  Progress* Watcher = nullptr;      ///< during a run, for a writer that takes long over one event
+  Progress* Watcher =
+      nullptr;  ///< during a run, for a writer that takes long over one event and may be cancelled in it
 };
 
 }  // namespace folivant

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/Lengths.h"
+
 namespace folivant {
 namespace {
 
@@ -26,25 +28,33 @@ std::size_t CharacterMeasure::Fit(std::wstring_view text, double width) const {
 }
 
 std::size_t DrawnMeasure::Fit(std::wstring_view text, double width) const {
-  std::size_t fits = 0;
-  std::size_t tooMany = text.size() + 1;
-  while (fits + 1 < tooMany) {
-    const std::size_t middle = fits + (tooMany - fits) / 2;
-    (form_.WidthOf(text.substr(0, middle)) <= width ? fits : tooMany) = middle;
-  }
-  return fits;
+  return LargestFitting(text.size(),
+                        [&](std::size_t count) { return !IsLonger(form_.WidthOf(text.substr(0, count)), width); });
 }
 
 std::wstring ShortenName(std::wstring_view name, double width, const NameMeasure& measure) {
-  if (measure.WidthOf(name) <= width) {
+  if (!IsLonger(measure.WidthOf(name), width)) {
     return std::wstring(name);
   }
   const std::wstring_view base = name.substr(0, name.rfind(L'.'));
   std::wstring extension(name.substr(base.size()));
-  if (measure.WidthOf(extension) > width / 3) {
+  if (IsLonger(measure.WidthOf(extension), width / 3)) {
     extension = CutTo(extension, width / 3, measure);
   }
   return CutTo(base, width - measure.WidthOf(extension), measure) + extension;
+}
+
+std::wstring FitHeading(std::wstring_view heading, double width, const TextMeasure& form) {
+  if (IsShorter(form.WidthOf(heading), width)) {
+    return std::wstring(heading);
+  }
+  std::wstring fitted = FitPathToWidth(heading, width, form);
+  if (IsShorter(form.WidthOf(fitted), width)) {
+    return fitted;
+  }
+  const auto end = [&](std::size_t kept) { return std::wstring(kDots) += heading.substr(heading.size() - kept); };
+  return end(
+      LargestFitting(heading.size(), [&](std::size_t kept) { return IsShorter(form.WidthOf(end(kept)), width); }));
 }
 
 }  // namespace folivant

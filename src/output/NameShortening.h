@@ -1,5 +1,5 @@
 // The rule by which a name that is too long for its column loses its middle, whatever the column is measured in:
-// characters in a text file, the printer's text width on a page.
+// characters in a text file, the printer's text width on a page. And the rule for headings on a page.
 #pragma once
 
 #include <cstddef>
@@ -43,5 +43,9 @@ class DrawnMeasure final : public NameMeasure {
 /// extension with the dot, which is itself cut and given "..." when it takes more than a third of the width. The result
 /// may be too wide for a very small width.
 std::wstring ShortenName(std::wstring_view name, double width, const NameMeasure& measure);
+
+/// `heading`, some words and a path, made narrower than `width` as one text by FitPathToWidth. A last component that is
+/// too wide even alone then loses its beginning, so that its end is always there.
+std::wstring FitHeading(std::wstring_view heading, double width, const TextMeasure& form);
 
 }  // namespace folivant

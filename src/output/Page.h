@@ -1,5 +1,6 @@
 // A page as somebody who writes lines sees it: a surface, the fonts of a listing, and the height reached so far. It
-// measures text and remembers the widths of texts that come back, because asking a printer is slow.
+// measures text, from the first moment, and remembers the widths of texts that come back, because asking a printer is
+// slow.
 #pragma once
 
 #include <array>
@@ -32,7 +33,8 @@ class Page final : public TextMeasure {
   /// The same for texts that are likely to come back, such as sizes.
   double RememberedWidthOf(std::wstring_view text) const;
   /// The height of a line in the selected font.
-  double LineHeight() const { return lineHeights_[Index(face_)]; }
+  double LineHeight() const { return LineHeightOf(face_); }
+  double LineHeightOf(Face face) const { return lineHeights_[Index(face)]; }
 
   double Y() const { return y_; }
   void MoveTo(double y) { y_ = y; }
@@ -42,6 +44,8 @@ class Page final : public TextMeasure {
   /// Goes down by one line of the selected font.
   void EndLine() { y_ += LineHeight(); }
 
+  /// Begins the document under that name, at the top of its first page. Nothing may be drawn before.
+  void BeginDocument(const std::wstring& title) { surface_->BeginDocument(title); }
   /// The next page, at its top. The font stays.
   void NextPage();
   void EndDocument() { surface_->EndDocument(); }

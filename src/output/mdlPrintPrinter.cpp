@@ -2,20 +2,20 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
 
+#include "base/Lengths.h"
 #include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
 #include "output/DriverServices.h"
 #include "output/NameShortening.h"
+#include "ui/PageMargins.h"
 
 namespace folivant {
 namespace {
 
-/// Line heights that an ordinary line leaves free above the bottom margin, for the footer.
-constexpr double kLinesBelowLine = 4;
-/// The same for a directory's heading: more, so that none stands alone at the foot of a page.
+/// Line heights that a directory's heading leaves free: more than a line, so that none stands alone at the foot of a
+/// page.
 constexpr double kLinesBelowHeading = 10;
 /// A small fixed indent in twips, kept as designed.
 constexpr double kSummaryIndent = 20;
@@ -30,63 +30,35 @@ constexpr std::array<double EntryPositions::*, kFurtherColumns.size()> kEntryPla
 /// A caption that would run into the one before it loses its end.
 std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasure& measure) {
   constexpr std::wstring_view kDots = L"...";
-  if (measure.WidthOf(caption) <= room) {
+  if (!IsLonger(measure.WidthOf(caption), room)) {
     return std::wstring(caption);
   }
   std::wstring cut(caption.substr(0, DrawnMeasure(measure).Fit(caption, room - measure.WidthOf(kDots))));
   return cut += kDots;
 }
 
-platform::PageFont ListingFont(const GeneralSettings& general) {
-  return {general.FontName, static_cast<double>(general.FontSize), false};
-}
-
-platform::PageFont HeaderFooterFont(const GeneralSettings& general) {
-  if (general.Font80HF) {
-    return {general.FontName, general.FontSize * 4 / 5.0, false};
-  }
-  return {general.FontNameHF, static_cast<double>(general.FontSizeHF), false};
-}
-
-platform::PrintJob JobOf(const ListingRun& run) {
-  platform::PrintJob job = PrintJobOf(run.Printer, run.General.Portrait);
-  job.Title = L"Folivant - " + run.Tree.StartPath;
-  return job;
-}
-
 }  // namespace
 
 void PrinterWriter::BeginListing() {
-  page_ = std::make_unique<Page>(platform::OpenPageSurface(JobOf(run_)), ListingFont(run_.General),
-                                 HeaderFooterFont(run_.General));
-  Measure();
-  PlaceColumns();
+  page_ = MakePage(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)), run_.General);
+  layout_ = LayOut(*page_, run_.General, run_.Format, run_.Texts);
+  // The user chooses a Find window later, and the document is named after it.
+  if (run_.Format.ListingStyle != ListingStyle::FindWindow) {
+    BeginPages(run_.Tree.StartPath);
+  }
+}
+
+/// `listed` is what the printer's queue says about the document.
+void PrinterWriter::BeginPages(const std::wstring& listed) {
+  page_->BeginDocument(L"Folivant - " + listed);
   StartPage();
-}
-
-void PrinterWriter::Measure() {
-  const platform::PageArea area = page_->Area();
-  const PageMargins margins = MarginsInTwips(run_.General);
-  lineHeight_ = page_->LineHeight();
-  origin_ = margins.Left - area.LeftOffset;
-  usableWidth_ = area.Width - margins.Left - margins.Right + area.LeftOffset + area.RightOffset;
-  // Without the offsets, on purpose: the path in a heading gets a little less than the line could hold.
-  headingWidth_ = std::nearbyint(area.Width - margins.Left - margins.Right);
-  headerTop_ = margins.Top - area.TopOffset;
-  bodyBottom_ = area.Height - margins.Bottom + area.BottomOffset;
-}
-
-void PrinterWriter::PlaceColumns() {
-  entryAt_ = PlaceEntryColumns(run_.Format.Files, usableWidth_, *page_);
-  directoryAt_ = PlaceDirectoryColumns(run_.Format.Directories, usableWidth_, *page_);
-  foundAt_ = PlaceFoundColumns(origin_, usableWidth_, *page_);
 }
 
 void PrinterWriter::StartPage() {
   ++run_.PageNumber;
   page_->Select(Page::Face::HeaderFooter);
-  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, run_), bodyBottom_ - lineHeight_);
-  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, run_), headerTop_);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, run_), layout_.BodyBottom - layout_.LineHeight);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, run_), layout_.HeaderTop);
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();
@@ -99,18 +71,28 @@ void PrinterWriter::DrawCentred(std::wstring_view text, double y) {
   page_->Draw(page_->Area().Width / 2 - page_->WidthOf(text) / 2, text);
 }
 
-void PrinterWriter::BreakPage(double linesToKeepFree) {
-  if (page_->Y() > bodyBottom_ - linesToKeepFree * lineHeight_) {
-    page_->NextPage();
-    StartPage();
-    if (run_.Watcher != nullptr) {
-      run_.Watcher->LetEventsThrough();  // a directory may fill hundreds of pages
-    }
+bool PrinterWriter::BreakPage(double linesToKeepFree) {
+  if (!IsLonger(page_->Y(), layout_.BodyBottom - linesToKeepFree * layout_.LineHeight)) {
+    return false;
+  }
+  page_->NextPage();
+  StartPage();
+  return true;
+}
+
+void PrinterWriter::BreakPageInBody(double linesToKeepFree) {
+  if (BreakPage(linesToKeepFree) && run_.Watcher != nullptr) {
+    run_.Watcher->LetEventsThrough();  // a directory may fill hundreds of pages
   }
 }
 
 void PrinterWriter::BreakPageBeforeLine() {
-  BreakPage(kLinesBelowLine);
+  BreakPageInBody(kLinesBelowLine);
+}
+
+/// Nothing of a cancelled run is printed, so nothing more of it is drawn.
+bool PrinterWriter::Cancelled() const {
+  return run_.Tree.Cancelled || (run_.Watcher != nullptr && run_.Watcher->Cancelled());
 }
 
 void PrinterWriter::DrawStyleCaptions() {
@@ -131,7 +113,7 @@ void PrinterWriter::DrawEntryCaptions() {
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
     if (run_.Format.Files.*column.Shown) {
-      DrawCaption(entryAt_.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
+      DrawCaption(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
     }
   }
 }
@@ -140,9 +122,9 @@ void PrinterWriter::DrawDirectoryCaptions() {
   DrawAtOrigin(run_.Texts[Text::DirectoryCaption]);
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
     if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
-      const double begin = i == 0 ? directoryAt_.NameWidth : directoryAt_.Ends[i - 1];
-      const double room = directoryAt_.Ends[i] - begin - page_->RememberedWidthOf(L" ");
-      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i],
+      const double begin = i == 0 ? layout_.Directories.NameWidth : layout_.Directories.Ends[i - 1];
+      const double room = layout_.Directories.Ends[i] - begin - page_->RememberedWidthOf(L" ");
+      page_->DrawEndingAt(layout_.Origin + layout_.Directories.Ends[i],
                           CutCaption(run_.Texts[kDirectoryColumns[i].Caption], room, *page_));
     }
   }
@@ -150,19 +132,19 @@ void PrinterWriter::DrawDirectoryCaptions() {
 
 void PrinterWriter::DrawFoundCaptions() {
   DrawAtOrigin(run_.Texts[Text::NameCaption]);
-  page_->Draw(origin_ + foundAt_.Folder, run_.Texts[Text::FolderCaption]);
-  DrawCaption(foundAt_.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
-  page_->Draw(origin_ + foundAt_.Date, run_.Texts[Text::DateCaption]);
+  page_->Draw(layout_.Origin + layout_.Found.Folder, run_.Texts[Text::FolderCaption]);
+  DrawCaption(layout_.Found.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
+  page_->Draw(layout_.Origin + layout_.Found.Date, run_.Texts[Text::DateCaption]);
 }
 
 void PrinterWriter::DirectoryHeading(std::wstring_view path) {
-  BreakPage(kLinesBelowHeading);
+  BreakPageInBody(kLinesBelowHeading);
   page_->EndLine();
   page_->Select(Page::Face::Heading);
   text_ = run_.Texts[Text::DirectoryHeading];
   text_ += L' ';
-  text_ += FitPathToWidth(path, headingWidth_, *page_);
-  DrawAtOrigin(text_);
+  text_ += path;
+  DrawAtOrigin(FitHeading(text_, layout_.HeadingWidth, *page_));
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();
@@ -173,7 +155,7 @@ void PrinterWriter::DirectoryHeading(std::wstring_view path) {
 
 void PrinterWriter::DirectorySummary(std::wstring_view summary) {
   page_->EndLine();
-  page_->Draw(origin_ + kSummaryIndent, summary);
+  page_->Draw(layout_.Origin + kSummaryIndent, summary);
   page_->EndLine();
 }
 
@@ -181,9 +163,15 @@ void PrinterWriter::ListDirectory(const DirectoryListing& directory) {
   if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
     return FullPathLines(directory);
   }
+  if (Cancelled()) {
+    return;
+  }
   DirectoryHeading(directory.Path);
   for (const std::uint32_t index : directory.Order) {
     EntryLine(directory.Records[index], directory.Records[index].Name);
+    if (Cancelled()) {
+      return;
+    }
   }
   DirectorySummary(directory.Summary);
 }
@@ -192,9 +180,12 @@ void PrinterWriter::FullPathLines(const DirectoryListing& directory) {
   const std::wstring folder = AddBackslash(directory.Path);
   for (const std::uint32_t index : directory.Order) {
     BreakPageBeforeLine();
+    if (Cancelled()) {
+      return;
+    }
     text_ = folder;
     text_ += directory.Records[index].Name;
-    DrawAtOrigin(FitPathToWidth(text_, usableWidth_, *page_));
+    DrawAtOrigin(FitPathToWidth(text_, layout_.UsableWidth, *page_));
     page_->EndLine();
   }
 }
@@ -204,17 +195,19 @@ void PrinterWriter::BeginTree(std::wstring_view root) {
 }
 
 void PrinterWriter::TreeEntry(const FileRecord& entry) {
-  EntryLine(entry, Indented(entry.Level, entry.Name));
+  if (!Cancelled()) {
+    EntryLine(entry, Indented(entry.Level, entry.Name));
+  }
 }
 
 void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
   if (run_.Format.Files.*kNameColumn.Shown) {
-    DrawName(origin_, name, entryAt_.NameWidth);
+    DrawName(layout_.Origin, name, layout_.Entries.NameWidth);
   }
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
     if (run_.Format.Files.*column.Shown) {
-      DrawCell(entryAt_.*kEntryPlaces[i], column.Layout.Align, entry.*column.Value);
+      DrawCell(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, entry.*column.Value);
     }
   }
   page_->EndLine();
@@ -223,9 +216,9 @@ void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
 
 void PrinterWriter::DrawCell(double position, Alignment alignment, std::wstring_view text) {
   if (alignment == Alignment::Right) {
-    page_->DrawEndingAt(origin_ + position, text);
+    page_->DrawEndingAt(layout_.Origin + position, text);
   } else {
-    page_->Draw(origin_ + position, text);
+    page_->Draw(layout_.Origin + position, text);
   }
 }
 
@@ -238,15 +231,15 @@ void PrinterWriter::DrawCaption(double position, Alignment alignment, std::wstri
 
 void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
   if (node.Level == 0) {
-    DrawAtOrigin(FitPathToWidth(node.Path, directoryAt_.NameWidth, *page_));
+    DrawAtOrigin(FitPathToWidth(node.Path, layout_.Directories.NameWidth, *page_));
   } else {
-    DrawName(origin_, Indented(node.Level, node.Name), directoryAt_.NameWidth);
+    DrawName(layout_.Origin, Indented(node.Level, node.Name), layout_.Directories.NameWidth);
   }
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
     if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
       text_.clear();
       kDirectoryColumns[i].AppendValue(node, run_.Texts, text_);
-      page_->DrawEndingAt(origin_ + directoryAt_.Ends[i], text_);
+      page_->DrawEndingAt(layout_.Origin + layout_.Directories.Ends[i], text_);
     }
   }
   page_->EndLine();
@@ -254,6 +247,9 @@ void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
 }
 
 void PrinterWriter::FindList(std::span<const FoundItem> rows) {
+  if (run_.Format.ListingStyle == ListingStyle::FindWindow) {
+    BeginPages(run_.Tree.FindWindowTitle);
+  }
   page_->Select(Page::Face::Heading);
   DrawAtOrigin(run_.Tree.FindWindowTitle);
   page_->EndLine();
@@ -262,19 +258,16 @@ void PrinterWriter::FindList(std::span<const FoundItem> rows) {
   DrawFoundCaptions();
   page_->EndLine();
   page_->EndLine();
-  const auto cancelled = [this] {
-    return run_.Tree.Cancelled || (run_.Watcher != nullptr && run_.Watcher->Cancelled());
-  };
-  for (auto row = rows.begin(); row != rows.end() && !cancelled(); ++row) {
+  for (auto row = rows.begin(); row != rows.end() && !Cancelled(); ++row) {
     FoundLine(*row);
   }
 }
 
 void PrinterWriter::FoundLine(const FoundItem& row) {
-  DrawName(origin_, row.Name, foundAt_.NameWidth);
-  DrawName(origin_ + foundAt_.Folder, row.InFolder, foundAt_.FolderWidth);
-  page_->DrawEndingAt(origin_ + foundAt_.SizeEnd, row.Size);
-  page_->Draw(origin_ + foundAt_.Date, row.Modified);
+  DrawName(layout_.Origin, row.Name, layout_.Found.NameWidth);
+  DrawName(layout_.Origin + layout_.Found.Folder, row.InFolder, layout_.Found.FolderWidth);
+  page_->DrawEndingAt(layout_.Origin + layout_.Found.SizeEnd, row.Size);
+  page_->Draw(layout_.Origin + layout_.Found.Date, row.Modified);
   page_->EndLine();
   BreakPageBeforeLine();
 }
@@ -290,8 +283,9 @@ void PrinterWriter::EndListing() {
   page_.reset();
 }
 
+/// Without letting events through: the listing is complete, and a run can be cancelled no more.
 void PrinterWriter::ClosingLine(std::wstring_view text) {
-  BreakPageBeforeLine();
+  BreakPage(kLinesBelowLine);
   DrawAtOrigin(text);
   page_->EndLine();
 }
@@ -304,7 +298,7 @@ void PrinterWriter::AbortListing() noexcept {
 }
 
 void PrinterWriter::DrawName(double x, std::wstring_view name, double width) {
-  if (page_->WidthOf(name) <= width) {
+  if (!IsLonger(page_->WidthOf(name), width)) {
     page_->Draw(x, name);
   } else {
     page_->Draw(x, ShortenName(name, width, DrawnMeasure(*page_)));

@@ -1,5 +1,5 @@
 // The page writer (output kind 5): it draws a listing on the pages of a printer, with header, footer and column
-// captions on every page. Columns are those of the text writer; where things stand is computed in twips.
+// captions on every page. Columns are those of the text writer; where things stand is the page layout's matter.
 #pragma once
 
 #include <memory>
@@ -9,9 +9,8 @@
 #include "output/Columns.h"
 #include "output/ListingRun.h"
 #include "output/Page.h"
-#include "output/PageColumns.h"
+#include "output/PageLayout.h"
 #include "scan/ListingWriter.h"
-#include "ui/PageMargins.h"
 
 namespace folivant {
 
@@ -30,13 +29,15 @@ class PrinterWriter final : public ListingWriter {
   void AbortListing() noexcept override;
 
  private:
-  void Measure();
-  void PlaceColumns();
-
+  void BeginPages(const std::wstring& listed);
   void StartPage();
   void DrawCentred(std::wstring_view text, double y);
-  void BreakPage(double linesToKeepFree);
+  /// Whether a new page was begun, because less than these line heights were left.
+  bool BreakPage(double linesToKeepFree);
+  /// The same between lines of the listing: events get through at the new page, and may cancel the run.
+  void BreakPageInBody(double linesToKeepFree);
   void BreakPageBeforeLine();
+  bool Cancelled() const;
 
   void DrawStyleCaptions();
   void DrawEntryCaptions();
@@ -53,21 +54,13 @@ class PrinterWriter final : public ListingWriter {
   void FoundLine(const FoundItem& row);
   void ClosingLine(std::wstring_view text);
 
-  void DrawAtOrigin(std::wstring_view text) { page_->Draw(origin_, text); }
+  void DrawAtOrigin(std::wstring_view text) { page_->Draw(layout_.Origin, text); }
   void DrawName(double x, std::wstring_view name, double width);
   std::wstring_view Indented(std::int32_t level, std::wstring_view name);
 
   const ListingRun& run_;
   std::unique_ptr<Page> page_;  ///< from the beginning of a listing to its end
-  double origin_ = 0;           ///< where lines begin: the left margin within the printable area
-  double usableWidth_ = 0;      ///< from there to the right margin
-  double headingWidth_ = 0;     ///< for the path in a directory's heading
-  double headerTop_ = 0;
-  double bodyBottom_ = 0;  ///< the bottom margin within the printable area
-  double lineHeight_ = 0;  ///< of the listing font
-  EntryPositions entryAt_;
-  DirectoryPositions directoryAt_;
-  FoundPositions foundAt_;
+  PageLayout layout_;
   std::wstring text_;  ///< the line being put together
 };
 

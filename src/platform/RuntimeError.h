@@ -17,6 +17,8 @@ enum class FailedAction {
   Print,
   StartProgram,
   ReadWindow,  ///< the list of another program's window
+  UseMargins,  ///< they leave no room on a page
+  UseFont,     ///< no line in it stands on a page
 };
 
 class RuntimeError : public std::exception {

@@ -1,5 +1,7 @@
 // The listing events. The run and the walks raise them; mdlPrint forwards each to the writer of the current output
-// kind. A writer is one class per document format; it lives as long as the process and streams what it is given.
+// kind. A writer is one class per document format; it lives as long as the process and streams what it is given. Once
+// the run is cancelled a writer whose document is thrown away then may leave an event half done and ignore later ones:
+// the run ends with AbortListing.
 #pragma once
 
 #include <cstdint>

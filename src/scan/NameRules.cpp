@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Lengths.h"
 #include "base/mdlFileRoutines.h"
 #include "platform/FindFiles.h"
 #include "platform/Text.h"
@@ -114,25 +115,15 @@ LongPath GetLongPath(std::wstring_view path) {
 }
 
 std::wstring FitPathToWidth(std::wstring_view path, double width, const TextMeasure& form) {
-  if (form.WidthOf(path) < width) {
+  if (IsShorter(form.WidthOf(path), width)) {
     return std::wstring(path);
   }
   const std::size_t last = path.rfind(L'\\');
   const std::wstring_view leading = path.substr(0, last == path.npos ? 0 : last);
   const std::wstring tail = L"...\\" + std::wstring(path.substr(last + 1));  // without a backslash the whole path
   const auto candidate = [&](std::size_t kept) { return std::wstring(leading.substr(0, kept)) + tail; };
-  // The longest leading part that fits, by halving: one measurement per character would make deep paths slow to show.
-  std::size_t fits = 0;
-  std::size_t tooLong = leading.size() + 1;
-  while (fits + 1 < tooLong) {
-    const std::size_t middle = fits + (tooLong - fits) / 2;
-    if (form.WidthOf(candidate(middle)) < width) {
-      fits = middle;
-    } else {
-      tooLong = middle;
-    }
-  }
-  return candidate(fits);
+  return candidate(LargestFitting(leading.size(),
+                                  [&](std::size_t kept) { return IsShorter(form.WidthOf(candidate(kept)), width); }));
 }
 
 }  // namespace folivant

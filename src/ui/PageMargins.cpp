@@ -1,6 +1,10 @@
 #include "ui/PageMargins.h"
 
+#include <utility>
+
+#include "base/mdlFileRoutines.h"
 #include "platform/RuntimeError.h"
+#include "ui/FieldText.h"
 
 namespace folivant {
 namespace {
@@ -18,17 +22,22 @@ PageMargins MarginsInTwips(const GeneralSettings& general) {
   return {general.MarginLeft * unit, general.MarginRight * unit, general.MarginTop * unit, general.MarginBottom * unit};
 }
 
+std::wstring MarginsText(const GeneralSettings& general, const Messages& texts) {
+  const std::pair<Text, float> margins[] = {{Text::MarginLeft, general.MarginLeft},
+                                            {Text::MarginTop, general.MarginTop},
+                                            {Text::MarginRight, general.MarginRight},
+                                            {Text::MarginBottom, general.MarginBottom}};
+  std::wstring text;
+  for (const auto& [caption, margin] : margins) {
+    text += text.empty() ? L"" : L"; ";
+    text += ReplaceAll(texts[caption], L"&", L"") + L' ' + SingleText(margin);
+  }
+  return text + L' ' + texts[general.Inches ? Text::UnitInches : Text::UnitMillimeter];
+}
+
 PageMargins MinimumMargins(const platform::PageArea& area, bool inches) {
   const double unit = TwipsPerUnit(inches);
   return {area.LeftOffset / unit, area.RightOffset / unit, area.TopOffset / unit, area.BottomOffset / unit};
-}
-
-PageMargins MinimumMarginsOf(const PrinterSettings& printer, bool portrait, bool inches) {
-  try {
-    return MinimumMargins(platform::PageAreaOf(PrintJobOf(printer, portrait)), inches);
-  } catch (const RuntimeError&) {
-    return {};
-  }
 }
 
 platform::PrintJob PrintJobOf(const PrinterSettings& printer, bool portrait) {
@@ -40,6 +49,14 @@ platform::PrintJob PrintJobOf(const PrinterSettings& printer, bool portrait) {
   job.Quality = printer.PrinterQuality;
   job.PaperBin = printer.PrinterPaperBin;
   return job;
+}
+
+std::unique_ptr<platform::PageSurface> SurfaceOf(const PrinterSettings& printer, bool portrait) {
+  try {
+    return platform::OpenPageSurface(PrintJobOf(printer, portrait));
+  } catch (const RuntimeError&) {
+    return nullptr;
+  }
 }
 
 }  // namespace folivant

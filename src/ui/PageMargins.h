@@ -1,8 +1,12 @@
 // Page margins between their settings, in inches or millimetres from the paper's edge, and the page surface's twips.
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include "base/GeneralSettings.h"
 #include "platform/PageSurface.h"
+#include "ui/Messages.h"
 
 namespace folivant {
 
@@ -18,13 +22,14 @@ struct PageMargins {
 double TwipsPerUnit(bool inches);
 /// The four margin settings in twips from the paper's edge.
 PageMargins MarginsInTwips(const GeneralSettings& general);
+/// The margin settings as messages name them: "Left: 20; Top: 15; Right: 20; Bottom: 20 mm".
+std::wstring MarginsText(const GeneralSettings& general, const Messages& texts);
 /// The bands that a sheet of `area` cannot carry, in inches or millimetres: no margin can be smaller.
 PageMargins MinimumMargins(const platform::PageArea& area, bool inches);
-/// The same for a sheet of that printer in that orientation; all zero when there is no such printer, so that nothing
-/// keeps a user without one from confirming the options.
-PageMargins MinimumMarginsOf(const PrinterSettings& printer, bool portrait, bool inches);
-
-/// The job that the printer settings describe, without a title.
+/// The job that the printer settings describe.
 platform::PrintJob PrintJobOf(const PrinterSettings& printer, bool portrait);
+/// The surface of such a job, to measure on; nothing when there is no such printer, so that nothing keeps a user
+/// without one from confirming the options.
+std::unique_ptr<platform::PageSurface> SurfaceOf(const PrinterSettings& printer, bool portrait);
 
 }  // namespace folivant

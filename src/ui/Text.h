@@ -116,6 +116,8 @@ enum class Text : int {
   CannotReadWindow = 168,
   OverwriteFirstLine = 169,  ///< "The file"
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
+  MarginsLeaveNoRoom = 187,  ///< %1 the four margins
+  FontDoesNotFit = 188,      ///< %1 font and size
 
   // Titles of windows
   FilterTitle = 200,

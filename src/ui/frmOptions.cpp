@@ -1,15 +1,19 @@
 #include "ui/frmOptions.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/Settings.h"
 #include "app/mdlVars.h"
 #include "output/EntryFormatting.h"
+#include "output/PageLayout.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
+#include "platform/RuntimeError.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/Shell.h"
 #include "ui/Language.h"
@@ -127,7 +131,8 @@ class frmOptions final : public frmBase {
   void cmdFontHF_Click();
   void cmdOK_Click();
 
-  bool CheckMargins();
+  bool CheckMargins(const PageMargins& device);
+  bool CheckRoom(std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general);
   Margins EnteredMargins() const;
   void CloseKeepingTab(int result);
 
@@ -323,9 +328,8 @@ Margins frmOptions::EnteredMargins() const {
       .Left = SingleOf(txtLeft), .Top = SingleOf(txtTop), .Right = SingleOf(txtRight), .Bottom = SingleOf(txtBottom)};
 }
 
-/// False when the dialog has to stay open.
-bool frmOptions::CheckMargins() {
-  const PageMargins device = MinimumMarginsOf(printer_, Checked(optPort), Checked(optInches));
+/// `device` are the printer's minimum margins. False when the dialog has to stay open.
+bool frmOptions::CheckMargins(const PageMargins& device) {
   const Margins minimum{.Left = static_cast<float>(device.Left),
                         .Top = static_cast<float>(device.Top),
                         .Right = static_cast<float>(device.Right),
@@ -347,8 +351,27 @@ bool frmOptions::CheckMargins() {
   return answer != platform::BoxAnswer::Cancel;
 }
 
+/// Whether a run with these settings would find room on its pages; it would refuse with the same words. False when the
+/// dialog has to stay open, at the field that is to blame.
+bool frmOptions::CheckRoom(std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general) {
+  try {
+    LayOut(*MakePage(std::move(surface), general), general, mdlVars::Format, mdlVars::Texts);
+  } catch (const RuntimeError& problem) {
+    if (problem.Action() == FailedAction::Print) {  // a printer that cannot be asked keeps nobody here
+      return true;
+    }
+    ShowProblem(problem);
+    const int field = problem.Action() == FailedAction::UseMargins ? txtLeft : cmdFont;
+    ShowField(field);
+    SetFocusTo(field);
+    return false;
+  }
+  return true;
+}
+
 void frmOptions::cmdOK_Click() {
-  if (!CheckMargins()) {
+  std::unique_ptr<platform::PageSurface> surface = SurfaceOf(printer_, Checked(optPort));
+  if (!CheckMargins(surface ? MinimumMargins(surface->Area(), Checked(optInches)) : PageMargins{})) {
     return;
   }
   GeneralSettings general = general_;
@@ -365,6 +388,9 @@ void frmOptions::cmdOK_Click() {
     item.iItem = row;
     Send(cmbLang, CBEM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
     general.Language = languageFiles_[static_cast<std::size_t>(item.lParam)];
+  }
+  if (surface && !CheckRoom(std::move(surface), general)) {
+    return;
   }
   mdlVars::General = general;
   mdlVars::Printer = printer;

@@ -121,8 +121,9 @@ std::wstring Scratch::FilterFile(std::wstring_view name, const std::vector<std::
 }
 
 std::string ReadBytes(const std::wstring& path) {
-  const platform::OwnedFile file(
-      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
+  // Deleting is shared too: whoever has just renamed the file may still have it open for that.
+  constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const platform::OwnedFile file(CreateFileW(path.c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING, 0, nullptr));
   EXPECT_TRUE(file.IsOpen());
   LARGE_INTEGER size{};
   GetFileSizeEx(file.Get(), &size);

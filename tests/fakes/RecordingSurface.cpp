@@ -17,23 +17,38 @@ bool Same(double a, double b) {
 
 class RecordingSurface final : public platform::PageSurface {
  public:
-  RecordingSurface(RecordingPrinter& printer, std::wstring printerName)
-      : printer_(printer), printerName_(std::move(printerName)) {}
+  RecordingSurface(RecordingPrinter& printer, platform::PrintJob job) : printer_(printer), job_(std::move(job)) {}
   ~RecordingSurface() override { AbortDocument(); }
 
-  platform::PageArea Area() const override { return printer_.Area; }
+  platform::PageArea Area() const override {
+    const platform::PageArea area = printer_.Area;
+    return job_.Portrait ? area : platform::PageArea{area.Height,     area.Width,     area.BottomOffset,
+                                                     area.LeftOffset, area.TopOffset, area.RightOffset};
+  }
   void SelectFont(const platform::PageFont& font) override {
     FailIf(PrinterFailure::SelectFont);
     font_ = font;
   }
   double TextWidth(std::wstring_view text) override {
     ++printer_.Measured;
+    if (printer_.Resolution > 0) {
+      return Twips(static_cast<double>(text.size()) * printer_.DotsOfCharacter(font_.Points));
+    }
     const auto blanks = std::count(text.begin(), text.end(), L' ');
     const double others = static_cast<double>(text.size()) - static_cast<double>(blanks);
     const double bold = font_.Bold ? 1 : 0;
     return font_.Points * (others * (12 + bold) + static_cast<double>(blanks) * (6 + bold));
   }
-  double TextHeight() override { return font_.Points * 22; }
+  double TextHeight() override {
+    return printer_.Resolution > 0 ? Twips(printer_.DotsOfLine(font_.Points)) : font_.Points * 22;
+  }
+  void BeginDocument(const std::wstring& title) override {
+    FailIf(PrinterFailure::BeginDocument);
+    printer_.Jobs.push_back(job_);
+    printer_.Titles.push_back(title);
+    printer_.BeginDocument();
+    open_ = true;
+  }
   void Draw(double x, double y, std::wstring_view text) override {
     FailIf(PrinterFailure::Draw);
     printer_.Keep(x, y, text, font_);
@@ -53,16 +68,19 @@ class RecordingSurface final : public platform::PageSurface {
   }
 
  private:
+  /// As a device's texts become twips: by another division than its sheet.
+  double Twips(double dots) const { return dots / (printer_.Resolution / platform::kTwipsPerInch); }
+
   void FailIf(PrinterFailure failure) const {
-    if (printer_.Failure == failure && printer_.Pages == printer_.FailingPage) {
-      throw RuntimeError(FailedAction::Print, printerName_, L"The printer is out of order.", 4242);
+    if (printer_.Failure == failure && printer_.FailingPage == (open_ ? printer_.Pages : 0)) {
+      throw RuntimeError(FailedAction::Print, job_.PrinterName, L"The printer is out of order.", 4242);
     }
   }
 
   RecordingPrinter& printer_;
-  std::wstring printerName_;
+  platform::PrintJob job_;
   platform::PageFont font_;
-  bool open_ = true;
+  bool open_ = false;
 };
 
 }  // namespace
@@ -73,12 +91,27 @@ RecordingPrinter::RecordingPrinter() {
 
 void RecordingPrinter::Reset() {
   Area = {11906, 16838, 0, 0, 0, 0};
+  Resolution = 0;
   Failure = PrinterFailure::None;
   FailingPage = 1;
   Jobs.clear();
+  Titles.clear();
   BeginDocument();
   Pages = Ended = Aborted = 0;
   Measured = 0;
+}
+
+void RecordingPrinter::SetSheet(int dotsPerInch, double width, double height) {
+  Resolution = dotsPerInch;
+  Area = {width * platform::kTwipsPerInch / dotsPerInch, height * platform::kTwipsPerInch / dotsPerInch, 0, 0, 0, 0};
+}
+
+double RecordingPrinter::DotsOfCharacter(double points) const {
+  return std::round(points * Resolution / 120);
+}
+
+double RecordingPrinter::DotsOfLine(double points) const {
+  return std::round(points * Resolution / 64);
 }
 
 void RecordingPrinter::BeginDocument() {
@@ -139,18 +172,7 @@ std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
   if (printer.Failure == fakes::PrinterFailure::Open) {
     throw RuntimeError(FailedAction::Print, job.PrinterName, L"The printer name is invalid.", 1801);
   }
-  printer.Jobs.push_back(job);
-  printer.BeginDocument();
-  return std::make_unique<fakes::RecordingSurface>(printer, job.PrinterName);
-}
-
-PageArea PageAreaOf(const PrintJob& job) {
-  if (fakes::Printer().Failure == fakes::PrinterFailure::Open) {
-    throw RuntimeError(FailedAction::Print, job.PrinterName, L"The printer name is invalid.", 1801);
-  }
-  const PageArea area = fakes::Printer().Area;
-  return job.Portrait ? area : PageArea{area.Height,     area.Width,     area.BottomOffset,
-                                        area.LeftOffset, area.TopOffset, area.RightOffset};
+  return std::make_unique<fakes::RecordingSurface>(printer, job);
 }
 
 }  // namespace folivant::platform

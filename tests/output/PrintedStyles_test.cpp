@@ -79,28 +79,44 @@ TEST_F(PageWriter, ANameThatJustFitsStaysWhole) {
   EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), name);
 }
 
-TEST_F(PageWriter, AHeadingsPathIsShortenedInBoldToThePageLessTheMargins) {
-  // 12,000 - 2,880 = 9,120; in bold 70 characters are 9,100 and 71 are 9,230. The heading's word is not counted.
-  const std::wstring fits = L"C:\\" + std::wstring(60, L'd') + L"\\leaf12";
-  ASSERT_EQ(fits.size(), 70U);
+TEST_F(PageWriter, AHeadingIsShortenedAsAWholeToThePageLessTheMargins) {
+  // 12,000 - 2,880 = 9,120. In bold "Directory " is 1,240 wide, 60 characters are 7,800 and 61 are 7,930.
+  const std::wstring fits = L"C:\\" + std::wstring(50, L'd') + L"\\leaf12";
+  ASSERT_EQ(fits.size(), 60U);
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(fits, 0);
-  ListDirectory(L"C:\\" + std::wstring(61, L'd') + L"\\leaf12", 0);
+  ListDirectory(L"C:\\" + std::wstring(51, L'd') + L"\\leaf12", 0);
   EXPECT_NO_THROW(printer.Find(1, L"Directory " + fits));
-  // The leading part keeps 60 characters beside "..." and "\leaf12".
-  EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(57, L'd') + L"...\\leaf12"));
+  // "Directory C:\" is 1,630 and "...\leaf12" 1,300: of the 6,190 between them 47 characters take 6,110.
+  EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(47, L'd') + L"...\\leaf12"));
 }
 
-TEST_F(PageWriter, HeadingPathsIgnoreTheBorders) {
+TEST_F(PageWriter, HeadingsIgnoreTheBorders) {
   printer.Area = {11000, 16000, 500, 0, 500, 0};
-  // 11,000 - 2,880 = 8,120 although a line holds 9,120: 62 bold characters are 8,060, 63 are 8,190.
-  const std::wstring fits = L"C:\\" + std::wstring(52, L'd') + L"\\leaf12";
-  ASSERT_EQ(fits.size(), 62U);
+  // 11,000 - 2,880 = 8,120 although a line holds 9,120: 52 bold characters beside "Directory " are 8,000.
+  const std::wstring fits = L"C:\\" + std::wstring(42, L'd') + L"\\leaf12";
+  ASSERT_EQ(fits.size(), 52U);
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(fits, 0);
-  ListDirectory(L"C:\\" + std::wstring(53, L'd') + L"\\leaf12", 0);
+  ListDirectory(L"C:\\" + std::wstring(43, L'd') + L"\\leaf12", 0);
   EXPECT_NO_THROW(printer.Find(1, L"Directory " + fits));
-  EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(49, L'd') + L"...\\leaf12"));
+  // Of 5,190 twips 39 characters take 5,070.
+  EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(39, L'd') + L"...\\leaf12"));
+}
+
+TEST_F(PageWriter, AHeadingKeepsTheEndOfANameThatIsTooWideForTheLine) {
+  // Beside the dots, which are 390 wide, 8,730 twips hold 67 characters.
+  const std::wstring name = std::wstring(200, L'n') + L" end";
+  Begin(ListingStyle::NoSubdirectories);
+  ListDirectory(L"C:\\Data\\" + name, 0);
+  // The blank is 70 wide and the 66 characters 8,580.
+  EXPECT_NO_THROW(printer.Find(1, L"..." + std::wstring(63, L'n') + L" end"));
+}
+
+TEST_F(PageWriter, ATreesHeadingIsShortenedLikewise) {
+  Begin(ListingStyle::TreeStyle);
+  writer.BeginTree(L"C:\\" + std::wstring(51, L'd') + L"\\leaf12");
+  EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(47, L'd') + L"...\\leaf12"));
 }
 
 // --- Tree style ---

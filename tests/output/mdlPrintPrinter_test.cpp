@@ -18,12 +18,40 @@ TEST_F(PageWriter, TheJobCarriesThePrinterSettings) {
   ASSERT_EQ(printer.Jobs.size(), 1U);
   const platform::PrintJob& job = printer.Jobs[0];
   EXPECT_EQ(job.PrinterName, L"Laser");
-  EXPECT_EQ(job.Title, L"Folivant - C:\\Data");
   EXPECT_EQ(job.Copies, 3);
   EXPECT_EQ(job.Duplex, 2);
   EXPECT_EQ(job.Quality, -4);
   EXPECT_EQ(job.PaperBin, 4);
   EXPECT_FALSE(job.Portrait);
+}
+
+TEST_F(PageWriter, TheDocumentIsNamedAfterTheStartPath) {
+  Begin(ListingStyle::NoSubdirectories);
+  EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - C:\\Data"});
+}
+
+TEST_F(PageWriter, APathListsDocumentIsNamedAfterItsFile) {
+  tree.StartPath = L"C:\\Lists\\paths.txt";
+  tree.FindWindowTitle = L"Search Results";  // of an earlier run
+  Begin(ListingStyle::PathListFile);
+  writer.FindList({});
+  EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - C:\\Lists\\paths.txt"});
+}
+
+TEST_F(PageWriter, AFindListsDocumentIsNamedAfterItsWindow) {
+  Begin(ListingStyle::FindWindow);
+  EXPECT_TRUE(printer.Jobs.empty()) << "the window is chosen after the beginning";
+  tree.FindWindowTitle = L"Search Results";
+  writer.FindList({});
+  writer.EndListing();
+  EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - Search Results"});
+  EXPECT_EQ(printer.Ended, 1);
+}
+
+TEST_F(PageWriter, AFindListWhoseChoiceIsCancelledNeverReachesTheQueue) {
+  Begin(ListingStyle::FindWindow).AbortListing();
+  EXPECT_TRUE(printer.Jobs.empty());
+  EXPECT_EQ(printer.Aborted, 0);
 }
 
 TEST_F(PageWriter, HeaderAndFooterAreCentredInFourFifthsOfTheFont) {
@@ -184,7 +212,11 @@ TEST_P(ClosingLines, AreThoseOfTheStyle) {
   tree.Totals.TotalFiles = 2;
   tree.Totals.TotalDirs = 1;
   tree.Totals.TotalSize = Currency::FromWhole(2048);
-  Begin(GetParam().Style).EndListing();
+  Begin(GetParam().Style);
+  if (format.IsFileList()) {
+    writer.FindList({});
+  }
+  writer.EndListing();
   EXPECT_EQ(printer.Ended, 1);
   const std::wstring totals = L"2 files, 1 directory, 2,048 b ";
   const std::wstring freeSpace = L"4,882 kb free of 19 Mb.";
@@ -300,7 +332,9 @@ TEST_P(PrinterFailures, ReachTheCallerWithTheSystemsText) {
 
 INSTANTIATE_TEST_SUITE_P(Where, PrinterFailures,
                          ::testing::Values(FailureCase{"Open", fakes::PrinterFailure::Open, 1, 0},
-                                           FailureCase{"Font", fakes::PrinterFailure::SelectFont, 1, 1},
+                                           FailureCase{"Font", fakes::PrinterFailure::SelectFont, 0, 0},
+                                           FailureCase{"Begin", fakes::PrinterFailure::BeginDocument, 0, 0},
+                                           FailureCase{"FontLater", fakes::PrinterFailure::SelectFont, 2, 1},
                                            FailureCase{"Draw", fakes::PrinterFailure::Draw, 1, 1},
                                            FailureCase{"DrawLater", fakes::PrinterFailure::Draw, 2, 1},
                                            FailureCase{"NewPage", fakes::PrinterFailure::NewPage, 1, 1},

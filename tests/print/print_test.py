@@ -267,6 +267,20 @@ class Pages(PrintTest):
         self.near(word.left, LEFT)
         self.assertLess(word.right, DOS_NAME - 12)
 
+    def test_headings_keep_the_end_of_the_directorys_name(self):
+        # Bold letters are as wide as others, so 2006.56 dots hold 80 characters. Beside the dots of a name that alone is
+        # too long they hold 77 of it, and beside "Directory of " and "...\\" with a name of 54 they hold 9 of its path.
+        long, short = "n" * 150 + "-End", "m" * 50 + "-End"
+        for name in (long, short):
+            self.file(f"{name}/a.txt")
+        document = self.print("Format=1")
+        headings = [line for line in document.all_lines() if line.endswith("-End")]
+        start = "Z:\\Tmp\\Print"[:9]
+        self.assertEqual(headings, [f"Directory of {start}...\\{short}", "..." + "n" * 73 + "-End"])
+        right = max(word.right for page in document.pages for word in page if word.text.endswith("-End"))
+        # In the document a letter is 25.2 dots wide: 42 dots of font height, of which the measure leaves the fraction out.
+        self.near(right, LEFT + 80 * 25.2 * POINTS)
+
     def test_ten_thousand_entries_fill_176_pages(self):
         self.files(10_000)
         document = self.print("Format=0")
@@ -342,6 +356,13 @@ class Styles(PrintTest):
         for end, expected in zip(ends, (FILES_END, DIRECTORY_SIZE_END - UNIT, TOTAL_FILES_END, TOTAL_SIZE_END - UNIT)):
             self.near(end, expected)
 
+    def test_directory_view_captions_that_fill_their_columns_stay_whole(self):
+        # "T. files" and the blank before it are the nine characters of its column. In these sizes (17 and 32 dots to a
+        # character) twips say so only to the last digit of a fraction.
+        for points in (7, 13):
+            document = self.print("Format=3", "TShow=1111", f"FontSize={points}")
+            self.assertEqual(document.lines()[1], "Directory Files Size T. files T. size")
+
     def test_full_path_list(self):
         document = self.print("Format=4")
         lines = document.lines()
@@ -375,6 +396,7 @@ class Jobs(PrintTest):
         self.file("a.txt")
         document = self.print("Format=0", PrinterCopies=3, PrinterDuplex=2, PrinterQuality=-4, PrinterPaperBin=2)
         self.assertEqual(document.job["copies"], "3")
+        self.assertIn("collate", document.options, "one copy after the other")
         self.assertIn("sides=two-sided-long-edge", document.options)
         self.assertIn("Duplex=DuplexNoTumble", document.options)
         postscript = document.postscript()
@@ -484,6 +506,28 @@ class Failures(PrintTest):
         self.assertRegex(self.answer_box(), r'^Cannot print on "Dying": .+ \(\d+\)$')
         self.assertEqual(process.wait(timeout=60), 1)
 
+    def check_refused(self, message, *lines, **settings):
+        """A run that is refused with this message leaves nothing in the queue."""
+        self.file("a.txt")
+        self.store(PrinterName="Plain", **settings)
+        jobs = server.run("lpstat", "-W", "all", "-o", "Plain")
+        process = self.start(*lines)
+        self.assertEqual(self.answer_box(), message)
+        self.assertEqual(process.wait(timeout=60), 1)
+        self.assertEqual(server.run("lpstat", "-W", "all", "-o", "Plain"), jobs)
+
+    def test_margins_that_leave_no_room_are_refused(self):
+        self.check_refused("The margins leave no room for the listing on the page "
+                           "(Left: 20; Top: 15; Right: 20; Bottom: 20 in).", "Format=0", Inches="True")
+        # A letter and dots are 100 dots wide, and 2479 - 236.22 - 182.5 x 11.811 are 87.
+        self.check_refused("The margins leave no room for the listing on the page "
+                           "(Left: 20; Top: 15; Right: 182.5; Bottom: 20 mm).", "Format=4", "MarginRight=182.5")
+
+    def test_fonts_that_fit_on_no_page_are_refused(self):
+        self.check_refused("The listing cannot be printed in this font size (Courier New, 0).", "Format=0", "FontSize=0")
+        self.check_refused("The listing cannot be printed in this font size (Arial, 2000000000).", "Format=3",
+                           "Font80HF=False", "FontNameHF=Arial", "FontSizeHF=2000000000")
+
     def test_without_any_printer_a_message_says_so(self):
         self.file("a.txt")
         self.environment = dict(server.environment, CUPS_SERVER="127.0.0.1:1")
@@ -511,6 +555,9 @@ class Windows(PrintTest):
 
     def test_margins_that_a_printer_cannot_do(self):
         self.check("SmallMargins.*")
+
+    def test_settings_that_leave_no_room(self):
+        self.check("NoRoom.*")
 
     def test_windows_of_a_system_without_printers(self):
         self.check("NoPrinters.*", CUPS_SERVER="127.0.0.1:1")

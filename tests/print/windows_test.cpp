@@ -4,6 +4,7 @@
 #include "desktop/FieldLabels.h"
 #include "desktop/FittingTexts.h"
 #include "desktop/Manuals.h"
+#include "find/StandIn.h"
 #include "res/Controls.h"
 
 namespace folivant::desktop {
@@ -11,17 +12,34 @@ namespace {
 
 constexpr DWORD kDocumentComes = 3'000;  // milliseconds; one that is on its way takes less than one second
 
-/// The documents that have arrived on the queue.
-int Documents(const std::wstring& queue) {
+std::wstring QueueFolder(const std::wstring& queue) {
   wchar_t folder[MAX_PATH];
   GetEnvironmentVariableW(L"FOLIVANT_JOBS", folder, MAX_PATH);
+  return std::wstring(folder) + L"\\" + queue + L"\\";
+}
+
+std::vector<std::wstring> FilesOf(const std::wstring& queue, const std::wstring& pattern) {
   WIN32_FIND_DATAW found;
-  const HANDLE search = FindFirstFileW((std::wstring(folder) + L"\\" + queue + L"\\*.pdf").c_str(), &found);
-  int count = 0;
+  const HANDLE search = FindFirstFileW((QueueFolder(queue) + pattern).c_str(), &found);
+  std::vector<std::wstring> files;
   for (BOOL more = search != INVALID_HANDLE_VALUE; more != 0; more = FindNextFileW(search, &found)) {
-    ++count;
+    files.push_back(QueueFolder(queue) + found.cFileName);
   }
   FindClose(search);
+  return files;
+}
+
+/// The documents that have arrived on the queue.
+int Documents(const std::wstring& queue) {
+  return static_cast<int>(FilesOf(queue, L"*.pdf").size());
+}
+
+/// How many documents of the queue were called that.
+int DocumentsNamed(const std::wstring& queue, const std::string& title) {
+  int count = 0;
+  for (const std::wstring& job : FilesOf(queue, L"*.job")) {
+    count += ReadBytes(job).starts_with("title=" + title + "\n") ? 1 : 0;
+  }
   return count;
 }
 
@@ -233,6 +251,88 @@ TEST_F(SmallMargins, CancelGoesBackToTheOptions) {
   options.Answer(cmdCancel);
 }
 
+/// What fits on no page of an A4 sheet.
+class NoRoom : public Printers {
+ protected:
+  /// Confirms the options, which have to refuse in these words, to stay open on the page of `field` with nothing
+  /// stored, and to give `field` the focus.
+  void ExpectRefused(const Program& program, const std::wstring& message, int field, Window question = Window()) {
+    if (question) {
+      question.Answer(IDNO);
+    } else {
+      options.Press(cmdOK);
+    }
+    const Window box = program.WaitForBox(options);
+    EXPECT_EQ(box.BoxText(), message);
+    box.Answer(IDOK);
+    EXPECT_TRUE(options.StaysReady());
+    EXPECT_TRUE(options.Control(field).IsShown());
+    GUITHREADINFO focus{};
+    focus.cbSize = sizeof focus;
+    GetGUIThreadInfo(GetWindowThreadProcessId(options.Handle(), nullptr), &focus);
+    EXPECT_EQ(focus.hwndFocus, options.Control(field).Handle());
+  }
+  static std::wstring With(int message, const std::wstring& object) {
+    std::wstring text = Message(message);
+    return text.replace(text.find(L"%1"), 2, object);
+  }
+};
+
+TEST_F(NoRoom, MillimetresReadAsInchesKeepTheOptionsOpen) {
+  const Program program(L"");
+  OpenOptions(program);
+  options.Click(optInches);
+  ExpectRefused(program, With(187, L"Left: 20; Top: 15; Right: 20; Bottom: 20 in"), txtLeft);
+  EXPECT_NE(Printer(L"Inches"), L"True") << "nothing is stored";
+  options.Click(optMilimeter);
+  Confirm();
+  EXPECT_EQ(Printer(L"Inches"), L"False");
+  EXPECT_EQ(Printer(L"MarginLeft"), L"20");
+}
+
+TEST_F(NoRoom, TheQuestionAboutSmallMarginsComesFirst) {
+  const Program program(L"");
+  OpenOptions(program);
+  options.SetText(txtLeft, L"6");
+  options.SetText(txtBottom, L"290");
+  options.Press(cmdOK);
+  const Window question = program.WaitForBox(options);
+  EXPECT_TRUE(question.BoxText().starts_with(Message(102)));
+  ExpectRefused(program, With(187, L"Left: 6; Top: 15; Right: 20; Bottom: 290 mm"), txtLeft, question);
+  options.Answer(cmdCancel);
+}
+
+TEST_F(NoRoom, AStoredFontThatFitsNoPageIsNamed) {
+  WriteStore(L"Settings", L"FontSize", L"0");
+  const Program program(L"");
+  OpenOptions(program);
+  ExpectRefused(program, With(188, L"Courier New, 0"), cmdFont);
+  options.Answer(cmdCancel);
+}
+
+TEST_F(NoRoom, ARunSaysTheSameAndTheWindowWorksOn) {
+  WriteStore(L"Settings", L"Inches", L"True");
+  const int before = Documents(L"Borders");
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Press(cmdOK);
+  const Window box = program.WaitForWindow(L"Folivant", main);
+  EXPECT_EQ(box.BoxText(), With(187, L"Left: 20; Top: 15; Right: 20; Bottom: 20 in"));
+  box.Answer(IDOK);
+  EXPECT_TRUE(WaitUntil([this] { return main.IsEnabled(); }));
+  EXPECT_TRUE(program.IsRunning());
+  EXPECT_FALSE(WaitUntil([before] { return Documents(L"Borders") != before; }, kDocumentComes));
+}
+
+TEST_F(Printers, AListFromAFindWindowIsNamedAfterTheWindowInTheQueue) {
+  const tests::StandIn window(L"Search Results in Reports", {"Report.txt\tC:\\Data\t12 KB\tText\t1/2/2001 3:04 PM"});
+  const int before = Documents(L"Borders");
+  const Program program(L"/f " + scratch.FilterFile(L"five.fvf", {"Format=5"}) + L" /t p /g");
+  EXPECT_EQ(program.WaitForExit(), 0u);
+  ASSERT_TRUE(WaitUntil([before] { return Documents(L"Borders") == before + 1; }));
+  EXPECT_EQ(DocumentsNamed(L"Borders", "Folivant - Search Results in Reports"), 1);
+}
+
 TEST_F(Printers, ARunFromTheWindowPrintsAndEndsTheProgram) {
   const int before = Documents(L"Borders");
   const Program program(L"");
@@ -313,6 +413,14 @@ TEST_F(NoPrinters, ThePrinterButtonSaysSo) {
   EXPECT_EQ(box.BoxText(), L"No printer is installed.");
   box.Answer(IDOK);
   EXPECT_TRUE(options.IsEnabled());
+}
+
+TEST_F(NoPrinters, MarginsMayLeaveNoRoom) {
+  const Program program(L"");
+  OpenOptions(program);
+  Page(options, txtRight).SetText(txtRight, L"500");
+  Confirm();
+  EXPECT_EQ(Printer(L"MarginRight"), L"500");
 }
 
 TEST_F(NoPrinters, MarginsHaveNoMinimum) {

@@ -9,7 +9,7 @@ namespace {
 
 Messages English() {
   Messages texts;
-  for (std::size_t number = 160; number <= 168; ++number) {
+  for (std::size_t number = 160; number <= 188; ++number) {
     texts.Set(number, std::to_wstring(number) + L" \"%1\": %2 (%3)");
   }
   return texts;
@@ -28,6 +28,13 @@ TEST(ErrorText, EndsWithTheObjectWhenTheSystemWasNotInvolved) {
   EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"a%2b", {}, 0), texts), L"Cannot read \"a%2b\".");
 }
 
+TEST(ErrorText, LeavesASentenceThatHasNoPlaceForTheSystemsWordsAsItIs) {
+  Messages texts;
+  texts.Set(188, L"This font cannot be printed (%1)!");
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::UseFont, L"Arial, 0", {}, 0), texts),
+            L"This font cannot be printed (Arial, 0)!");
+}
+
 TEST(ErrorText, ShowsTheFactsWhenTheTextIsMissing) {
   Messages texts;
   texts.Set(161, L"**161**");
@@ -43,7 +50,8 @@ TEST(ErrorText, HasOneTextForEachAction) {
       {FailedAction::CreateFile, L"160 \"x\": no (5)"}, {FailedAction::ReadFile, L"161 \"x\": no (5)"},
       {FailedAction::WriteFile, L"162 \"x\": no (5)"},  {FailedAction::WriteSetting, L"165 \"x\": no (5)"},
       {FailedAction::Print, L"166 \"x\": no (5)"},      {FailedAction::StartProgram, L"167 \"x\": no (5)"},
-      {FailedAction::ReadWindow, L"168 \"x\": no (5)"},
+      {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::UseMargins, L"187 \"x\": no (5)"},
+      {FailedAction::UseFont, L"188 \"x\": no (5)"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ErrorText(RuntimeError(row.action, L"x", L"no", 5), English()), row.expected);

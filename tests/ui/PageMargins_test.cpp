@@ -38,14 +38,33 @@ TEST_F(Margins, MinimaAreTheUnprintableBandsInTheCurrentUnit) {
 
 TEST_F(Margins, MinimaComeFromTheChosenPrinterInItsOrientation) {
   const PrinterSettings printer{L"Laser", 1, 1, -2, 1};
-  EXPECT_EQ(MinimumMarginsOf(printer, true, true).Left, 0.25);
+  EXPECT_EQ(MinimumMargins(SurfaceOf(printer, true)->Area(), true).Left, 0.25);
   // Turned to the left, the sheet's lower border comes to the left.
-  EXPECT_EQ(MinimumMarginsOf(printer, false, true).Left, 0.5);
+  EXPECT_EQ(MinimumMargins(SurfaceOf(printer, false)->Area(), true).Left, 0.5);
+  EXPECT_TRUE(fakes::Printer().Jobs.empty()) << "nothing reaches the printer";
 }
 
-TEST_F(Margins, WithoutThePrinterThereIsNoMinimum) {
+TEST_F(Margins, WithoutThePrinterThereIsNothingToMeasureOn) {
   fakes::Printer().Failure = fakes::PrinterFailure::Open;
-  EXPECT_EQ(MinimumMarginsOf({L"Gone", 1, 1, -2, 1}, true, false), PageMargins{});
+  EXPECT_EQ(SurfaceOf({L"Gone", 1, 1, -2, 1}, true), nullptr);
+}
+
+TEST_F(Margins, MessagesNameThemAsTheOptionsDo) {
+  Messages texts;
+  const std::pair<Text, const wchar_t*> rows[] = {{Text::MarginLeft, L"&Gauche :"},  {Text::MarginTop, L"&Haut :"},
+                                                  {Text::MarginRight, L"&Droite :"}, {Text::MarginBottom, L"&Bas :"},
+                                                  {Text::UnitInches, L"po"},         {Text::UnitMillimeter, L"mm"}};
+  for (const auto& [number, text] : rows) {
+    texts.Set(static_cast<std::size_t>(number), text);
+  }
+  GeneralSettings general;
+  general.MarginLeft = 20;
+  general.MarginTop = 12.7F;
+  general.MarginRight = 0;
+  general.MarginBottom = -3;
+  EXPECT_EQ(MarginsText(general, texts), L"Gauche : 20; Haut : 12.7; Droite : 0; Bas : -3 mm");
+  general.Inches = true;
+  EXPECT_EQ(MarginsText(general, texts), L"Gauche : 20; Haut : 12.7; Droite : 0; Bas : -3 po");
 }
 
 TEST_F(Margins, AMinimumIsRoundedUpToTheStepOfItsUnit) {

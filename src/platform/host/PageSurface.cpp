@@ -6,21 +6,10 @@
 #include "platform/host/Host.h"
 
 namespace folivant::platform {
-namespace {
-
-[[noreturn]] void NoPrinter(const PrintJob& job) {
-  errno = ENODEV;
-  throw SystemError(FailedAction::Print, job.PrinterName);
-}
-
-}  // namespace
 
 std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
-  NoPrinter(job);
-}
-
-PageArea PageAreaOf(const PrintJob& job) {
-  NoPrinter(job);
+  errno = ENODEV;
+  throw SystemError(FailedAction::Print, job.PrinterName);
 }
 
 }  // namespace folivant::platform

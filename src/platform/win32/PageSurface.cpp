@@ -35,7 +35,6 @@ DWORD SpoolerError(int result) {
 
 class PrinterSurface final : public PageSurface {
  public:
-  /// Begin follows: a job that fails on its first page has to be taken back.
   PrinterSurface(std::wstring printer, const PrintJob& job)
       : printer_(std::move(printer)),
         dc_(OpenPrinterContext(printer_, job)),
@@ -45,15 +44,6 @@ class PrinterSurface final : public PageSurface {
   ~PrinterSurface() override { AbortDocument(); }
   PrinterSurface(const PrinterSurface&) = delete;
   PrinterSurface& operator=(const PrinterSurface&) = delete;
-
-  void Begin(const std::wstring& title) {
-    DOCINFOW document{};
-    document.cbSize = sizeof document;
-    document.lpszDocName = title.c_str();
-    Check([&] { return StartDocW(Dc(), &document); });
-    open_ = true;
-    BeginPage();
-  }
 
   PageArea Area() const override { return area_; }
 
@@ -74,6 +64,15 @@ class PrinterSurface final : public PageSurface {
     TEXTMETRICW metrics{};
     Check([&] { return GetTextMetricsW(Dc(), &metrics); });
     return metrics.tmHeight / dotsPerTwipY_;
+  }
+
+  void BeginDocument(const std::wstring& title) override {
+    DOCINFOW document{};
+    document.cbSize = sizeof document;
+    document.lpszDocName = title.c_str();
+    Check([&] { return StartDocW(Dc(), &document); });
+    open_ = true;
+    BeginPage();
   }
 
   void Draw(double x, double y, std::wstring_view text) override {
@@ -161,13 +160,7 @@ class PrinterSurface final : public PageSurface {
 }  // namespace
 
 std::unique_ptr<PageSurface> OpenPageSurface(const PrintJob& job) {
-  auto surface = std::make_unique<PrinterSurface>(PrinterOf(job), job);
-  surface->Begin(job.Title);
-  return surface;
-}
-
-PageArea PageAreaOf(const PrintJob& job) {
-  return AreaOf(OpenPrinterContext(PrinterOf(job), job).Get());
+  return std::make_unique<PrinterSurface>(PrinterOf(job), job);
 }
 
 }  // namespace folivant::platform

@@ -89,9 +89,11 @@ std::optional<short> PaperSourceFor(const std::wstring& printer, std::int32_t bi
 }
 
 void PutIn(const PrintJob& job, const std::wstring& printer, DEVMODEW& mode) {
-  mode.dmFields |= DM_ORIENTATION | DM_COPIES | DM_DUPLEX | DM_PRINTQUALITY;
+  mode.dmFields |= DM_ORIENTATION | DM_COPIES | DM_COLLATE | DM_DUPLEX | DM_PRINTQUALITY;
   mode.dmOrientation = job.Portrait ? DMORIENT_PORTRAIT : DMORIENT_LANDSCAPE;
   mode.dmCopies = static_cast<short>(std::clamp(job.Copies, 1, 9999));
+  // Whether or not the driver claims to collate (DC_COLLATE): print servers do where some drivers say no.
+  mode.dmCollate = DMCOLLATE_TRUE;
   mode.dmDuplex = static_cast<short>(std::clamp<std::int32_t>(job.Duplex, DMDUP_SIMPLEX, DMDUP_HORIZONTAL));
   if (const std::optional<Resolution> resolution = ResolutionFor(printer, job.Quality)) {
     mode.dmPrintQuality = static_cast<short>(resolution->X);

@@ -1,0 +1,205 @@
+// What fits on no page is refused before anything reaches the printer, and what fits is not.
+#include "output/PageLayout.h"
+
+#include <limits>
+
+#include "output/PageFixture.h"
+#include "platform/RuntimeError.h"
+
+namespace folivant {
+namespace {
+
+class Room : public PageWriter {
+ protected:
+  Room() {
+    const std::pair<Text, const wchar_t*> rows[] = {{Text::MarginLeft, L"&Left:"},
+                                                    {Text::MarginTop, L"&Top:"},
+                                                    {Text::MarginRight, L"&Right:"},
+                                                    {Text::MarginBottom, L"&Bottom:"},
+                                                    {Text::UnitInches, L"in"}};
+    for (const auto& [number, text] : rows) {
+      texts.Set(static_cast<std::size_t>(number), text);
+    }
+  }
+
+  static constexpr const wchar_t* kPrinted = L"printed";
+
+  /// What a run's refusal names, with "margins: " or "font: " before it; kPrinted when its document begins.
+  std::wstring Outcome(ListingStyle style) {
+    printer.Jobs.clear();
+    std::wstring outcome = kPrinted;
+    try {
+      Begin(style);
+    } catch (const RuntimeError& error) {
+      EXPECT_TRUE(error.SystemText().empty());
+      outcome = (error.Action() == FailedAction::UseMargins ? L"margins: " : L"font: ") + error.Object();
+      EXPECT_TRUE(printer.Jobs.empty()) << "nothing reaches the queue";
+    }
+    writer.AbortListing();
+    return outcome;
+  }
+  bool Prints(ListingStyle style) { return Outcome(style) == kPrinted; }
+};
+
+constexpr ListingStyle kStyles[] = {ListingStyle::NoSubdirectories, ListingStyle::IncludeSubdirectories,
+                                    ListingStyle::TreeStyle,        ListingStyle::DirectoryView,
+                                    ListingStyle::FullPathList,     ListingStyle::FindWindow,
+                                    ListingStyle::PathListFile};
+
+TEST_F(Room, MillimetresReadAsInchesAreRefusedInEveryStyle) {
+  general.MarginLeft = general.MarginRight = general.MarginBottom = 20;
+  general.MarginTop = 15;
+  for (const ListingStyle style : kStyles) {
+    EXPECT_EQ(Outcome(style), L"margins: Left: 20; Top: 15; Right: 20; Bottom: 20 in");
+  }
+  general.MarginLeft = general.MarginRight = general.MarginBottom = general.MarginTop = 1;
+  for (const ListingStyle style : kStyles) {
+    EXPECT_EQ(Outcome(style), kPrinted);
+  }
+}
+
+struct LowestSheet {
+  ListingStyle Style;
+  double Height;
+};
+
+TEST_F(Room, APageHoldsALineUnderItsCaptions) {
+  // Lines begin at 2,276, and 1,440 are below them. A line keeps 4 x 220 free; below a heading and its captions (5
+  // lines) or a title and its captions (4) one more line has to stand.
+  for (const LowestSheet& row : {LowestSheet{ListingStyle::FullPathList, 2276 + 4 * 220 + 1440},
+                                 {ListingStyle::DirectoryView, 4596},
+                                 {ListingStyle::FindWindow, 2276 + 5 * 220 + 1440},
+                                 {ListingStyle::PathListFile, 4816},
+                                 {ListingStyle::NoSubdirectories, 2276 + 6 * 220 + 1440},
+                                 {ListingStyle::IncludeSubdirectories, 5036},
+                                 {ListingStyle::TreeStyle, 5036}}) {
+    printer.Area.Height = row.Height;
+    EXPECT_TRUE(Prints(row.Style)) << row.Height;
+    printer.Area.Height = row.Height - 1;
+    EXPECT_EQ(Outcome(row.Style), L"margins: Left: 1; Top: 1; Right: 1; Bottom: 1 in") << row.Height;
+  }
+}
+
+TEST_F(Room, OnTheLowestSheetTheFirstLinesStandBetweenTheMargins) {
+  printer.Area.Height = 5036;
+  Begin(ListingStyle::IncludeSubdirectories);
+  ListDirectory(L"C:\\Data", 1);
+  // The heading begins a page, because it keeps ten lines free.
+  EXPECT_EQ(printer.Find(2, L"entry.txt").Y, 5036 - 1440 - 220);
+
+  printer.Area.Height = 4596;
+  Begin(ListingStyle::FullPathList);
+  ListDirectory(L"C:\\", 3, L"a");
+  EXPECT_EQ(printer.Pages, 3) << "each page holds one line and none is empty";
+  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\a");
+}
+
+struct NarrowestSheet {
+  ListingStyle Style;
+  FileColumns Files;
+  double Width;
+};
+
+TEST_F(Room, ALineHoldsALetterOfTheNameAndDots) {
+  constexpr FileColumns kAll = {true, true, true, true, true};
+  // "W..." is 480 wide, the margins are 2,880. Beside the name stand: nothing, attributes, date, size and MS-DOS name
+  // (5,280), the four numbers (3,960), or folder, size and date (twice the name, 3,240 and the left margin again).
+  for (const NarrowestSheet& row :
+       {NarrowestSheet{ListingStyle::FullPathList, kAll, 2880 + 480},
+        {ListingStyle::NoSubdirectories, kAll, 2880 + 5280 + 480},
+        {ListingStyle::TreeStyle, kAll, 8640},
+        {ListingStyle::IncludeSubdirectories, {true, false, false, false, false}, 2880 + 120 + 480},
+        // Without names the MS-DOS names begin the line, two blanks further to the left.
+        {ListingStyle::NoSubdirectories, {false, true, true, true, true}, 2880 + 5160},
+        {ListingStyle::DirectoryView, kAll, 2880 + 3960 + 480},
+        {ListingStyle::FindWindow, kAll, 2880 + 3 * 480 + 3240 + 1440},
+        {ListingStyle::PathListFile, kAll, 9000}}) {
+    format.Files = row.Files;
+    printer.Area.Width = row.Width;
+    EXPECT_TRUE(Prints(row.Style)) << row.Width;
+    printer.Area.Width = row.Width - 1;
+    EXPECT_EQ(Outcome(row.Style), L"margins: Left: 1; Top: 1; Right: 1; Bottom: 1 in") << row.Width;
+  }
+}
+
+TEST_F(Room, UnprintableBordersCountAsPaper) {
+  // The same lowest and narrowest sheets, with borders on all sides.
+  printer.Area = {8640 - 300 - 500, 5036 - 400 - 600, 300, 400, 500, 600};
+  EXPECT_TRUE(Prints(ListingStyle::IncludeSubdirectories));
+  printer.Area.Width -= 1;
+  EXPECT_FALSE(Prints(ListingStyle::IncludeSubdirectories));
+}
+
+TEST_F(Room, AFontSizeThatIsNoneOrBeyondTheSheetIsRefused) {
+  // 16,000 twips are 800 points.
+  for (const int size : {0, -1, -32768, 801, 32767}) {
+    general.FontSize = static_cast<std::int16_t>(size);
+    EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, " + std::to_wstring(size));
+  }
+  general.FontSize = 1;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
+TEST_F(Room, AFontThatFitsNoPageIsNamedAndOneThatMarginsLeaveNoRoomForIsNot) {
+  // In 80 points header, blank lines, captions and the four free lines take 1,408 + 7 x 1,760 = 13,728: less than the
+  // sheet, more than the margins leave. In 100 they take 17,160.
+  general.FontSize = 80;
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"margins: Left: 1; Top: 1; Right: 1; Bottom: 1 in");
+  general.FontSize = 100;
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
+  // Too wide, but not too high: five columns of 24 points take 13,824 of 12,000.
+  general.FontSize = 24;
+  EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
+TEST_F(Room, TheHeadersOwnFontIsNamedWhenItIsToBlame) {
+  general.FontNameHF = L"Arial";
+  general.FontSizeHF = 0;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList)) << "it is not in use";
+  general.Font80HF = false;
+  for (const std::int32_t size : {0, -5, 801, std::numeric_limits<std::int32_t>::max(), 700}) {
+    general.FontSizeHF = size;
+    EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Arial, " + std::to_wstring(size));
+  }
+  general.FontSizeHF = 14;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
+struct MarginCase {
+  float Left, Top, Right, Bottom;
+  bool Prints;
+};
+
+TEST_F(Room, MarginsBelowZeroAreKeptWhileALineBeginsOnTheSheet) {
+  constexpr float kInfinity = std::numeric_limits<float>::infinity();
+  constexpr float kNoNumber = std::numeric_limits<float>::quiet_NaN();
+  for (const MarginCase& row : {MarginCase{0, 0, 0, 0, true},
+                                {1, 1, -1, 1, true},
+                                {1, 1, 1, -1, true},
+                                {1, -0.5F, 1, 1, true},  // the header is lost, the first line is not: 116 twips down
+                                {1, -0.6F, 1, 1, false},
+                                {-0.1F, 1, 1, 1, false},  // the first letter of every line
+                                {9, 1, -9, 1, false},     // what is right of the sheet gives no room
+                                {1, 12, 1, -12, false},
+                                {1, 1, kNoNumber, 1, false},
+                                {1, 1, 1, kNoNumber, false},
+                                {kInfinity, 1, -kInfinity, 1, false}}) {
+    general.MarginLeft = row.Left;
+    general.MarginTop = row.Top;
+    general.MarginRight = row.Right;
+    general.MarginBottom = row.Bottom;
+    EXPECT_EQ(Prints(ListingStyle::FullPathList), row.Prints)
+        << row.Left << " " << row.Top << " " << row.Right << " " << row.Bottom;
+  }
+}
+
+TEST_F(Room, TheSheetIsThatOfTheOrientation) {
+  general.MarginTop = 8;  // 11,520 twips of the 16,000, but of 12,000 across they leave 480
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+  general.Portrait = false;
+  EXPECT_FALSE(Prints(ListingStyle::FullPathList));
+}
+
+}  // namespace
+}  // namespace folivant
