@@ -52,7 +52,7 @@ std::span<const Setting> Settings() {
   ListingFormat& format = mdlVars::Format;
   static const std::vector<Setting> settings = {
       {G::General, Store, kSettings, L"TextViewer", L"notepad.exe", &general.TextViewer},
-      {G::General, Store, kSettings, L"TextWidth", L"80", &general.TextWidth},
+      {G::General, Store, kSettings, L"TextWidth", L"80", RangedMember{&general.TextWidth, kTextWidths}},
       {G::General, Store, kSettings, L"TextHeight", L"26", &general.TextHeight},
       {G::General, Store, kSettings, L"DateFormat", L"5", &general.DateFormat},
       {G::General, Store, kSettings, L"Inches", L"False", &general.Inches},
@@ -152,8 +152,8 @@ void Load(const SettingsStore& store, const Setting& setting, std::vector<BadSet
     return;
   }
   const StoredText stored = ReadSetting(store, setting);
-  if (!ReadMember(setting.Member, stored.Text)) {
-    bad.push_back({store.PlaceOf(setting.Section), stored.Key, stored.Value});
+  if (const std::optional<Refusal> refusal = ReadMember(setting.Member, stored.Text)) {
+    bad.push_back({store.PlaceOf(setting.Section), stored.Key, stored.Value, refusal->Limits});
     ReadMember(setting.Member, DefaultOf(setting));
   }
 }
@@ -204,6 +204,15 @@ class FilterFileScope {
   FilterFileScope& operator=(const FilterFileScope&) = delete;
 };
 
+std::wstring BadSettingText(const BadSetting& setting) {
+  const Messages& texts = mdlVars::Texts;
+  std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Place, setting.Key, setting.Value);
+  if (setting.Limits) {
+    text += L"\r\n" + WithPlaceholders(texts[Text::ValidValues], setting.Limits->Lowest, setting.Limits->Highest);
+  }
+  return text;
+}
+
 std::vector<BadSetting> LoadFrom(const std::wstring& filterFile) {
   const FilterFileScope scope(filterFile);
   return LoadSettings();
@@ -223,8 +232,7 @@ std::vector<BadSetting> LoadSettings() {
 
 void ReportBadSettings(const std::vector<BadSetting>& bad) {
   for (const BadSetting& setting : bad) {
-    platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::BadSetting], setting.Place, setting.Key, setting.Value),
-                          platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    platform::ShowMessage(BadSettingText(setting), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
   }
 }
 
@@ -268,7 +276,7 @@ int LoadLastTab() {
 }
 
 void SaveLastTab(int tab) {
-  SettingsStore().SaveStoreSetting(kSettings, kLastTab, std::to_wstring(tab));
+  SettingsStore().SaveStoreSetting(kSettings, kLastTab, WholeText(tab));
 }
 
 void ResolvePrinterName() {

@@ -4,7 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Numbers.h"
+
 namespace folivant {
+
+/// Of lines in text listings, in characters: a name is padded to what the other columns leave, and each row would carry
+/// that. Numbers below 0 work like 0.
+inline constexpr WholeRange kTextWidths{kRangeOf<std::int32_t>.Lowest, 9'999};
 
 struct GeneralSettings {
   std::wstring TextViewer;

@@ -116,6 +116,8 @@ enum class Text : int {
   CannotReadWindow = 168,
   OverwriteFirstLine = 169,  ///< "The file"
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
+  ValidValues = 180,         ///< follows BadSetting; %1 the lowest and %2 the highest value
+  NumberOutOfRange = 181,    ///< %1 the name of the field, %2 the lowest and %3 the highest number
 
   // Titles of windows
   FilterTitle = 200,

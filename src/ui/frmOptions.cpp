@@ -27,7 +27,7 @@ constexpr Binding<General> kBindings[] = {
     {txtViewer, Text::Viewer, Edits<&General::TextViewer>},
     {cmdBrowse, Text::Browse},
     {fraPage, Text::TextPage},
-    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth>},
+    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth, kTextWidths>},
     {lblChars, Text::Characters},
     {txtHeight, Text::Height, EditsLeadingNumber<&General::TextHeight>},
     {lblLines, Text::Lines},
@@ -151,7 +151,7 @@ void frmOptions::Form_Load() {
   Fill<General>(kBindings, general_);
   Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
   Choose({optPort, optLand}, general_.Portrait ? optPort : optLand);
-  SetText(txtCopies, std::to_wstring(printer_.PrinterCopies));
+  SetText(txtCopies, WholeText(printer_.PrinterCopies));
   SetText(lblPrinter, printer_.PrinterName);
   SetPicture(picPort, picPortrait);
   SetPicture(picLand, picLandscape);
@@ -357,7 +357,7 @@ void frmOptions::cmdOK_Click() {
   general.DateFormat = static_cast<std::int32_t>(Send(cmbDate, CB_GETCURSEL));
   general.Inches = Checked(optInches);
   general.Portrait = Checked(optPort);
-  printer.PrinterCopies = ShortNumberOf(txtCopies);
+  printer.PrinterCopies = WholeNumberOf(txtCopies, kRangeOf<std::int16_t>);
   const LRESULT row = Send(cmbLang, CB_GETCURSEL);
   if (row != CB_ERR) {
     COMBOBOXEXITEMW item{};
