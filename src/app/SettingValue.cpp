@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 #include "base/mdlFileRoutines.h"
@@ -48,8 +49,12 @@ std::optional<platform::CalendarTime> ToCalendarDay(std::wstring_view text) {
 
 NumberRead<DateValue> ToDay(std::wstring_view text) {
   const std::optional<platform::CalendarTime> day = ToCalendarDay(text);
-  if (!day || day->Year < 100 || day->Year > 9999) {
+  if (!day) {
     return {};
+  }
+  const auto order = [](const platform::CalendarTime& each) { return std::tuple(each.Year, each.Month, each.Day); };
+  if (order(*day) < order(kFirstFilterDay) || order(*day) > order(kLastFilterDay)) {
+    return {std::nullopt, true};
   }
   return {ToDateValue(*day)};
 }
@@ -98,7 +103,9 @@ struct Reader {
     return TakeWhole(Trimmed, member.Number, member.Range);
   }
   std::optional<Refusal> operator()(const DayMember& member) const {
-    return Take(ToDay(Trimmed), member.Date, [] { return std::nullopt; });
+    return Take(ToDay(Trimmed), member.Date, [] {
+      return ValueLimits{DayText(kFirstFilterDay), DayText(kLastFilterDay)};
+    });
   }
   std::optional<Refusal> operator()(const SwitchGroup& member) const {
     if (!AreDigits(Trimmed, member.Flags.size(), L'9')) {

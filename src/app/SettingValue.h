@@ -22,7 +22,7 @@ struct RangedMember {
   std::int32_t* Number;
   WholeRange Range;
 };
-/// A day without its time.
+/// A day of those that the filter takes, without its time.
 struct DayMember {
   DateValue* Date;
 };

@@ -539,6 +539,29 @@ TEST(Settings, ANumberOutOfRangeIsToldWithItsRange) {
   EXPECT_EQ(LoadWith(L"Settings", L"TextWidth", L"wide")[0].Limits, std::nullopt) << "no number";
 }
 
+TEST(Settings, ADayThatNoPickerShowsIsToldWithTheDaysThatThereAre) {
+  const ValueLimits days{L"1752/09/14", L"9999/12/31"};
+  const struct {
+    const wchar_t* value;
+    bool fits;
+    std::optional<ValueLimits> limits;
+  } rows[] = {
+      {L"1752/09/14", true, {}},    {L"1752/09/13", false, days},  {L"1500/01/01", false, days},
+      {L"1752/08/31", false, days}, {L"1753/01/01", true, {}},     {L"0001/01/01", false, days},
+      {L"9999/12/31", true, {}},    {L"10000/01/01", false, days}, {L"1999/02/29", false, {}},
+      {L"1500/13/01", false, {}},   {L"2000/02/29", true, {}},     {L"99999999999/1/1", false, {}},
+  };
+  for (const auto& row : rows) {
+    Fake().Store.clear();
+    const std::vector<BadSetting> bad = LoadWith(L"Filter", L"FilterDateMin", row.value);
+    ASSERT_EQ(bad.size(), row.fits ? 0U : 1U) << Narrow(row.value);
+    if (!row.fits) {
+      EXPECT_EQ(bad[0].Limits, row.limits) << Narrow(row.value);
+      EXPECT_EQ(Filter.DateMin, 29221) << "1980-01-01, the default";
+    }
+  }
+}
+
 TEST(Settings, ARangeStandsBelowTheMessageAboutItsSetting) {
   mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
   mdlVars::Texts.Set(static_cast<std::size_t>(Text::ValidValues), L"from %1 to %2");

@@ -135,6 +135,62 @@ TEST_F(Dialogs, TheFilterNamesASizeThatIsNoNumber) {
   Dismiss(filter, cmdCancel);
 }
 
+using FilterDates = MainWindowTest;
+
+TEST_F(FilterDates, OneThatThePickerCannotShowIsToldAtTheStart) {
+  WriteStore(L"Filter", L"FilterDateMin", L"1500/01/01");
+  WriteStore(L"Filter", L"FilterDateMax", L"2001/02/03");
+  const Program program(Argument());
+  const Window box = program.WaitForBox();
+  for (const wchar_t* const part : {L"FilterDateMin", L"1500/01/01", L"1752/09/14", L"9999/12/31"}) {
+    EXPECT_NE(box.BoxText().find(part), std::wstring::npos) << testing::PrintToString(box.BoxText());
+  }
+  box.Answer(IDOK);
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  EXPECT_EQ(filter.DayOf(DTPickMin), L"1980/01/01") << "the default, and not today";
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"1980/01/01");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMax"), L"2001/02/03");
+  Close(program, main);
+}
+
+TEST_F(FilterDates, TheFirstAndTheLastDayAreShownAndNoEarlierOne) {
+  WriteStore(L"Filter", L"FilterDateMin", L"1752/09/14");
+  WriteStore(L"Filter", L"FilterDateMax", L"9999/12/31");
+  const Program program(Argument());
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  EXPECT_EQ(filter.DayOf(DTPickMin), L"1752/09/14");
+  EXPECT_EQ(filter.DayOf(DTPickMax), L"9999/12/31");
+  filter.SetDay(DTPickMax, 1752, 9, 13);
+  EXPECT_EQ(filter.DayOf(DTPickMax), L"9999/12/31") << "the picker itself has no such day";
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"1752/09/14");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMax"), L"9999/12/31");
+  Close(program, main);
+}
+
+TEST_F(FilterDates, ALimitIsTheMidnightOfItsDay) {
+  SYSTEMTIME noon{};
+  noon.wYear = 2001;
+  noon.wMonth = 2;
+  noon.wDay = 3;
+  noon.wHour = 12;
+  scratch.File(L"Data\\Noon.txt", "1", noon);
+  const Program program(Argument());
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  filter.Click(chkDate);
+  filter.SetDay(DTPickMin, 2001, 2, 3, 23);
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"2001/02/03");
+  main.Press(cmdOK);
+  Confirm(program.WaitForBox(main), scratch / L"list.txt", 0);
+  EXPECT_EQ(program.WaitForExit(), 0U);
+  EXPECT_NE(ReadBytes(scratch / L"list.txt").find("Noon.txt"), std::string::npos) << ReadBytes(scratch / L"list.txt");
+}
+
 TEST_F(Dialogs, TheFormatShowsAPictureForEachStyle) {
   const Window format = Show(cmdFormat, 201);
   EXPECT_TRUE(format.IsChecked(optSub));
