@@ -17,7 +17,6 @@ namespace {
 constexpr wchar_t kSettings[] = L"Settings";
 constexpr wchar_t kFilter[] = L"Filter";
 constexpr wchar_t kFormat[] = L"Format";
-constexpr wchar_t kNoPrinterName[] = L"(no printer)";
 constexpr wchar_t kLastTab[] = L"LastTab";
 
 /// Which settings are saved together.
@@ -74,7 +73,7 @@ std::span<const Setting> Settings() {
       {G::General, Ex, kSettings, L"Header", L"Folivant - %d %t   %p (%g)", &general.Header},
       {G::General, Ex, kSettings, L"Footer", L"- %n -", &general.Footer},
 
-      {G::Printer, Store, kSettings, L"PrinterName", kNoPrinterName, &printer.PrinterName},
+      {G::Printer, Store, kSettings, L"PrinterName", kNoPrinter, &printer.PrinterName},
       {G::Printer, Store, kSettings, L"PrinterCopies", L"1", &printer.PrinterCopies},
       {G::Printer, Store, kSettings, L"PrinterDuplex", L"1", &printer.PrinterDuplex},
       {G::Printer, Store, kSettings, L"PrinterQuality", L"-2", &printer.PrinterQuality},
@@ -204,6 +203,10 @@ class FilterFileScope {
   FilterFileScope& operator=(const FilterFileScope&) = delete;
 };
 
+void ShowWarning(const std::wstring& text) {
+  platform::ShowMessage(text, platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+}
+
 std::wstring BadSettingText(const BadSetting& setting) {
   const Messages& texts = mdlVars::Texts;
   std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Place, setting.Key, setting.Value);
@@ -232,7 +235,7 @@ std::vector<BadSetting> LoadSettings() {
 
 void ReportBadSettings(const std::vector<BadSetting>& bad) {
   for (const BadSetting& setting : bad) {
-    platform::ShowMessage(BadSettingText(setting), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    ShowWarning(BadSettingText(setting));
   }
 }
 
@@ -281,9 +284,23 @@ void SaveLastTab(int tab) {
 
 void ResolvePrinterName() {
   std::wstring& name = mdlVars::Printer.PrinterName;
-  if (name == kNoPrinterName) {
-    name = platform::DefaultPrinterName().value_or(kNoPrinterName);
+  if (name == kNoPrinter) {
+    name = platform::DefaultPrinterName().value_or(kNoPrinter);
   }
+}
+
+bool FindPrinter() {
+  ResolvePrinterName();
+  const std::wstring& name = mdlVars::Printer.PrinterName;
+  if (platform::PrinterNames().empty()) {
+    ShowWarning(mdlVars::Texts[Text::NoPrinter]);
+    return false;
+  }
+  if (name == kNoPrinter || (name.empty() && !platform::DefaultPrinterName())) {
+    ShowWarning(mdlVars::Texts[Text::NoPrinterChosen]);
+    return false;
+  }
+  return true;
 }
 
 }  // namespace folivant

@@ -48,5 +48,7 @@ void SaveLastTab(int tab);
 /// Puts the system's default printer in place of "(no printer)". Asking the system costs more than a short listing, so
 /// it is done where a printer is first needed; without any printer the name stays.
 void ResolvePrinterName();
+/// The same, before a run to the printer: whether there is one to print on. Otherwise a message has said why not.
+bool FindPrinter();
 
 }  // namespace folivant

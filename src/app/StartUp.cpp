@@ -83,12 +83,7 @@ bool HasDestination() {
   if (mdlVars::OutputKind != OutputKind::Printer) {
     return !mdlVars::OutputFile.empty() || AskForOutputFile();
   }
-  ResolvePrinterName();
-  if (platform::PrinterNames().empty()) {
-    ShowWarning(mdlVars::Texts[Text::NoPrinter]);
-    return false;
-  }
-  return true;
+  return FindPrinter();
 }
 
 /// The run of "/g": no window, no viewer, and the stored settings stay as they are.

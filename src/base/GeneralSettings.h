@@ -33,8 +33,12 @@ struct GeneralSettings {
   std::wstring Footer;
 };
 
+/// The stored name where no printer has been chosen, the same in every language. ShownPrinterName (ui/PrinterChoice.h)
+/// is what the user reads.
+inline constexpr wchar_t kNoPrinter[] = L"(no printer)";
+
 struct PrinterSettings {
-  std::wstring PrinterName;
+  std::wstring PrinterName;  ///< kNoPrinter or, likewise, empty: the default printer
   std::int32_t PrinterCopies = 0;
   std::int32_t PrinterDuplex = 0;    ///< 1 simplex, 2 vertical, 3 horizontal
   std::int32_t PrinterQuality = 0;   ///< -1 draft to -4 high

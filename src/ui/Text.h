@@ -118,6 +118,8 @@ enum class Text : int {
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
   ValidValues = 180,         ///< follows BadSetting; %1 the lowest and %2 the highest value
   NumberOutOfRange = 181,    ///< %1 the name of the field, %2 the lowest and %3 the highest number
+  NoPrinterName = 182,       ///< stands for the name of the printer where there is none
+  NoPrinterChosen = 183,     ///< there are printers, but none is chosen and none is the default
 
   // Titles of windows
   FilterTitle = 200,

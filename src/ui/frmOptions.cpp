@@ -15,6 +15,7 @@
 #include "ui/Language.h"
 #include "ui/MarginCheck.h"
 #include "ui/PageMargins.h"
+#include "ui/PrinterChoice.h"
 #include "ui/frmBase.h"
 #include "ui/frmPrinter.h"
 
@@ -152,7 +153,7 @@ void frmOptions::Form_Load() {
   Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
   Choose({optPort, optLand}, general_.Portrait ? optPort : optLand);
   SetText(txtCopies, WholeText(printer_.PrinterCopies));
-  SetText(lblPrinter, printer_.PrinterName);
+  SetText(lblPrinter, ShownPrinterName(printer_, mdlVars::Texts));
   SetPicture(picPort, picPortrait);
   SetPicture(picLand, picLandscape);
   SetUnitLabels();
@@ -296,7 +297,7 @@ void frmOptions::cmdPrinter_Click() {
   if (platform::PrinterNames().empty()) {
     platform::ShowMessage(mdlVars::Texts[Text::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
   } else if (ShowPrinterDialog(*this, printer_)) {
-    SetText(lblPrinter, printer_.PrinterName);
+    SetText(lblPrinter, ShownPrinterName(printer_, mdlVars::Texts));
   }
 }
 

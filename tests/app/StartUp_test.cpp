@@ -25,7 +25,7 @@ class StartUp : public testing::Test {
     Tree().Dir(L"C:\\Out");
     FilterFile("");
     Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
-                "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n"
+                "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n183=None chosen.\r\n"
                 "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n");
   }
 
@@ -255,6 +255,23 @@ TEST_F(StartUp, PrintingWithoutAnyPrinterIsToldAndFails) {
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitFailed);
   ASSERT_EQ(Fake().Messages.size(), 1u);
   EXPECT_EQ(Fake().Messages[0].Text, L"No printer.");
+}
+
+// The words of "Cannot print" are for printers that fail; here there is none that could.
+TEST_F(StartUp, WithoutAChosenAndADefaultPrinterThatIsToldAndFails) {
+  Session().Printers = {L"Laser"};
+  Session().HasDefaultPrinter = false;
+  for (const wchar_t* const name : {L"(no printer)", L""}) {
+    Fake().Messages.clear();
+    Store(L"PrinterName", name);
+    EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitFailed);
+    ASSERT_EQ(Fake().Messages.size(), 1U);
+    EXPECT_EQ(Fake().Messages[0].Text, L"None chosen.");
+  }
+  Fake().Messages.clear();
+  Store(L"PrinterName", L"Laser");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitDone);
+  EXPECT_TRUE(Fake().Messages.empty());
 }
 
 TEST_F(StartUp, AFileRunDoesNotAskForThePrinter) {
