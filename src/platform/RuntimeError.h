@@ -31,12 +31,13 @@ class RuntimeError : public std::exception {
   const std::wstring& Object() const { return object_; }
   const std::wstring& SystemText() const { return systemText_; }
   std::uint32_t SystemCode() const { return systemCode_; }
-  /// Whether the user broke off printing in a window of the system's own, such as the file name that a PDF printer asks
-  /// for: nobody needs to be told.
+  /// Whether the user broke it off in a window of the system's own, such as the one in which a PDF printer asks for a
+  /// file name or that in which a program asks for an administrator: nobody needs to be told.
   bool EndedByUser() const {
     constexpr std::uint32_t kCancelled = 1223;
     constexpr std::uint32_t kPrintCancelled = 63;
-    return action_ == FailedAction::Print && (systemCode_ == kCancelled || systemCode_ == kPrintCancelled);
+    const bool asks = action_ == FailedAction::Print || action_ == FailedAction::StartProgram;
+    return asks && (systemCode_ == kCancelled || systemCode_ == kPrintCancelled);
   }
 
  private:

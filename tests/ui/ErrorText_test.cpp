@@ -58,11 +58,11 @@ TEST(ErrorText, IsShownWithAnExclamationMark) {
   EXPECT_EQ(fakes::Fake().Messages[0].Buttons, platform::BoxButtons::Ok);
 }
 
-TEST(ErrorText, APrintThatTheUserBrokeOffIsNotTold) {
-  fakes::Fake().Messages.clear();
+TEST(ErrorText, WhatTheUserBrokeOffIsNotTold) {
   for (const std::uint32_t code : {1223U, 63U}) {
     ShowError(RuntimeError(FailedAction::Print, L"PDF", L"Cancelled.", code), English());
   }
+  ShowError(RuntimeError(FailedAction::StartProgram, L"viewer.exe", L"Cancelled.", 1223), English());
   EXPECT_TRUE(fakes::Fake().Messages.empty());
   ShowError(RuntimeError(FailedAction::Print, L"PDF", L"Access denied.", 5), English());
   ShowError(RuntimeError(FailedAction::WriteFile, L"PDF", L"Cancelled.", 1223), English());
