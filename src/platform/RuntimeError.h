@@ -1,5 +1,6 @@
-// The one exception of the program. It is thrown where a failure is seen and caught at the edge of an event handler or
-// of a command-line run, where ErrorText (ui/ErrorText.h) turns it into the sentence that the user reads.
+// The exception with which the program reports a failure. It is thrown where the failure is seen and caught at the edge
+// of an event handler or of a command-line run, where ErrorText (ui/ErrorText.h) turns it into the sentence that the
+// user reads. Exceptions of libraries have no such sentence: their words are for developers.
 #pragma once
 
 #include <cstdint>
@@ -17,12 +18,13 @@ enum class FailedAction {
   Print,
   StartProgram,
   ReadWindow,  ///< the list of another program's window
+  OpenWindow,  ///< one of the program's own; it has no object
 };
 
 class RuntimeError : public std::exception {
  public:
-  /// `object` is the full file name, setting or printer that the action was tried on; `systemText` and `systemCode` are
-  /// the operating system's own words and number, empty and 0 when the system was not involved.
+  /// `object` is the full file name, setting, printer or window that the action was tried on; `systemText` and
+  /// `systemCode` are the operating system's own words and number, empty and 0 when the system was not involved.
   RuntimeError(FailedAction action, std::wstring object, std::wstring systemText, std::uint32_t systemCode)
       : action_(action), object_(std::move(object)), systemText_(std::move(systemText)), systemCode_(systemCode) {}
 

@@ -68,7 +68,7 @@ void frmBase::ShowProblem(const std::exception& problem) noexcept {
       ShowError(problem, mdlVars::Texts);
     }
   } catch (const std::exception&) {
-    // Out of memory while telling so: the window stays, which is all that can be done.
+    // No memory even for telling: the window stays, which is all that can be done.
   }
 }
 

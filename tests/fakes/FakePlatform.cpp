@@ -127,6 +127,7 @@ StoreSection::StoreSection(const std::wstring& section)
 StoreSection::~StoreSection() = default;
 
 std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
+  Fake().OnStoreRead();
   const auto found = Fake().Store.find({state_->Name, key});
   return !state_->IsThere || found == Fake().Store.end() ? std::nullopt : std::optional(found->second);
 }

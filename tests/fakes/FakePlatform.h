@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -55,6 +56,7 @@ struct FakePlatform {
   // Stores: section and key to value
   std::map<std::pair<std::wstring, std::wstring>, std::wstring> Store;
   std::optional<FakeFailure> FailStoreWrites;
+  std::function<void()> OnStoreRead = [] {};  ///< called before each value is read; what it throws comes out of it
 
   // Files: failures by full path, as it is given to the call
   std::map<std::wstring, FakeFailure> FailReads;

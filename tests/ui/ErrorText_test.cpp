@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <stdexcept>
+#include <vector>
+
 #include "fakes/FakePlatform.h"
 
 namespace folivant {
@@ -9,7 +13,7 @@ namespace {
 
 Messages English() {
   Messages texts;
-  for (std::size_t number = 160; number <= 168; ++number) {
+  for (std::size_t number = 160; number <= 186; ++number) {
     texts.Set(number, std::to_wstring(number) + L" \"%1\": %2 (%3)");
   }
   return texts;
@@ -35,6 +39,32 @@ TEST(ErrorText, ShowsTheFactsWhenTheTextIsMissing) {
             L"**161** \"C:\\a\": Gone. (2)");
 }
 
+TEST(ErrorText, AWindowOfTheProgramItselfHasNoName) {
+  Messages texts;
+  const RuntimeError error(FailedAction::OpenWindow, {}, L"Not enough storage.", 8);
+  texts.Set(186, L"**186**");
+  EXPECT_EQ(ErrorText(error, texts), L"**186**: Not enough storage. (8)");
+  texts.Set(186, L"Cannot open a window: %2 (%3)");
+  EXPECT_EQ(ErrorText(error, texts), L"Cannot open a window: Not enough storage. (8)");
+}
+
+// Words of libraries are for developers.
+TEST(ErrorText, ALibrarysExceptionHasTheProgramsOwnWords) {
+  ShowError(std::length_error("basic_string::_M_create"), English());
+  ShowError(std::out_of_range("vector::_M_range_check"), English());
+  ShowError(std::exception(), English());
+  ShowError(std::bad_alloc(), English());
+  ShowError(std::bad_array_new_length(), English());
+  std::vector<std::wstring> shown;
+  for (const fakes::ShownMessage& message : fakes::Fake().Messages) {
+    shown.push_back(message.Text);
+    EXPECT_EQ(message.Icon, platform::BoxIcon::Exclamation);
+  }
+  const std::wstring unexpected = L"184 \"%1\": %2 (%3)";
+  const std::wstring noMemory = L"185 \"%1\": %2 (%3)";
+  EXPECT_EQ(shown, (std::vector{unexpected, unexpected, unexpected, noMemory, noMemory}));
+}
+
 TEST(ErrorText, HasOneTextForEachAction) {
   const struct {
     FailedAction action;
@@ -43,7 +73,7 @@ TEST(ErrorText, HasOneTextForEachAction) {
       {FailedAction::CreateFile, L"160 \"x\": no (5)"}, {FailedAction::ReadFile, L"161 \"x\": no (5)"},
       {FailedAction::WriteFile, L"162 \"x\": no (5)"},  {FailedAction::WriteSetting, L"165 \"x\": no (5)"},
       {FailedAction::Print, L"166 \"x\": no (5)"},      {FailedAction::StartProgram, L"167 \"x\": no (5)"},
-      {FailedAction::ReadWindow, L"168 \"x\": no (5)"},
+      {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::OpenWindow, L"186 \"x\": no (5)"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ErrorText(RuntimeError(row.action, L"x", L"no", 5), English()), row.expected);
