@@ -2,6 +2,7 @@
 // resets it, and the run-wide records of mdlVars, before each test; a test needs no fixture for that.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -69,6 +70,7 @@ struct FakePlatform {
   // Message boxes: an answer is taken from Answers for each box, in order; when there is none, Ok, No or Cancel.
   std::vector<ShownMessage> Messages;
   std::deque<platform::BoxAnswer> Answers;
+  std::array<wchar_t, 40> LastMessage{};  ///< the beginning of the last one, kept without memory of its own
 
   platform::UserLocale Locale{L",", L".", L"/"};
 
