@@ -126,7 +126,7 @@ struct Reader {
   }
   std::optional<Refusal> operator()(OutputTarget* member) const {
     std::int32_t code = -1;
-    const std::optional<Refusal> refusal = TakeWhole(Trimmed, &code, {});
+    std::optional<Refusal> refusal = TakeWhole(Trimmed, &code, {});
     if (code >= 0 && code <= static_cast<std::int32_t>(OutputTarget::Screen)) {
       *member = static_cast<OutputTarget>(code);
     }
