@@ -100,7 +100,8 @@ struct Reader {
     return Take(ReadFraction<float>(Trimmed, NumberSource::Stored), member, SingleLimits);
   }
   std::optional<Refusal> operator()(const RangedMember& member) const {
-    return TakeWhole(Trimmed, member.Number, member.Range);
+    return Take(ReadWhole(Trimmed, NumberSource::Stored, member.Range), member.Number,
+                [&member] { return LimitsAsStored(member.ToldRange); });
   }
   std::optional<Refusal> operator()(const DayMember& member) const {
     return Take(ToDay(Trimmed), member.Date, [] {

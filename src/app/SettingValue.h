@@ -21,6 +21,7 @@ namespace folivant {
 struct RangedMember {
   std::int32_t* Number;
   WholeRange Range;
+  WholeRange ToldRange;  ///< as a message names it
 };
 /// A day of those that the filter takes, without its time.
 struct DayMember {

@@ -51,7 +51,8 @@ std::span<const Setting> Settings() {
   ListingFormat& format = mdlVars::Format;
   static const std::vector<Setting> settings = {
       {G::General, Store, kSettings, L"TextViewer", L"notepad.exe", &general.TextViewer},
-      {G::General, Store, kSettings, L"TextWidth", L"80", RangedMember{&general.TextWidth, kTextWidths}},
+      {G::General, Store, kSettings, L"TextWidth", L"80",
+       RangedMember{&general.TextWidth, kReadableTextWidths, kTextWidths}},
       {G::General, Store, kSettings, L"TextHeight", L"26", &general.TextHeight},
       {G::General, Store, kSettings, L"DateFormat", L"5", &general.DateFormat},
       {G::General, Store, kSettings, L"Inches", L"False", &general.Inches},

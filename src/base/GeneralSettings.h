@@ -9,8 +9,10 @@
 namespace folivant {
 
 /// Of lines in text listings, in characters: a name is padded to what the other columns leave, and each row would carry
-/// that. Numbers below 0 work like 0.
-inline constexpr WholeRange kTextWidths{kRangeOf<std::int32_t>.Lowest, 9'999};
+/// that.
+inline constexpr WholeRange kTextWidths{0, 9'999};
+/// Numbers below 0 work like 0 and are kept as they are; no message names them.
+inline constexpr WholeRange kReadableTextWidths{kRangeOf<std::int32_t>.Lowest, kTextWidths.Highest};
 
 struct GeneralSettings {
   std::wstring TextViewer;

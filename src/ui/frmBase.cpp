@@ -26,8 +26,8 @@ std::int32_t frmBase::WholeNumberOf(int control, WholeRange range) const {
                   [range] { return LimitsAsTyped(range); });
 }
 
-std::int32_t frmBase::LeadingWholeNumberOf(int control, WholeRange range) const {
-  return NumberIn(control, ReadLeadingWhole(TextOf(control), range), [range] { return LimitsAsTyped(range); });
+std::int32_t frmBase::LeadingWholeNumberOf(int control, WholeRange range, WholeRange told) const {
+  return NumberIn(control, ReadLeadingWhole(TextOf(control), range), [told] { return LimitsAsTyped(told); });
 }
 
 float frmBase::SingleOf(int control) const {

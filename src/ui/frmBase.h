@@ -68,8 +68,9 @@ class frmBase : public platform::Dialog {
   void ReadField(int control, std::wstring& value) const { value = TextOf(control); }
   void ReadField(int control, std::int32_t& value) const { value = WholeNumberOf(control); }
   void ReadField(int control, float& value) const { value = SingleOf(control); }
-  /// Of a field in which only the beginning has to be a number. Throws FieldError where that is outside the range.
-  std::int32_t LeadingWholeNumberOf(int control, WholeRange range) const;
+  /// Of a field in which only the beginning has to be a number. Throws FieldError where that is outside `range`, with
+  /// `told` for the message.
+  std::int32_t LeadingWholeNumberOf(int control, WholeRange range, WholeRange told) const;
 
  protected:
   template <class Record>
@@ -107,10 +108,10 @@ inline constexpr auto Edits = Field<decltype(RecordOf(Member))>{
     [](const frmBase& form, int control, auto& record) { form.ReadField(control, record.*Member); }};
 
 /// A whole number of which only the beginning has to be one: "80 characters" is 80, "wide" is 0.
-template <auto Member, WholeRange Range = WholeRange{}>
+template <auto Member, WholeRange Range = WholeRange{}, WholeRange Told = Range>
 inline constexpr auto EditsLeadingNumber =
     Field<decltype(RecordOf(Member))>{Edits<Member>.Fill, [](const frmBase& form, int control, auto& record) {
-                                        record.*Member = form.LeadingWholeNumberOf(control, Range);
+                                        record.*Member = form.LeadingWholeNumberOf(control, Range, Told);
                                       }};
 
 template <class Record>

@@ -28,7 +28,7 @@ constexpr Binding<General> kBindings[] = {
     {txtViewer, Text::Viewer, Edits<&General::TextViewer>},
     {cmdBrowse, Text::Browse},
     {fraPage, Text::TextPage},
-    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth, kTextWidths>},
+    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth, kReadableTextWidths, kTextWidths>},
     {lblChars, Text::Characters},
     {txtHeight, Text::Height, EditsLeadingNumber<&General::TextHeight>},
     {lblLines, Text::Lines},

@@ -521,8 +521,8 @@ TEST(Settings, ANumberOutOfRangeIsToldWithItsRange) {
     const wchar_t* value;
     ValueLimits limits;
   } rows[] = {
-      {L"Settings", L"TextWidth", L"10000", {L"-2147483648", L"9999"}},
-      {L"Settings", L"TextWidth", L"99999999999", {L"-2147483648", L"9999"}},
+      {L"Settings", L"TextWidth", L"10000", {L"0", L"9999"}},
+      {L"Settings", L"TextWidth", L"99999999999", {L"0", L"9999"}},
       {L"Settings", L"TextHeight", L"2147483648", {L"-2147483648", L"2147483647"}},
       {L"Settings", L"FontSize", L"40000", {L"-32768", L"32767"}},
       {L"Settings", L"Format", L"-32769", {L"-32768", L"32767"}},
@@ -568,7 +568,7 @@ TEST(Settings, ARangeStandsBelowTheMessageAboutItsSetting) {
   ReportBadSettings(LoadWith(L"Settings", L"TextWidth", L"12000"));
   ASSERT_EQ(Fake().Messages.size(), 1U);
   EXPECT_EQ(Fake().Messages[0].Text,
-            L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Settings|TextWidth|12000\r\nfrom -2147483648 to 9999");
+            L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Settings|TextWidth|12000\r\nfrom 0 to 9999");
   EXPECT_EQ(General.TextWidth, 80) << "the default";
 }
 

@@ -329,8 +329,7 @@ TEST_F(Dialogs, TheOptionsNameAMarginOrCopiesThatAreNoNumber) {
 TEST_F(Dialogs, AWidthThatNoLineHasIsToldWithTheWidthsThatThereAre) {
   const Window options = Show(cmdOptions, 204);
   options.SetText(txtWidth, L"10,000 characters");
-  EXPECT_EQ(ExpectFieldProblem(options, txtWidth, L"Width"),
-            L"Type a number from -2,147,483,648 to 9,999 for \"Width\".");
+  EXPECT_EQ(ExpectFieldProblem(options, txtWidth, L"Width"), L"Type a number from 0 to 9,999 for \"Width\".");
   options.SetText(txtWidth, L"9,999 characters");
   Dismiss(options, cmdOK);
   EXPECT_EQ(ReadStore(L"Settings", L"TextWidth"), L"9999");

@@ -77,6 +77,10 @@ struct Run {
   const char* Settings;
   const wchar_t* Letter;
 };
+/// The name of its test.
+void PrintTo(const Run& run, std::ostream* out) {
+  *out << std::string(run.Settings).substr(0, 8) << static_cast<char>(run.Letter[0]);
+}
 
 /// What a run gave: its file, or what is on paper.
 std::string ListingOf(const Run& run) {
