@@ -1,74 +1,23 @@
 #include "app/SettingValue.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <limits>
-#include <optional>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 #include "base/mdlFileRoutines.h"
-#include "platform/Locale.h"
 #include "platform/Text.h"
 
 namespace folivant {
 namespace {
 
-/// The text as plain characters for the standard conversions; nothing when it holds any other.
-std::optional<std::string> Plain(std::wstring_view text) {
-  std::string plain;
-  for (const wchar_t c : text) {
-    if (c < L' ' || c > L'~') {
-      return std::nullopt;
-    }
-    plain += static_cast<char>(c);
-  }
-  return plain;
-}
-
-template <class Number>
-std::optional<Number> ToNumber(std::wstring_view text) {
-  const std::optional<std::string> plain = Plain(text);
-  if (!plain) {
-    return std::nullopt;
-  }
-  const char* const first = plain->data() + (plain->starts_with('+') ? 1 : 0);
-  const char* const last = plain->data() + plain->size();
-  Number number{};
-  const auto [end, error] = std::from_chars(first, last, number);
-  return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
-}
-
-/// The user's decimal separator or a point, so that a filter file from another country is read as it was meant.
-template <class Number>
-std::optional<Number> ToFraction(const std::wstring& text) {
-  const auto number = ToNumber<Number>(ReplaceAll(text, platform::Locale().DecimalSeparator, L"."));
-  return number && std::isfinite(*number) ? number : std::nullopt;
-}
-
-std::optional<bool> ToFlag(const std::wstring& text) {
+NumberRead<bool> ToFlag(const std::wstring& text) {
   const std::wstring lower = platform::ToLower(text);
   if (lower == L"true" || lower == L"false") {
-    return lower == L"true";
+    return {lower == L"true"};
   }
-  const auto number = ToFraction<double>(text);
-  return number ? std::optional(*number != 0) : std::nullopt;
-}
-
-/// A fraction is rounded, halves to even, as in the text boxes.
-template <class Whole>
-std::optional<Whole> ToWhole(const std::wstring& text) {
-  const auto number = ToFraction<double>(text);
-  const double rounded = std::nearbyint(number.value_or(std::numeric_limits<double>::quiet_NaN()));
-  const bool fits = rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max();
-  return fits ? std::optional(static_cast<Whole>(rounded)) : std::nullopt;
-}
-
-std::wstring SingleText(float number) {
-  char buffer[32];
-  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, number);
-  return ReplaceAll(std::wstring(buffer, end), L".", platform::Locale().DecimalSeparator);
+  const NumberRead<double> number = ReadFraction<double>(text, NumberSource::Stored);
+  return number.Value ? NumberRead<bool>{*number.Value != 0} : NumberRead<bool>{};
 }
 
 int DaysOf(int year, int month) {
@@ -77,16 +26,8 @@ int DaysOf(int year, int month) {
   return kDays[month - 1] + (month == 2 && leap ? 1 : 0);
 }
 
-/// Takes the leading digits off `text`.
-std::optional<int> TakeNumber(std::wstring_view& text) {
-  const std::size_t count = std::min(text.find_first_not_of(L"0123456789"), text.size());
-  const auto number = ToNumber<int>(text.substr(0, count));
-  text.remove_prefix(count);
-  return number;
-}
-
 /// Year, month and day with any one character between them.
-std::optional<DateValue> ToDay(std::wstring_view text) {
+std::optional<platform::CalendarTime> ToCalendarDay(std::wstring_view text) {
   platform::CalendarTime day;
   for (int* const part : {&day.Year, &day.Month, &day.Day}) {
     if (part != &day.Year) {
@@ -95,25 +36,31 @@ std::optional<DateValue> ToDay(std::wstring_view text) {
       }
       text.remove_prefix(1);
     }
-    const std::optional<int> number = TakeNumber(text);
+    const std::optional<std::int32_t> number = TakeDigits(text);
     if (!number) {
       return std::nullopt;
     }
     *part = *number;
   }
-  const bool valid = text.empty() && day.Year >= 100 && day.Year <= 9999 && day.Month >= 1 && day.Month <= 12 &&
-                     day.Day >= 1 && day.Day <= DaysOf(day.Year, day.Month);
-  return valid ? std::optional(ToDateValue(day)) : std::nullopt;
+  const bool isDay =
+      text.empty() && day.Month >= 1 && day.Month <= 12 && day.Day >= 1 && day.Day <= DaysOf(day.Year, day.Month);
+  return isDay ? std::optional(day) : std::nullopt;
 }
 
-std::wstring Padded(int number, std::size_t width) {
-  const std::wstring digits = std::to_wstring(number);
-  return std::wstring(width - std::min(width, digits.size()), L'0') + digits;
+NumberRead<DateValue> ToDay(std::wstring_view text) {
+  const std::optional<platform::CalendarTime> day = ToCalendarDay(text);
+  if (!day) {
+    return {};
+  }
+  const auto order = [](const platform::CalendarTime& each) { return std::tuple(each.Year, each.Month, each.Day); };
+  if (order(*day) < order(kFirstFilterDay) || order(*day) > order(kLastFilterDay)) {
+    return {std::nullopt, true};
+  }
+  return {ToDateValue(*day)};
 }
 
-std::wstring DayText(DateValue date) {
-  const platform::CalendarTime day = ToCalendarTime(date);
-  return Padded(day.Year, 4) + L'/' + Padded(day.Month, 2) + L'/' + Padded(day.Day, 2);
+std::wstring DayText(const platform::CalendarTime& day) {
+  return PaddedText(day.Year, 4) + L'/' + PaddedText(day.Month, 2) + L'/' + PaddedText(day.Day, 2);
 }
 
 /// Whether the first `count` characters are digits up to `highest`; what follows them is not looked at.
@@ -122,52 +69,77 @@ bool AreDigits(const std::wstring& text, std::size_t count, wchar_t highest) {
                                              [highest](wchar_t c) { return c >= L'0' && c <= highest; });
 }
 
-template <class Value, class Target>
-bool Take(const std::optional<Value>& value, Target* target) {
-  if (value) {
-    *target = static_cast<Target>(*value);
+constexpr Refusal kNoValue{};
+
+template <class Value, class Target, class Limits>
+std::optional<Refusal> Take(const NumberRead<Value>& read, Target* target, Limits limits) {
+  if (!read.Value) {
+    return read.OutOfRange ? Refusal{limits()} : kNoValue;
   }
-  return value.has_value();
+  *target = static_cast<Target>(*read.Value);
+  return std::nullopt;
+}
+
+template <class Target>
+std::optional<Refusal> TakeWhole(std::wstring_view text, Target* target, WholeRange range) {
+  return Take(ReadWhole(text, NumberSource::Stored, range), target, [range] { return LimitsAsStored(range); });
 }
 
 struct Reader {
   const std::wstring& Text;
   const std::wstring Trimmed = Trim(Text);
 
-  bool operator()(std::wstring* member) const { return *member = Text, true; }
-  bool operator()(bool* member) const { return Take(ToFlag(Trimmed), member); }
-  bool operator()(float* member) const { return Take(ToFraction<float>(Trimmed), member); }
-  bool operator()(const DayMember& member) const { return Take(ToDay(Trimmed), member.Date); }
-  bool operator()(const SwitchGroup& member) const {
+  std::optional<Refusal> operator()(std::wstring* member) const {
+    *member = Text;
+    return std::nullopt;
+  }
+  std::optional<Refusal> operator()(bool* member) const {
+    return Take(ToFlag(Trimmed), member, [] { return std::nullopt; });
+  }
+  std::optional<Refusal> operator()(float* member) const {
+    return Take(ReadFraction<float>(Trimmed, NumberSource::Stored), member, SingleLimits);
+  }
+  std::optional<Refusal> operator()(const RangedMember& member) const {
+    return Take(ReadWhole(Trimmed, NumberSource::Stored, member.Range), member.Number,
+                [&member] { return LimitsAsStored(member.ToldRange); });
+  }
+  std::optional<Refusal> operator()(const DayMember& member) const {
+    return Take(ToDay(Trimmed), member.Date, [] {
+      return ValueLimits{DayText(kFirstFilterDay), DayText(kLastFilterDay)};
+    });
+  }
+  std::optional<Refusal> operator()(const SwitchGroup& member) const {
     if (!AreDigits(Trimmed, member.Flags.size(), L'9')) {
-      return false;
+      return kNoValue;
     }
     for (std::size_t i = 0; i < member.Flags.size(); ++i) {
       *member.Flags[i] = Trimmed[i] != L'0';
     }
-    return true;
+    return std::nullopt;
   }
-  bool operator()(std::array<AttributeChoice, 5>* member) const {
+  std::optional<Refusal> operator()(std::array<AttributeChoice, 5>* member) const {
     if (!AreDigits(Trimmed, member->size(), L'2')) {
-      return false;
+      return kNoValue;
     }
     std::transform(Trimmed.begin(), Trimmed.begin() + 5, member->begin(),
                    [](wchar_t c) { return static_cast<AttributeChoice>(c - L'0'); });
-    return true;
+    return std::nullopt;
   }
-  bool operator()(OutputTarget* member) const {
-    const auto code = ToWhole<std::int32_t>(Trimmed);
-    if (code && *code >= 0 && *code <= static_cast<std::int32_t>(OutputTarget::Screen)) {
-      *member = static_cast<OutputTarget>(*code);
+  std::optional<Refusal> operator()(OutputTarget* member) const {
+    std::int32_t code = -1;
+    std::optional<Refusal> refusal = TakeWhole(Trimmed, &code, {});
+    if (code >= 0 && code <= static_cast<std::int32_t>(OutputTarget::Screen)) {
+      *member = static_cast<OutputTarget>(code);
     }
-    return code.has_value();  // another code leaves the destination as it was
+    return refusal;  // another code leaves the destination as it was
   }
+  /// Whole numbers, and codes of which any number of their width is one.
   template <class Number>
-  bool operator()(Number* member) const {  // whole numbers, and codes of which any number of their width is one
+  std::optional<Refusal> operator()(Number* member) const {
     if constexpr (std::is_enum_v<Number>) {
-      return Take(ToWhole<std::underlying_type_t<Number>>(Trimmed), member);
+      return TakeWhole(Trimmed, member, kRangeOf<std::underlying_type_t<Number>>);
     } else {
-      return Take(ToWhole<Number>(Trimmed), member);
+      return TakeWhole(Trimmed, member, kRangeOf<Number>);
     }
   }
 };
@@ -176,7 +148,8 @@ struct Writer {
   std::wstring operator()(const std::wstring* member) const { return *member; }
   std::wstring operator()(const bool* member) const { return *member ? L"True" : L"False"; }
   std::wstring operator()(const float* member) const { return SingleText(*member); }
-  std::wstring operator()(const DayMember& member) const { return DayText(*member.Date); }
+  std::wstring operator()(const RangedMember& member) const { return WholeText(*member.Number); }
+  std::wstring operator()(const DayMember& member) const { return DayText(ToCalendarTime(*member.Date)); }
   std::wstring operator()(const SwitchGroup& member) const {
     std::wstring digits;
     for (const bool* flag : member.Flags) {
@@ -193,13 +166,13 @@ struct Writer {
   }
   template <class Number>
   std::wstring operator()(const Number* member) const {
-    return std::to_wstring(static_cast<std::int32_t>(*member));
+    return WholeText(static_cast<std::int32_t>(*member));
   }
 };
 
 }  // namespace
 
-bool ReadMember(const SettingMember& member, const std::wstring& text) {
+std::optional<Refusal> ReadMember(const SettingMember& member, const std::wstring& text) {
   return std::visit(Reader{text}, member);
 }
 

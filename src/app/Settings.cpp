@@ -17,7 +17,6 @@ namespace {
 constexpr wchar_t kSettings[] = L"Settings";
 constexpr wchar_t kFilter[] = L"Filter";
 constexpr wchar_t kFormat[] = L"Format";
-constexpr wchar_t kNoPrinterName[] = L"(no printer)";
 constexpr wchar_t kLastTab[] = L"LastTab";
 
 /// Which settings are saved together.
@@ -52,7 +51,8 @@ std::span<const Setting> Settings() {
   ListingFormat& format = mdlVars::Format;
   static const std::vector<Setting> settings = {
       {G::General, Store, kSettings, L"TextViewer", L"notepad.exe", &general.TextViewer},
-      {G::General, Store, kSettings, L"TextWidth", L"80", &general.TextWidth},
+      {G::General, Store, kSettings, L"TextWidth", L"80",
+       RangedMember{&general.TextWidth, kReadableTextWidths, kTextWidths}},
       {G::General, Store, kSettings, L"TextHeight", L"26", &general.TextHeight},
       {G::General, Store, kSettings, L"DateFormat", L"5", &general.DateFormat},
       {G::General, Store, kSettings, L"Inches", L"False", &general.Inches},
@@ -74,7 +74,7 @@ std::span<const Setting> Settings() {
       {G::General, Ex, kSettings, L"Header", L"Folivant - %d %t   %p (%g)", &general.Header},
       {G::General, Ex, kSettings, L"Footer", L"- %n -", &general.Footer},
 
-      {G::Printer, Store, kSettings, L"PrinterName", kNoPrinterName, &printer.PrinterName},
+      {G::Printer, Store, kSettings, L"PrinterName", kNoPrinter, &printer.PrinterName},
       {G::Printer, Store, kSettings, L"PrinterCopies", L"1", &printer.PrinterCopies},
       {G::Printer, Store, kSettings, L"PrinterDuplex", L"1", &printer.PrinterDuplex},
       {G::Printer, Store, kSettings, L"PrinterQuality", L"-2", &printer.PrinterQuality},
@@ -152,8 +152,8 @@ void Load(const SettingsStore& store, const Setting& setting, std::vector<BadSet
     return;
   }
   const StoredText stored = ReadSetting(store, setting);
-  if (!ReadMember(setting.Member, stored.Text)) {
-    bad.push_back({store.PlaceOf(setting.Section), stored.Key, stored.Value});
+  if (const std::optional<Refusal> refusal = ReadMember(setting.Member, stored.Text)) {
+    bad.push_back({store.PlaceOf(setting.Section), stored.Key, stored.Value, refusal->Limits});
     ReadMember(setting.Member, DefaultOf(setting));
   }
 }
@@ -204,6 +204,19 @@ class FilterFileScope {
   FilterFileScope& operator=(const FilterFileScope&) = delete;
 };
 
+void ShowWarning(const std::wstring& text) {
+  platform::ShowMessage(text, platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+}
+
+std::wstring BadSettingText(const BadSetting& setting) {
+  const Messages& texts = mdlVars::Texts;
+  std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Place, setting.Key, setting.Value);
+  if (setting.Limits) {
+    text += L"\r\n" + WithPlaceholders(texts[Text::ValidValues], setting.Limits->Lowest, setting.Limits->Highest);
+  }
+  return text;
+}
+
 std::vector<BadSetting> LoadFrom(const std::wstring& filterFile) {
   const FilterFileScope scope(filterFile);
   return LoadSettings();
@@ -223,8 +236,7 @@ std::vector<BadSetting> LoadSettings() {
 
 void ReportBadSettings(const std::vector<BadSetting>& bad) {
   for (const BadSetting& setting : bad) {
-    platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::BadSetting], setting.Place, setting.Key, setting.Value),
-                          platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    ShowWarning(BadSettingText(setting));
   }
 }
 
@@ -268,14 +280,28 @@ int LoadLastTab() {
 }
 
 void SaveLastTab(int tab) {
-  SettingsStore().SaveStoreSetting(kSettings, kLastTab, std::to_wstring(tab));
+  SettingsStore().SaveStoreSetting(kSettings, kLastTab, WholeText(tab));
 }
 
 void ResolvePrinterName() {
   std::wstring& name = mdlVars::Printer.PrinterName;
-  if (name == kNoPrinterName) {
-    name = platform::DefaultPrinterName().value_or(kNoPrinterName);
+  if (name == kNoPrinter) {
+    name = platform::DefaultPrinterName().value_or(kNoPrinter);
   }
+}
+
+bool FindPrinter() {
+  ResolvePrinterName();
+  const std::wstring& name = mdlVars::Printer.PrinterName;
+  if (platform::PrinterNames().empty()) {
+    ShowWarning(mdlVars::Texts[Text::NoPrinter]);
+    return false;
+  }
+  if (name == kNoPrinter || (name.empty() && !platform::DefaultPrinterName())) {
+    ShowWarning(mdlVars::Texts[Text::NoPrinterChosen]);
+    return false;
+  }
+  return true;
 }
 
 }  // namespace folivant

@@ -3,8 +3,11 @@
 // All of it works on the records of mdlVars. While mdlVars::UseFilterFile is raised the filter file is read or written.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "base/Numbers.h"
 
 namespace folivant {
 
@@ -13,6 +16,7 @@ struct BadSetting {
   std::wstring Place;  ///< the filter file, or the store's name
   std::wstring Key;
   std::wstring Value;
+  std::optional<ValueLimits> Limits;  ///< what it would have to lie between, when it is a number or a day
 };
 
 /// Everything, in the order general, printer, filter, style, columns, path, destination. A value that does not convert
@@ -44,5 +48,7 @@ void SaveLastTab(int tab);
 /// Puts the system's default printer in place of "(no printer)". Asking the system costs more than a short listing, so
 /// it is done where a printer is first needed; without any printer the name stays.
 void ResolvePrinterName();
+/// The same, before a run to the printer: whether there is one to print on. Otherwise a message has said why not.
+bool FindPrinter();
 
 }  // namespace folivant

@@ -83,12 +83,7 @@ bool HasDestination() {
   if (mdlVars::OutputKind != OutputKind::Printer) {
     return !mdlVars::OutputFile.empty() || AskForOutputFile();
   }
-  ResolvePrinterName();
-  if (platform::PrinterNames().empty()) {
-    ShowWarning(mdlVars::Texts[Text::NoPrinter]);
-    return false;
-  }
-  return true;
+  return FindPrinter();
 }
 
 /// The run of "/g": no window, no viewer, and the stored settings stay as they are.
@@ -127,13 +122,30 @@ Ending ParseCommandLine(const std::wstring& line) {
   return command.Go ? Ending(RunAtOnce()) : std::nullopt;
 }
 
-/// The texts of messages depend on a setting, so bad settings are reported once the language is there.
-void LoadSettingsAndLanguage() {
-  const std::vector<BadSetting> bad = LoadSettings();
+/// The language of the settings, or English while they have none.
+void LoadTexts() {
   const std::wstring folder = platform::ProgramFolder();
   mdlVars::HelpFile = LoadLanguage(folder, mdlVars::General.Language, mdlVars::Texts);
   mdlVars::ManualFile = ManualFile(folder, mdlVars::General.Language);
+}
+
+/// The texts of messages depend on a setting, so bad settings are reported once the language is there.
+void LoadSettingsAndLanguage() {
+  const std::vector<BadSetting> bad = LoadSettings();
+  LoadTexts();
   ReportBadSettings(bad);
+}
+
+/// What failed may have been in the way of the texts. Where there is no memory even for telling, the exit status tells.
+void TellFailure(const std::exception& failure) noexcept {
+  try {
+    if (!mdlVars::Texts.AreLoaded()) {
+      LoadTexts();
+    }
+    ShowError(failure, mdlVars::Texts);
+  } catch (const std::exception&) {
+    // Nothing is left to try.
+  }
 }
 
 int StartWindow() {
@@ -147,11 +159,11 @@ int StartWindow() {
 }  // namespace
 
 int Start(const std::wstring& commandLine) {
-  if (commandLine == L"/deletesendto") {
-    DeleteSendTo();
-    return kExitDone;
-  }
   try {
+    if (commandLine == L"/deletesendto") {
+      DeleteSendTo();
+      return kExitDone;
+    }
     RecreateSendTo();
     LoadSettingsAndLanguage();
     if (const Ending ending = ParseCommandLine(commandLine)) {
@@ -159,7 +171,7 @@ int Start(const std::wstring& commandLine) {
     }
     return StartWindow();
   } catch (const std::exception& error) {
-    ShowError(error, mdlVars::Texts);
+    TellFailure(error);
     return kExitFailed;
   }
 }

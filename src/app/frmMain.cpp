@@ -273,12 +273,12 @@ void frmMain::cmdSave_Click() {
   }
 }
 
-/// False when the user cancels.
+/// False when the user cancels, or when there is no printer, which has been told then.
 bool frmMain::ChooseDestination() {
   switch (GetOutputTo()) {
     case OutputTarget::Printer:
       mdlVars::OutputKind = OutputKind::Printer;
-      return true;
+      return FindPrinter();
     case OutputTarget::File: {
       CDTextfile dialog(Window());
       if (!ChooseOutputFile(dialog, mdlVars::Texts, file_)) {

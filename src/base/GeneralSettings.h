@@ -4,7 +4,15 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Numbers.h"
+
 namespace folivant {
+
+/// Of lines in text listings, in characters: a name is padded to what the other columns leave, and each row would carry
+/// that.
+inline constexpr WholeRange kTextWidths{0, 9'999};
+/// Numbers below 0 work like 0 and are kept as they are; no message names them.
+inline constexpr WholeRange kReadableTextWidths{kRangeOf<std::int32_t>.Lowest, kTextWidths.Highest};
 
 struct GeneralSettings {
   std::wstring TextViewer;
@@ -27,8 +35,12 @@ struct GeneralSettings {
   std::wstring Footer;
 };
 
+/// The stored name where no printer has been chosen, the same in every language. ShownPrinterName (ui/PrinterChoice.h)
+/// is what the user reads.
+inline constexpr wchar_t kNoPrinter[] = L"(no printer)";
+
 struct PrinterSettings {
-  std::wstring PrinterName;
+  std::wstring PrinterName;  ///< kNoPrinter or, likewise, empty: the default printer
   std::int32_t PrinterCopies = 0;
   std::int32_t PrinterDuplex = 0;    ///< 1 simplex, 2 vertical, 3 horizontal
   std::int32_t PrinterQuality = 0;   ///< -1 draft to -4 high

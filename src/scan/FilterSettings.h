@@ -19,6 +19,11 @@ enum class AttributeChoice : std::int16_t { MustNotHave = 0, MustHave = 1, DoNot
 /// The order of FilterSettings::Attributes and of the stored digits.
 enum AttributeIndex : std::size_t { kAttrArchive, kAttrReadOnly, kAttrHidden, kAttrSystem, kAttrDirectory };
 
+/// The days that a date limit can be. The date picker shows no others: its calendar begins where Britain's became
+/// today's, and Windows counts no year beyond.
+inline constexpr platform::CalendarTime kFirstFilterDay{1752, 9, 14};
+inline constexpr platform::CalendarTime kLastFilterDay{9999, 12, 31};
+
 struct FilterSettings {
   bool NameOn = false;
   bool SizeOn = false;

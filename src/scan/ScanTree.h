@@ -70,7 +70,7 @@ struct ScanTree {
   /// Totals and flags to zero, for the start of a run.
   void ResetTotals();
   /// Empties the collections, for the end of a run.
-  void ReleaseLists();
+  void ReleaseLists() noexcept;
 };
 
 }  // namespace folivant

@@ -155,21 +155,20 @@ class frmFilter final : public frmBase {
   }
 
   void SetDate(int picker, DateValue date) {
-    const platform::CalendarTime time = ToCalendarTime(date);
+    const platform::CalendarTime day = ToCalendarTime(date);
     SYSTEMTIME shown{};
-    shown.wYear = static_cast<WORD>(time.Year);
-    shown.wMonth = static_cast<WORD>(time.Month);
-    shown.wDay = static_cast<WORD>(time.Day);
-    shown.wHour = static_cast<WORD>(time.Hour);
-    shown.wMinute = static_cast<WORD>(time.Minute);
-    shown.wSecond = static_cast<WORD>(time.Second);
+    shown.wYear = static_cast<WORD>(day.Year);
+    shown.wMonth = static_cast<WORD>(day.Month);
+    shown.wDay = static_cast<WORD>(day.Day);
     Send(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&shown));
   }
 
+  /// The midnight of the day that is shown. A picker that shows days alone has a time of day all the same, the last one
+  /// that it was given or that of its making.
   DateValue DateOf(int picker) const {
     SYSTEMTIME shown{};
     Send(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&shown));
-    return ToDateValue({shown.wYear, shown.wMonth, shown.wDay, shown.wHour, shown.wMinute, shown.wSecond});
+    return ToDateValue({shown.wYear, shown.wMonth, shown.wDay});
   }
 
   /// A size that does not convert is asked for again, also when its part was switched off.

@@ -1,6 +1,6 @@
 #include "ui/ErrorText.h"
 
-#include <string_view>
+#include <new>
 
 #include "platform/MessageBox.h"
 #include "ui/Language.h"
@@ -27,9 +27,11 @@ Text TextOf(FailedAction action) {
     case FailedAction::UseFont:
       return Text::FontDoesNotFit;
     case FailedAction::ReadWindow:
+      return Text::CannotReadWindow;
+    case FailedAction::OpenWindow:
       break;
   }
-  return Text::CannotReadWindow;
+  return Text::CannotOpenWindow;
 }
 
 /// The system's words come with a line break at their end.
@@ -38,12 +40,17 @@ std::wstring WithoutEnd(std::wstring text, const wchar_t* end) {
   return text;
 }
 
+void Show(const std::wstring& text) {
+  platform::ShowMessage(text, platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+}
+
 }  // namespace
 
 std::wstring ErrorText(const RuntimeError& error, const Messages& texts) {
   std::wstring sentence = texts[TextOf(error.Action())];
-  if (sentence.find(L"%1") == sentence.npos) {  // without a language file the facts are shown all the same
-    sentence += L" \"%1\": %2 (%3)";
+  if (sentence.find(L"%1") == sentence.npos &&
+      sentence.find(L"%2") == sentence.npos) {  // without a language file the facts are shown all the same
+    sentence += error.Object().empty() ? L": %2 (%3)" : L" \"%1\": %2 (%3)";
   }
   const std::size_t systemsWords = sentence.find(L"%2");
   if (error.SystemText().empty() && error.SystemCode() == 0 && systemsWords != sentence.npos) {
@@ -58,9 +65,13 @@ void ShowError(const std::exception& error, const Messages& texts) {
   if (known != nullptr && known->EndedByUser()) {
     return;
   }
-  const std::string_view words = error.what();
-  platform::ShowMessage(known != nullptr ? ErrorText(*known, texts) : std::wstring(words.begin(), words.end()),
-                        platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+  if (known != nullptr) {
+    Show(ErrorText(*known, texts));
+  } else if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+    Show(texts[Text::OutOfMemory]);  // as it stands in the table: there may be no memory for a copy
+  } else {
+    Show(texts[Text::UnexpectedError]);
+  }
 }
 
 }  // namespace folivant

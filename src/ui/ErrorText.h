@@ -1,4 +1,4 @@
-// The one place where a RuntimeError becomes the sentence that the user reads.
+// The one place where an exception becomes the sentence that the user reads.
 #pragma once
 
 #include <exception>
@@ -11,8 +11,9 @@ namespace folivant {
 
 /// Cannot write "D:\list.txt": The disk is full. (112)
 std::wstring ErrorText(const RuntimeError& error, const Messages& texts);
-/// Shows it in a message box, unless the user ended the action. Of another exception, such as memory that has run out,
-/// its own words are all there is.
+/// Shows it in a message box, unless the user ended the action. Memory that has run out has a text of its own, for
+/// which nothing is allocated here; every other exception is a mistake of the program and has one text, because the
+/// words of a library say nothing to a user.
 void ShowError(const std::exception& error, const Messages& texts);
 
 }  // namespace folivant

@@ -1,5 +1,6 @@
 #include "ui/Language.h"
 
+#include "base/Numbers.h"
 #include "base/ProfileFile.h"
 #include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
@@ -42,16 +43,10 @@ std::wstring HelpFileOf(const std::wstring& folder, const std::wstring& language
   return platform::PathExists(own) ? own : folder + kDefaultHelp;
 }
 
-/// The leading digits; 0 where there are none.
-std::int32_t LeadingNumber(const std::wstring& text) {
-  std::int32_t number = 0;
-  for (const wchar_t c : text) {
-    if (c < L'0' || c > L'9' || number > 99'999) {
-      break;
-    }
-    number = number * 10 + (c - L'0');
-  }
-  return number;
+/// The number that the text begins with; 0 where it cannot be the position of a picture.
+std::int32_t FlagOf(const std::wstring& text) {
+  constexpr WholeRange kPositions{0, 9'999};
+  return ReadLeadingWhole(text, kPositions).Value.value_or(0);
 }
 
 }  // namespace
@@ -76,8 +71,7 @@ std::vector<LanguageEntry> ListLanguages(const std::wstring& programFolder) {
     const ProfileFile file = ReadableOrEmpty(AddBackslash(programFolder) + name);
     const std::wstring language = StripNulls(file.Read(kSection, L"Language", kNoLanguage, kLongestName));
     if (language != kNoLanguage) {
-      languages.push_back(
-          {name, language, LeadingNumber(StripNulls(file.Read(kSection, L"Flag", L"0", kLongestName)))});
+      languages.push_back({name, language, FlagOf(StripNulls(file.Read(kSection, L"Flag", L"0", kLongestName)))});
     }
   }
   return languages;

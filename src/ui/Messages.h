@@ -16,6 +16,8 @@ class Messages {
   const std::wstring& operator[](Text number) const { return texts_[static_cast<std::size_t>(number)]; }
   /// For windows whose captions are consecutive numbers.
   const std::wstring& operator[](std::size_t number) const { return texts_.at(number); }
+  /// Whether a language has been loaded, to its end: texts are set in the order of their numbers.
+  bool AreLoaded() const { return !texts_.back().empty(); }
   void Set(std::size_t number, std::wstring text) { texts_.at(number) = std::move(text); }
 
  private:

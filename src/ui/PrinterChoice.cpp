@@ -17,6 +17,10 @@ int PositionAmong(int entries, std::int32_t position) {
 
 }  // namespace
 
+const std::wstring& ShownPrinterName(const PrinterSettings& settings, const Messages& texts) {
+  return settings.PrinterName == kNoPrinter ? texts[Text::NoPrinterName] : settings.PrinterName;
+}
+
 PrinterChoice ChoiceFor(const PrinterSettings& settings, const std::vector<std::wstring>& printers) {
   const auto printer = std::find(printers.begin(), printers.end(), settings.PrinterName);
   PrinterChoice choice;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/GeneralSettings.h"
+#include "ui/Messages.h"
 
 namespace folivant {
 
@@ -17,6 +18,9 @@ struct PrinterChoice {
   int PaperBin = kNothingChosen;  ///< upper, lower, middle, manual
   int Duplex = kNothingChosen;    ///< simplex, vertical, horizontal
 };
+
+/// The chosen printer as the user reads it: where there is none, the language's words for that. Lives as long as both.
+const std::wstring& ShownPrinterName(const PrinterSettings& settings, const Messages& texts);
 
 /// A printer that is not among `printers`, letter by letter, and a number that no entry stands for choose nothing.
 PrinterChoice ChoiceFor(const PrinterSettings& settings, const std::vector<std::wstring>& printers);

@@ -118,6 +118,13 @@ enum class Text : int {
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
   MarginsLeaveNoRoom = 187,  ///< %1 the four margins
   FontDoesNotFit = 188,      ///< %1 font and size
+  ValidValues = 180,         ///< follows BadSetting; %1 the lowest and %2 the highest value
+  NumberOutOfRange = 181,    ///< %1 the name of the field, %2 the lowest and %3 the highest number
+  NoPrinterName = 182,       ///< stands for the name of the printer where there is none
+  NoPrinterChosen = 183,     ///< there are printers, but none is chosen and none is the default
+  UnexpectedError = 184,     ///< a mistake of the program; whatever was done is not complete
+  OutOfMemory = 185,
+  CannotOpenWindow = 186,  ///< a window of the program itself; without %1
 
   // Titles of windows
   FilterTitle = 200,

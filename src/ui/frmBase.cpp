@@ -1,7 +1,5 @@
 #include "ui/frmBase.h"
 
-#include <limits>
-
 #include "app/mdlVars.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
@@ -10,29 +8,30 @@
 #include "ui/Language.h"
 
 namespace folivant {
+namespace {
 
-std::int32_t frmBase::WholeNumberOf(int control) const {
-  const auto number = ParseWholeNumber(TextOf(control));
-  if (!number) {
-    throw FieldError(control);
+/// The number that stands in `control`, or what is wrong with it.
+template <class Number, class Limits>
+Number NumberIn(int control, const NumberRead<Number>& read, Limits limits) {
+  if (!read.Value) {
+    throw FieldError(control, read.OutOfRange ? std::optional<ValueLimits>(limits()) : std::nullopt);
   }
-  return *number;
+  return *read.Value;
+}
+
+}  // namespace
+
+std::int32_t frmBase::WholeNumberOf(int control, WholeRange range) const {
+  return NumberIn(control, ReadWhole(TextOf(control), NumberSource::Typed, range),
+                  [range] { return LimitsAsTyped(range); });
+}
+
+std::int32_t frmBase::LeadingWholeNumberOf(int control, WholeRange range, WholeRange told) const {
+  return NumberIn(control, ReadLeadingWhole(TextOf(control), range), [told] { return LimitsAsTyped(told); });
 }
 
 float frmBase::SingleOf(int control) const {
-  const auto number = ParseSingle(TextOf(control));
-  if (!number) {
-    throw FieldError(control);
-  }
-  return *number;
-}
-
-std::int16_t frmBase::ShortNumberOf(int control) const {
-  const std::int32_t number = WholeNumberOf(control);
-  if (number < std::numeric_limits<std::int16_t>::min() || number > std::numeric_limits<std::int16_t>::max()) {
-    throw FieldError(control);
-  }
-  return static_cast<std::int16_t>(number);
+  return NumberIn(control, ReadFraction<float>(TextOf(control), NumberSource::Typed), SingleLimits);
 }
 
 void frmBase::SetCaption(int control, Text caption) {
@@ -41,6 +40,13 @@ void frmBase::SetCaption(int control, Text caption) {
 
 std::wstring frmBase::FieldNameOf(int control) const {
   return FieldName(TextOf(Has(LABEL_OF(control)) ? LABEL_OF(control) : control));
+}
+
+std::wstring frmBase::ProblemOf(const FieldError& error) const {
+  const std::wstring field = FieldNameOf(error.Control());
+  const std::optional<ValueLimits>& limits = error.Limits();
+  return limits ? WithPlaceholders(mdlVars::Texts[Text::NumberOutOfRange], field, limits->Lowest, limits->Highest)
+                : WithPlaceholders(mdlVars::Texts[Text::NotANumber], field);
 }
 
 void frmBase::ShowHelp() {
@@ -55,15 +61,14 @@ void frmBase::ShowProblem(const std::exception& problem) noexcept {
   try {
     if (const auto* field = dynamic_cast<const FieldError*>(&problem)) {
       const int control = field->Control();
-      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::NotANumber], FieldNameOf(control)),
-                            platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+      platform::ShowMessage(ProblemOf(*field), platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
       ShowField(control);
       SetFocusTo(control);
     } else {
       ShowError(problem, mdlVars::Texts);
     }
   } catch (const std::exception&) {
-    // Out of memory while telling so: the window stays, which is all that can be done.
+    // No memory even for telling: the window stays, which is all that can be done.
   }
 }
 

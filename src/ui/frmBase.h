@@ -3,9 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
+#include <utility>
 
+#include "base/Numbers.h"
 #include "platform/win32/Dialog.h"
 #include "res/Controls.h"
 #include "ui/FieldText.h"
@@ -39,11 +42,15 @@ struct NoRecord {};
 /// What was typed into a control does not convert.
 class FieldError final : public std::exception {
  public:
-  explicit FieldError(int control) : control_(control) {}
+  /// `limits` where a number was typed that the field does not take.
+  explicit FieldError(int control, std::optional<ValueLimits> limits = {})
+      : control_(control), limits_(std::move(limits)) {}
   int Control() const { return control_; }
+  const std::optional<ValueLimits>& Limits() const { return limits_; }
 
  private:
   int control_;
+  std::optional<ValueLimits> limits_;
 };
 
 /// A dialog that speaks the user's language.
@@ -55,12 +62,15 @@ class frmBase : public platform::Dialog {
   // FieldError where the text does not convert.
   void FillField(int control, bool value) { SetChecked(control, value); }
   void FillField(int control, const std::wstring& value) { SetText(control, value); }
-  void FillField(int control, std::int32_t value) { SetText(control, std::to_wstring(value)); }
+  void FillField(int control, std::int32_t value) { SetText(control, WholeText(value)); }
   void FillField(int control, float value) { SetText(control, SingleText(value)); }
   void ReadField(int control, bool& value) const { value = Checked(control); }
   void ReadField(int control, std::wstring& value) const { value = TextOf(control); }
   void ReadField(int control, std::int32_t& value) const { value = WholeNumberOf(control); }
   void ReadField(int control, float& value) const { value = SingleOf(control); }
+  /// Of a field in which only the beginning has to be a number. Throws FieldError where that is outside `range`, with
+  /// `told` for the message.
+  std::int32_t LeadingWholeNumberOf(int control, WholeRange range, WholeRange told) const;
 
  protected:
   template <class Record>
@@ -72,14 +82,16 @@ class frmBase : public platform::Dialog {
   void Read(std::span<const Binding<Record>> table, Record& record) const;
 
   /// The number typed into `control`. Throws FieldError.
-  std::int32_t WholeNumberOf(int control) const;
-  std::int16_t ShortNumberOf(int control) const;
+  std::int32_t WholeNumberOf(int control, WholeRange range = {}) const;
   float SingleOf(int control) const;
   void SetCaption(int control, Text caption);
   /// How a message calls the field.
   std::wstring FieldNameOf(int control) const;
   /// Brings a field into view before it gets the focus; for windows with pages.
   virtual void ShowField(int) {}
+
+  /// The sentence about what was typed.
+  std::wstring ProblemOf(const FieldError& error) const;
 
   void ShowHelp() override;
   /// A FieldError names the field and moves the focus to it; everything else is shown as its sentence.
@@ -96,10 +108,10 @@ inline constexpr auto Edits = Field<decltype(RecordOf(Member))>{
     [](const frmBase& form, int control, auto& record) { form.ReadField(control, record.*Member); }};
 
 /// A whole number of which only the beginning has to be one: "80 characters" is 80, "wide" is 0.
-template <auto Member>
+template <auto Member, WholeRange Range = WholeRange{}, WholeRange Told = Range>
 inline constexpr auto EditsLeadingNumber =
     Field<decltype(RecordOf(Member))>{Edits<Member>.Fill, [](const frmBase& form, int control, auto& record) {
-                                        record.*Member = LeadingWholeNumber(form.TextOf(control));
+                                        record.*Member = form.LeadingWholeNumberOf(control, Range, Told);
                                       }};
 
 template <class Record>

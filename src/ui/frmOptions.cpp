@@ -19,6 +19,7 @@
 #include "ui/Language.h"
 #include "ui/MarginCheck.h"
 #include "ui/PageMargins.h"
+#include "ui/PrinterChoice.h"
 #include "ui/frmBase.h"
 #include "ui/frmPrinter.h"
 
@@ -31,7 +32,7 @@ constexpr Binding<General> kBindings[] = {
     {txtViewer, Text::Viewer, Edits<&General::TextViewer>},
     {cmdBrowse, Text::Browse},
     {fraPage, Text::TextPage},
-    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth>},
+    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth, kReadableTextWidths, kTextWidths>},
     {lblChars, Text::Characters},
     {txtHeight, Text::Height, EditsLeadingNumber<&General::TextHeight>},
     {lblLines, Text::Lines},
@@ -156,8 +157,8 @@ void frmOptions::Form_Load() {
   Fill<General>(kBindings, general_);
   Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
   Choose({optPort, optLand}, general_.Portrait ? optPort : optLand);
-  SetText(txtCopies, std::to_wstring(printer_.PrinterCopies));
-  SetText(lblPrinter, printer_.PrinterName);
+  SetText(txtCopies, WholeText(printer_.PrinterCopies));
+  SetText(lblPrinter, ShownPrinterName(printer_, mdlVars::Texts));
   SetPicture(picPort, picPortrait);
   SetPicture(picLand, picLandscape);
   SetUnitLabels();
@@ -301,7 +302,7 @@ void frmOptions::cmdPrinter_Click() {
   if (platform::PrinterNames().empty()) {
     platform::ShowMessage(mdlVars::Texts[Text::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
   } else if (ShowPrinterDialog(*this, printer_)) {
-    SetText(lblPrinter, printer_.PrinterName);
+    SetText(lblPrinter, ShownPrinterName(printer_, mdlVars::Texts));
   }
 }
 
@@ -380,7 +381,7 @@ void frmOptions::cmdOK_Click() {
   general.DateFormat = static_cast<std::int32_t>(Send(cmbDate, CB_GETCURSEL));
   general.Inches = Checked(optInches);
   general.Portrait = Checked(optPort);
-  printer.PrinterCopies = ShortNumberOf(txtCopies);
+  printer.PrinterCopies = WholeNumberOf(txtCopies, kRangeOf<std::int16_t>);
   const LRESULT row = Send(cmbLang, CB_GETCURSEL);
   if (row != CB_ERR) {
     COMBOBOXEXITEMW item{};

@@ -488,6 +488,97 @@ TEST(Settings, AMarginFromAnotherCountryIsReadAsItWasMeant) {
   EXPECT_EQ(General.MarginLeft, 12.5F);
 }
 
+TEST(Settings, AMarginWithACommaIsReadAsItWasMeantWhereThePointIsUsual) {
+  FilterFile("MarginLeft=12,5\r\nMarginTop=0,7\r\n");
+  LoadFilterFile(kFilterFile);
+  EXPECT_EQ(General.MarginLeft, 12.5F);
+  EXPECT_EQ(General.MarginTop, 0.7F);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+// A whole number is written plain, so nothing else that looks like one is taken for it.
+TEST(Settings, AWholeNumberMeansTheSameWhateverTheLocale) {
+  for (const auto& [thousands, decimals] : {std::pair(L",", L"."), {L".", L","}, {L"\u00A0", L","}, {L"-", L"-"}}) {
+    Fake().Locale = {thousands, decimals, L"/"};
+    Fake().Store.clear();
+    EXPECT_TRUE(LoadWith(L"Settings", L"PrinterQuality", L"-4").empty());
+    EXPECT_EQ(Printer.PrinterQuality, -4);
+    EXPECT_TRUE(LoadWith(L"Filter", L"FilterSize", L"1204500").empty());
+    EXPECT_EQ(Filter.FilterSize, 1204500);
+    SaveFilterSettings();
+    EXPECT_EQ((Fake().Store[{L"Filter", L"FilterSize"}]), L"1204500");
+    for (const wchar_t* const text : {L"1.000", L"1,000"}) {
+      EXPECT_EQ(LoadWith(L"Filter", L"FilterSize", text).size(), 1U) << "neither 1 nor 1000";
+      EXPECT_EQ(Filter.FilterSize, 0) << "the default";
+    }
+  }
+}
+
+TEST(Settings, ANumberOutOfRangeIsToldWithItsRange) {
+  const struct {
+    const wchar_t* section;
+    const wchar_t* key;
+    const wchar_t* value;
+    ValueLimits limits;
+  } rows[] = {
+      {L"Settings", L"TextWidth", L"10000", {L"0", L"9999"}},
+      {L"Settings", L"TextWidth", L"99999999999", {L"0", L"9999"}},
+      {L"Settings", L"TextHeight", L"2147483648", {L"-2147483648", L"2147483647"}},
+      {L"Settings", L"FontSize", L"40000", {L"-32768", L"32767"}},
+      {L"Settings", L"Format", L"-32769", {L"-32768", L"32767"}},
+      {L"Settings", L"OutputTo", L"99999999999", {L"-2147483648", L"2147483647"}},
+      {L"Settings", L"MarginLeft", L"1e39", {L"-3.4028235e+38", L"3.4028235e+38"}},
+      {L"Filter", L"OrderBy", L"70000", {L"-32768", L"32767"}},
+  };
+  for (const auto& row : rows) {
+    Fake().Store.clear();
+    const std::vector<BadSetting> bad = LoadWith(row.section, row.key, row.value);
+    ASSERT_EQ(bad.size(), 1U) << Narrow(row.key);
+    EXPECT_EQ(bad[0].Limits, row.limits) << Narrow(row.key);
+  }
+  EXPECT_EQ(LoadWith(L"Settings", L"TextWidth", L"wide")[0].Limits, std::nullopt) << "no number";
+}
+
+TEST(Settings, ADayThatNoPickerShowsIsToldWithTheDaysThatThereAre) {
+  const ValueLimits days{L"1752/09/14", L"9999/12/31"};
+  const struct {
+    const wchar_t* value;
+    bool fits;
+    std::optional<ValueLimits> limits;
+  } rows[] = {
+      {L"1752/09/14", true, {}},    {L"1752/09/13", false, days},  {L"1500/01/01", false, days},
+      {L"1752/08/31", false, days}, {L"1753/01/01", true, {}},     {L"0001/01/01", false, days},
+      {L"9999/12/31", true, {}},    {L"10000/01/01", false, days}, {L"1999/02/29", false, {}},
+      {L"1500/13/01", false, {}},   {L"2000/02/29", true, {}},     {L"99999999999/1/1", false, {}},
+  };
+  for (const auto& row : rows) {
+    Fake().Store.clear();
+    const std::vector<BadSetting> bad = LoadWith(L"Filter", L"FilterDateMin", row.value);
+    ASSERT_EQ(bad.size(), row.fits ? 0U : 1U) << Narrow(row.value);
+    if (!row.fits) {
+      EXPECT_EQ(bad[0].Limits, row.limits) << Narrow(row.value);
+      EXPECT_EQ(Filter.DateMin, 29221) << "1980-01-01, the default";
+    }
+  }
+}
+
+TEST(Settings, ARangeStandsBelowTheMessageAboutItsSetting) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::ValidValues), L"from %1 to %2");
+  ReportBadSettings(LoadWith(L"Settings", L"TextWidth", L"12000"));
+  ASSERT_EQ(Fake().Messages.size(), 1U);
+  EXPECT_EQ(Fake().Messages[0].Text,
+            L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Settings|TextWidth|12000\r\nfrom 0 to 9999");
+  EXPECT_EQ(General.TextWidth, 80) << "the default";
+}
+
+TEST(Settings, AWidthUpToFourDigitsIsKept) {
+  for (const std::int32_t width : {9999, 0, -3}) {
+    EXPECT_TRUE(LoadWith(L"Settings", L"TextWidth", std::to_wstring(width)).empty());
+    EXPECT_EQ(General.TextWidth, width);
+  }
+}
+
 TEST(Settings, CodesWithoutAMeaningAreKept) {
   Fake().Store[{L"Filter", L"OrderBy"}] = L"9";
   EXPECT_TRUE(LoadSettings().empty());

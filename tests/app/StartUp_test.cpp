@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <stdexcept>
 
 #include "app/Settings.h"
@@ -25,7 +26,8 @@ class StartUp : public testing::Test {
     Tree().Dir(L"C:\\Out");
     FilterFile("");
     Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
-                "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n"
+                "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n183=None "
+                "chosen.\r\n13=OK\r\n184=Unexpected.\r\n185=No memory.\r\n"
                 "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n");
   }
 
@@ -257,6 +259,23 @@ TEST_F(StartUp, PrintingWithoutAnyPrinterIsToldAndFails) {
   EXPECT_EQ(Fake().Messages[0].Text, L"No printer.");
 }
 
+// The words of "Cannot print" are for printers that fail; here there is none that could.
+TEST_F(StartUp, WithoutAChosenAndADefaultPrinterThatIsToldAndFails) {
+  Session().Printers = {L"Laser"};
+  Session().HasDefaultPrinter = false;
+  for (const wchar_t* const name : {L"(no printer)", L""}) {
+    Fake().Messages.clear();
+    Store(L"PrinterName", name);
+    EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitFailed);
+    ASSERT_EQ(Fake().Messages.size(), 1U);
+    EXPECT_EQ(Fake().Messages[0].Text, L"None chosen.");
+  }
+  Fake().Messages.clear();
+  Store(L"PrinterName", L"Laser");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitDone);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
 TEST_F(StartUp, AFileRunDoesNotAskForThePrinter) {
   Session().Printers = {L"Laser"};
   Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g");
@@ -271,11 +290,26 @@ TEST_F(StartUp, AFailedRunIsToldAndFails) {
   EXPECT_EQ(Fake().OpenOutputFiles, 0);
 }
 
-TEST_F(StartUp, AnyOtherExceptionIsToldAndFailsToo) {
-  Session().SaveDialog = []() -> bool { throw std::length_error("too long"); };
+TEST_F(StartUp, AnyOtherExceptionIsToldInTheProgramsOwnWordsAndFailsToo) {
+  Session().SaveDialog = []() -> bool { throw std::length_error("basic_string::_M_create"); };
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /g"), kExitFailed);
   ASSERT_EQ(Fake().Messages.size(), 1u);
-  EXPECT_EQ(Fake().Messages[0].Text, L"too long");
+  EXPECT_EQ(Fake().Messages[0].Text, L"Unexpected.");
+}
+
+TEST_F(StartUp, MemoryThatRunsOutHasItsOwnWords) {
+  Session().SaveDialog = []() -> bool { throw std::bad_alloc(); };
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"No memory.");
+}
+
+TEST_F(StartUp, AFailureBeforeTheLanguageIsThereIsToldInEnglish) {
+  Fake().OnStoreRead = [] { throw std::logic_error("basic_string::_M_replace_aux"); };
+  EXPECT_EQ(Start(L""), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"Unexpected.");
+  EXPECT_EQ(Session().Shown, 0);
 }
 
 TEST_F(StartUp, AnUnreadableDirectoryEndsWithAStatusOfItsOwn) {

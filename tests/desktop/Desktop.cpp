@@ -252,12 +252,13 @@ std::wstring Window::DayOf(int id) const {
   return text;
 }
 
-void Window::SetDay(int id, WORD year, WORD month, WORD day) const {
+void Window::SetDay(int id, WORD year, WORD month, WORD day, WORD hour) const {
   const HWND picker = Control(id).Handle();
-  SYSTEMTIME time = ReadDay(picker);
+  SYSTEMTIME time{};
   time.wYear = year;
   time.wMonth = month;
   time.wDay = day;
+  time.wHour = hour;
   const RemoteValue<SYSTEMTIME> remote(picker);
   remote.Write(time);
   SendMessageW(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(remote.There()));

@@ -73,7 +73,8 @@ class Window {
   std::vector<std::wstring> ItemsOf(int id) const;
   /// The day of a date picker as "yyyy/mm/dd".
   std::wstring DayOf(int id) const;
-  void SetDay(int id, WORD year, WORD month, WORD day) const;
+  /// Sets the day, with a time of that day that the picker does not show.
+  void SetDay(int id, WORD year, WORD month, WORD day, WORD hour = 0) const;
   /// The text of the selected item in the tree of this window; empty while none is selected.
   std::wstring SelectedBranch() const;
   void Close() const { PostMessageW(handle_, WM_CLOSE, 0, 0); }

@@ -17,11 +17,12 @@ class Dialogs : public MainWindowTest {
     EXPECT_TRUE(dialog.WaitUntilGone());
   }
   /// Presses OK with a text that does not convert: one message that names the field, the dialog stays, and the focus
-  /// is on the field.
-  void ExpectFieldProblem(Window dialog, int field, const std::wstring& name) const {
+  /// is on the field. Returns the message.
+  std::wstring ExpectFieldProblem(Window dialog, int field, const std::wstring& name) const {
     dialog.Press(cmdOK);
     const Window box = program.WaitForBox(dialog);
-    EXPECT_NE(box.BoxText().find(name), std::wstring::npos) << testing::PrintToString(box.BoxText());
+    const std::wstring text = box.BoxText();
+    EXPECT_NE(text.find(name), std::wstring::npos) << testing::PrintToString(text);
     box.Answer(IDOK);
     EXPECT_TRUE(dialog);
     EXPECT_TRUE(WaitUntil([&] {
@@ -30,6 +31,7 @@ class Dialogs : public MainWindowTest {
       GetGUIThreadInfo(GetWindowThreadProcessId(dialog.Handle(), nullptr), &focus);
       return focus.hwndFocus == dialog.Control(field).Handle();
     })) << "the focus is on the field";
+    return text;
   }
   /// Clicks into the field: a click places the caret, while Tab selects the text of any field of any dialog.
   static void ExpectSelectedOnFocus(Window dialog, int field) {
@@ -131,6 +133,62 @@ TEST_F(Dialogs, TheFilterNamesASizeThatIsNoNumber) {
   ExpectFieldProblem(filter, txtSize, L"Size");
   EXPECT_EQ(ReadStore(L"Filter", L"FilterName"), std::nullopt) << "nothing is stored";
   Dismiss(filter, cmdCancel);
+}
+
+using FilterDates = MainWindowTest;
+
+TEST_F(FilterDates, OneThatThePickerCannotShowIsToldAtTheStart) {
+  WriteStore(L"Filter", L"FilterDateMin", L"1500/01/01");
+  WriteStore(L"Filter", L"FilterDateMax", L"2001/02/03");
+  const Program program(Argument());
+  const Window box = program.WaitForBox();
+  for (const wchar_t* const part : {L"FilterDateMin", L"1500/01/01", L"1752/09/14", L"9999/12/31"}) {
+    EXPECT_NE(box.BoxText().find(part), std::wstring::npos) << testing::PrintToString(box.BoxText());
+  }
+  box.Answer(IDOK);
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  EXPECT_EQ(filter.DayOf(DTPickMin), L"1980/01/01") << "the default, and not today";
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"1980/01/01");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMax"), L"2001/02/03");
+  Close(program, main);
+}
+
+TEST_F(FilterDates, TheFirstAndTheLastDayAreShownAndNoEarlierOne) {
+  WriteStore(L"Filter", L"FilterDateMin", L"1752/09/14");
+  WriteStore(L"Filter", L"FilterDateMax", L"9999/12/31");
+  const Program program(Argument());
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  EXPECT_EQ(filter.DayOf(DTPickMin), L"1752/09/14");
+  EXPECT_EQ(filter.DayOf(DTPickMax), L"9999/12/31");
+  filter.SetDay(DTPickMax, 1752, 9, 13);
+  EXPECT_EQ(filter.DayOf(DTPickMax), L"9999/12/31") << "the picker itself has no such day";
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"1752/09/14");
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMax"), L"9999/12/31");
+  Close(program, main);
+}
+
+TEST_F(FilterDates, ALimitIsTheMidnightOfItsDay) {
+  SYSTEMTIME noon{};
+  noon.wYear = 2001;
+  noon.wMonth = 2;
+  noon.wDay = 3;
+  noon.wHour = 12;
+  scratch.File(L"Data\\Noon.txt", "1", noon);
+  const Program program(Argument());
+  const Window main = Main(program);
+  const Window filter = Open(program, main, cmdFilter, 200);
+  filter.Click(chkDate);
+  filter.SetDay(DTPickMin, 2001, 2, 3, 23);
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterDateMin"), L"2001/02/03");
+  main.Press(cmdOK);
+  Confirm(program.WaitForBox(main), scratch / L"list.txt", 0);
+  EXPECT_EQ(program.WaitForExit(), 0U);
+  EXPECT_NE(ReadBytes(scratch / L"list.txt").find("Noon.txt"), std::string::npos) << ReadBytes(scratch / L"list.txt");
 }
 
 TEST_F(Dialogs, TheFormatShowsAPictureForEachStyle) {
@@ -263,9 +321,18 @@ TEST_F(Dialogs, TheOptionsNameAMarginOrCopiesThatAreNoNumber) {
   EXPECT_TRUE(options.Control(txtTop).IsShown()) << "its page came to the front";
   options.SetText(txtTop, L"15");
   options.SetText(txtCopies, L"40000");
-  ExpectFieldProblem(options, txtCopies, L"Copies");
+  EXPECT_EQ(ExpectFieldProblem(options, txtCopies, L"Copies"), L"Type a number from -32,768 to 32,767 for \"Copies\".");
   EXPECT_NE(ReadStore(L"Settings", L"TextViewer"), L"viewer.exe") << "nothing is stored";
   Dismiss(options, cmdCancel);
+}
+
+TEST_F(Dialogs, AWidthThatNoLineHasIsToldWithTheWidthsThatThereAre) {
+  const Window options = Show(cmdOptions, 204);
+  options.SetText(txtWidth, L"10,000 characters");
+  EXPECT_EQ(ExpectFieldProblem(options, txtWidth, L"Width"), L"Type a number from 0 to 9,999 for \"Width\".");
+  options.SetText(txtWidth, L"9,999 characters");
+  Dismiss(options, cmdOK);
+  EXPECT_EQ(ReadStore(L"Settings", L"TextWidth"), L"9999");
 }
 
 TEST_F(Dialogs, TheOptionsRememberTheirPageHoweverTheyAreClosed) {
@@ -283,6 +350,60 @@ TEST_F(Dialogs, TheOptionsRememberTheirPageHoweverTheyAreClosed) {
   options.Close();
   EXPECT_TRUE(options.WaitUntilGone());
   EXPECT_EQ(ReadStore(L"Settings", L"LastTab"), L"2");
+}
+
+/// The user's separators, of which a program learns when it starts.
+class Separators {
+ public:
+  Separators(const wchar_t* thousands, const wchar_t* decimals)
+      : thousands_(Set(LOCALE_STHOUSAND, thousands)), decimals_(Set(LOCALE_SDECIMAL, decimals)) {}
+  ~Separators() {
+    Set(LOCALE_STHOUSAND, thousands_.c_str());
+    Set(LOCALE_SDECIMAL, decimals_.c_str());
+  }
+  Separators(const Separators&) = delete;
+  Separators& operator=(const Separators&) = delete;
+
+ private:
+  /// Returns what it was before.
+  static std::wstring Set(LCTYPE which, const wchar_t* separator) {
+    wchar_t before[16] = {};
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, which, before, 16);
+    EXPECT_NE(SetLocaleInfoW(LOCALE_USER_DEFAULT, which, separator), 0);
+    return before;
+  }
+
+  std::wstring thousands_, decimals_;
+};
+
+using GermanNumbers = MainWindowTest;
+
+TEST_F(GermanNumbers, AreTypedAndShownAsTheUserWritesThem) {
+  const Separators german(L".", L",");
+  WriteStore(L"Settings", L"MarginLeft", L"12.5");
+  WriteStore(L"Settings", L"MarginRight", L"7,5");
+  const Program program(Argument());
+  const Window main = Main(program);
+  const Window options = Open(program, main, cmdOptions, 204);
+  EXPECT_EQ(options.TextOf(txtLeft), L"12,5");
+  EXPECT_EQ(options.TextOf(txtRight), L"7,5");
+  options.SetText(txtTop, L"20.5");
+  options.SetText(txtBottom, L"30,25");
+  options.SetText(txtWidth, L"1.200 Zeichen");
+  options.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Settings", L"MarginTop"), L"20,5") << "not 205";
+  EXPECT_EQ(ReadStore(L"Settings", L"MarginBottom"), L"30,25");
+  EXPECT_EQ(ReadStore(L"Settings", L"TextWidth"), L"1200");
+  const Window filter = Open(program, main, cmdFilter, 200);
+  filter.Click(chkSize);
+  filter.SetText(txtSize, L"20.5");
+  filter.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterSize"), L"20") << "not 205";
+  const Window again = Open(program, main, cmdFilter, 200);
+  again.SetText(txtSize, L"1.000");
+  again.Answer(cmdOK);
+  EXPECT_EQ(ReadStore(L"Filter", L"FilterSize"), L"1000");
+  Close(program, main);
 }
 
 TEST_F(Dialogs, TheLegendNamesEveryPlaceholder) {

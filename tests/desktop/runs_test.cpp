@@ -94,6 +94,24 @@ TEST_F(Runs, ACancelledRunToTheScreenOpensNoViewer) {
   }
 }
 
+TEST_F(Runs, AViewerThatCannotBeStartedIsNamed) {
+  const std::wstring viewer = scratch / L"no viewer.exe";
+  WriteStore(L"Settings", L"TextViewer", viewer);
+  const Program program(Argument());
+  const Window main = Main(program);
+  main.Click(optScreen);
+  main.Press(cmdOK);
+  const Window box = program.WaitForWindow(L"Folivant", main);
+  EXPECT_TRUE(box.BoxText().starts_with(L"Cannot start \"" + viewer + L"\": "))
+      << testing::PrintToString(box.BoxText());
+  EXPECT_TRUE(box.BoxText().ends_with(L" (2)")) << "the system's number for a missing file";
+  box.Answer(IDOK);
+  EXPECT_TRUE(main.StaysReady());
+  EXPECT_EQ(program.Windows().size(), 1U);
+  EXPECT_NE(ReadBytes(ScreenFile()).find("A.txt"), std::string::npos) << "the listing is there all the same";
+  Close(program, main);
+}
+
 TEST_F(Runs, WithoutExitWhenDoneTheWindowStaysOpen) {
   WriteStore(L"Settings", L"ExitWhenDone", L"False");
   const Program program(Argument());

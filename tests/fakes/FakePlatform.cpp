@@ -97,6 +97,8 @@ std::wstring FormatShortDate(int year, int month, int day) {
 }
 
 BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons, BoxDefault preset) {
+  Fake().LastMessage.fill(L'\0');
+  text.copy(Fake().LastMessage.data(), Fake().LastMessage.size() - 1);
   Fake().Messages.push_back({text, icon, buttons, preset});
   if (!Fake().Answers.empty()) {
     const BoxAnswer answer = Fake().Answers.front();
@@ -127,6 +129,7 @@ StoreSection::StoreSection(const std::wstring& section)
 StoreSection::~StoreSection() = default;
 
 std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
+  Fake().OnStoreRead();
   const auto found = Fake().Store.find({state_->Name, key});
   return !state_->IsThere || found == Fake().Store.end() ? std::nullopt : std::optional(found->second);
 }

@@ -2,8 +2,10 @@
 // resets it, and the run-wide records of mdlVars, before each test; a test needs no fixture for that.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -55,6 +57,7 @@ struct FakePlatform {
   // Stores: section and key to value
   std::map<std::pair<std::wstring, std::wstring>, std::wstring> Store;
   std::optional<FakeFailure> FailStoreWrites;
+  std::function<void()> OnStoreRead = [] {};  ///< called before each value is read; what it throws comes out of it
 
   // Files: failures by full path, as it is given to the call
   std::map<std::wstring, FakeFailure> FailReads;
@@ -67,6 +70,7 @@ struct FakePlatform {
   // Message boxes: an answer is taken from Answers for each box, in order; when there is none, Ok, No or Cancel.
   std::vector<ShownMessage> Messages;
   std::deque<platform::BoxAnswer> Answers;
+  std::array<wchar_t, 40> LastMessage{};  ///< the beginning of the last one, kept without memory of its own
 
   platform::UserLocale Locale{L",", L".", L"/"};
 

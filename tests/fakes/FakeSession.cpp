@@ -35,7 +35,7 @@ std::vector<std::wstring> PrinterNames() {
 std::optional<std::wstring> DefaultPrinterName() {
   ++fakes::Session().DefaultPrinterAsked;
   const std::vector<std::wstring>& printers = fakes::Session().Printers;
-  return printers.empty() ? std::nullopt : std::optional(printers.front());
+  return printers.empty() || !fakes::Session().HasDefaultPrinter ? std::nullopt : std::optional(printers.front());
 }
 
 }  // namespace folivant::platform

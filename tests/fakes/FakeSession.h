@@ -9,7 +9,8 @@
 namespace folivant::fakes {
 
 struct FakeSession {
-  std::vector<std::wstring> Printers;                       ///< the first one is the default printer
+  std::vector<std::wstring> Printers;                       ///< the first one is the default
+  bool HasDefaultPrinter = true;                            ///< whether one of them is the default at all
   int DefaultPrinterAsked = 0;                              ///< how often
   int Shown = 0;                                            ///< how often the main window was shown
   int ExitStatus = 0;                                       ///< what showing it returns

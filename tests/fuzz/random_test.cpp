@@ -2,12 +2,16 @@
 // same inputs on every machine. What is asserted are truths that hold for every input.
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <cmath>
 #include <random>
 
 #include "app/CommandLine.h"
 #include "app/Settings.h"
 #include "app/StartUp.h"
 #include "app/mdlVars.h"
+#include "base/Numbers.h"
+#include "base/mdlFileRoutines.h"
 #include "fakes/FakePlatform.h"
 #include "platform/ProfileText.h"
 #include "platform/RuntimeError.h"
@@ -66,6 +70,58 @@ const std::vector<std::string> kPaths = {"C:\\",
 const std::vector<std::string> kSwitches = {
     "/f",   "/d", "/t", "/o", "/g", "/", " ", "\"", "C:\\sets\\a.fvf", "C:\\Data", ".", "p", "t", "x", "/deletesendto",
     "list", "\\"};
+
+const platform::UserLocale kLocales[] = {
+    {L",", L".", L"/"}, {L".", L",", L"."}, {L"\u202F", L",", L"/"}, {L"\u2019", L".", L"."}, {L"", L"/", L"-"}};
+
+TEST(RandomNumbers, AMarginComesBackAsItWasWrittenInEveryLocale) {
+  std::mt19937 random(7);
+  for (int i = 0; i < 20'000; ++i) {
+    const auto number = std::bit_cast<float>(static_cast<std::uint32_t>(random()));
+    if (!std::isfinite(number) || std::fpclassify(number) == FP_SUBNORMAL) {
+      continue;
+    }
+    fakes::Fake().Locale = kLocales[static_cast<std::size_t>(i) % std::size(kLocales)];
+    const std::wstring text = SingleText(number);
+    EXPECT_EQ(ReadFraction<float>(text, NumberSource::Stored).Value, number) << testing::PrintToString(text);
+    EXPECT_EQ(ReadFraction<float>(text, NumberSource::Typed).Value, number) << testing::PrintToString(text);
+  }
+}
+
+// What a text box takes for a whole number of thousands is never taken for a fraction, and the other way round.
+TEST(RandomNumbers, AGroupedNumberIsReadInItsOwnLocale) {
+  Source source(8);
+  for (int i = 0; i < 20'000; ++i) {
+    fakes::Fake().Locale = kLocales[source.Below(4)];
+    const auto number = static_cast<std::int32_t>(source.Below(2'000'000'000)) - 1'000'000'000;
+    const std::wstring text = FormatGrouped(number);
+    EXPECT_EQ(ReadWhole(text, NumberSource::Typed).Value, number) << testing::PrintToString(text);
+    EXPECT_EQ(ReadLeadingWhole(text + L" x").Value, number) << testing::PrintToString(text);
+    EXPECT_EQ(ReadWhole(text, NumberSource::Stored).Value.has_value(), number > -1000 && number < 1000)
+        << testing::PrintToString(text);
+  }
+}
+
+TEST(RandomNumbers, AnyTextIsReadToAnEnd) {
+  Source source(9);
+  for (int i = 0; i < 50'000; ++i) {
+    fakes::Fake().Locale = kLocales[source.Below(std::size(kLocales))];
+    const std::wstring text =
+        source.Text({"1", "20", "345", "0", ".", ",", " ", "-", "+", "e", "'", "/", "\xA0", "9999999999"}, 12);
+    for (const NumberSource origin : {NumberSource::Stored, NumberSource::Typed}) {
+      const auto whole = ReadWhole(text, origin);
+      const auto fraction = ReadFraction<double>(text, origin);
+      EXPECT_FALSE(whole.Value && whole.OutOfRange);
+      if (whole.Value) {
+        ASSERT_TRUE(fraction.Value) << testing::PrintToString(text);
+        EXPECT_EQ(*whole.Value, std::nearbyint(*fraction.Value)) << testing::PrintToString(text);
+      }
+    }
+    if (const auto whole = ReadWhole(text, NumberSource::Typed).Value) {
+      EXPECT_EQ(ReadLeadingWhole(text).Value, whole) << testing::PrintToString(text);
+    }
+  }
+}
 
 TEST(RandomProfileText, ReadsBackWhatItWroteAndKeepsTheRest) {
   Source source(1);

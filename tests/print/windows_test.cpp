@@ -61,10 +61,10 @@ class Printers : public DesktopTest {
     WriteStore(L"Settings", L"PrinterName", L"Borders");
   }
 
-  Window OpenOptions(const Program& program) {
+  Window OpenOptions(const Program& program, const std::wstring& language = L"english.ini") {
     main = program.WaitForWindow(L"Folivant");
     main.Press(cmdOptions);
-    options = program.WaitForWindow(L"Folivant - Options");
+    options = program.WaitForWindow(Message(204, language));
     return options;
   }
   Window OpenPrinters(const Program& program) {
@@ -421,6 +421,27 @@ TEST_F(NoPrinters, MarginsMayLeaveNoRoom) {
   Page(options, txtRight).SetText(txtRight, L"500");
   Confirm();
   EXPECT_EQ(Printer(L"MarginRight"), L"500");
+}
+
+TEST_F(NoPrinters, ARunToThePrinterSaysSoInTheSameWords) {
+  const Program program(L"");
+  main = program.WaitForWindow(L"Folivant");
+  main.Click(optPrinter);
+  main.Press(cmdOK);
+  const Window box = program.WaitForBox(main);
+  EXPECT_EQ(box.BoxText(), L"No printer is installed.");
+  box.Answer(IDOK);
+  EXPECT_TRUE(main.StaysReady());
+  EXPECT_EQ(program.Windows().size(), 1u) << "no run has begun";
+}
+
+TEST_F(NoPrinters, TheOptionsShowThatInTheUsersLanguageAndStoreTheFixedName) {
+  WriteStore(L"Settings", L"Language", L"german.ini");
+  const Program program(L"");
+  OpenOptions(program, L"german.ini");
+  EXPECT_EQ(Page(options, lblPrinter).TextOf(lblPrinter), L"(kein Drucker)");
+  Confirm();
+  EXPECT_EQ(Printer(L"PrinterName"), L"(no printer)");
 }
 
 TEST_F(NoPrinters, MarginsHaveNoMinimum) {

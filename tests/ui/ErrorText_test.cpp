@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <stdexcept>
+#include <vector>
+
 #include "fakes/FakePlatform.h"
 
 namespace folivant {
@@ -42,6 +46,32 @@ TEST(ErrorText, ShowsTheFactsWhenTheTextIsMissing) {
             L"**161** \"C:\\a\": Gone. (2)");
 }
 
+TEST(ErrorText, AWindowOfTheProgramItselfHasNoName) {
+  Messages texts;
+  const RuntimeError error(FailedAction::OpenWindow, {}, L"Not enough storage.", 8);
+  texts.Set(186, L"**186**");
+  EXPECT_EQ(ErrorText(error, texts), L"**186**: Not enough storage. (8)");
+  texts.Set(186, L"Cannot open a window: %2 (%3)");
+  EXPECT_EQ(ErrorText(error, texts), L"Cannot open a window: Not enough storage. (8)");
+}
+
+// Words of libraries are for developers.
+TEST(ErrorText, ALibrarysExceptionHasTheProgramsOwnWords) {
+  ShowError(std::length_error("basic_string::_M_create"), English());
+  ShowError(std::out_of_range("vector::_M_range_check"), English());
+  ShowError(std::exception(), English());
+  ShowError(std::bad_alloc(), English());
+  ShowError(std::bad_array_new_length(), English());
+  std::vector<std::wstring> shown;
+  for (const fakes::ShownMessage& message : fakes::Fake().Messages) {
+    shown.push_back(message.Text);
+    EXPECT_EQ(message.Icon, platform::BoxIcon::Exclamation);
+  }
+  const std::wstring unexpected = L"184 \"%1\": %2 (%3)";
+  const std::wstring noMemory = L"185 \"%1\": %2 (%3)";
+  EXPECT_EQ(shown, (std::vector{unexpected, unexpected, unexpected, noMemory, noMemory}));
+}
+
 TEST(ErrorText, HasOneTextForEachAction) {
   const struct {
     FailedAction action;
@@ -52,6 +82,7 @@ TEST(ErrorText, HasOneTextForEachAction) {
       {FailedAction::Print, L"166 \"x\": no (5)"},      {FailedAction::StartProgram, L"167 \"x\": no (5)"},
       {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::UseMargins, L"187 \"x\": no (5)"},
       {FailedAction::UseFont, L"188 \"x\": no (5)"},
+      {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::OpenWindow, L"186 \"x\": no (5)"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ErrorText(RuntimeError(row.action, L"x", L"no", 5), English()), row.expected);
@@ -66,11 +97,11 @@ TEST(ErrorText, IsShownWithAnExclamationMark) {
   EXPECT_EQ(fakes::Fake().Messages[0].Buttons, platform::BoxButtons::Ok);
 }
 
-TEST(ErrorText, APrintThatTheUserBrokeOffIsNotTold) {
-  fakes::Fake().Messages.clear();
+TEST(ErrorText, WhatTheUserBrokeOffIsNotTold) {
   for (const std::uint32_t code : {1223U, 63U}) {
     ShowError(RuntimeError(FailedAction::Print, L"PDF", L"Cancelled.", code), English());
   }
+  ShowError(RuntimeError(FailedAction::StartProgram, L"viewer.exe", L"Cancelled.", 1223), English());
   EXPECT_TRUE(fakes::Fake().Messages.empty());
   ShowError(RuntimeError(FailedAction::Print, L"PDF", L"Access denied.", 5), English());
   ShowError(RuntimeError(FailedAction::WriteFile, L"PDF", L"Cancelled.", 1223), English());

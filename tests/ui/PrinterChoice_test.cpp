@@ -11,6 +11,14 @@ PrinterSettings Settings(std::wstring name, std::int32_t duplex, std::int32_t qu
   return {std::move(name), 7, duplex, quality, bin};
 }
 
+TEST(PrinterChoice, TheNameForNoPrinterIsShownInTheUsersLanguage) {
+  Messages texts;
+  texts.Set(static_cast<std::size_t>(Text::NoPrinterName), L"(kein Drucker)");
+  EXPECT_EQ(ShownPrinterName(Settings(L"(no printer)", 1, -2, 1), texts), L"(kein Drucker)");
+  EXPECT_EQ(ShownPrinterName(Settings(L"Ink", 1, -2, 1), texts), L"Ink");
+  EXPECT_EQ(ShownPrinterName(Settings(L"", 1, -2, 1), texts), L"");
+}
+
 TEST(PrinterChoice, EveryCodeHasItsEntryAndComesBack) {
   for (int quality = -1; quality >= -4; --quality) {
     for (int bin = 1; bin <= 4; ++bin) {

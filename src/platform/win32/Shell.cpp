@@ -60,6 +60,22 @@ bool Ask(HWND owner, FileDialog& dialog, DWORD flags, DialogCall call) {
   return true;
 }
 
+/// The shell's own message about a failure is left out: whoever catches the exception has one.
+void ShellOpen(HWND owner, const std::wstring& file, const wchar_t* parameters) {
+  SHELLEXECUTEINFOW data{};
+  data.cbSize = sizeof(data);
+  data.fMask = SEE_MASK_FLAG_NO_UI;
+  data.hwnd = owner;
+  data.lpVerb = L"open";
+  data.lpFile = file.c_str();
+  data.lpParameters = parameters;
+  data.nShow = SW_SHOWNORMAL;
+  if (ShellExecuteExW(&data) == FALSE) {
+    const DWORD code = GetLastError();
+    throw SystemError(FailedAction::StartProgram, file, code);
+  }
+}
+
 }  // namespace
 
 std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& title, const std::wstring& start) {
@@ -111,22 +127,12 @@ void OpenHelpFile(HWND owner, const std::wstring& file) {
 }
 
 void OpenDocument(HWND owner, const std::wstring& file) {
-  SHELLEXECUTEINFOW data{};
-  data.cbSize = sizeof(data);
-  data.fMask = SEE_MASK_FLAG_NO_UI;
-  data.hwnd = owner;
-  data.lpVerb = L"open";
-  data.lpFile = file.c_str();
-  data.nShow = SW_SHOWNORMAL;
-  if (ShellExecuteExW(&data) == FALSE) {
-    const DWORD code = GetLastError();
-    throw SystemError(FailedAction::StartProgram, file, code);
-  }
+  ShellOpen(owner, file, nullptr);
 }
 
 void OpenInProgram(HWND owner, const std::wstring& program, const std::wstring& file) {
   const std::wstring quoted = L'"' + file + L'"';
-  ShellExecuteW(owner, L"open", program.c_str(), quoted.c_str(), nullptr, SW_SHOWNORMAL);
+  ShellOpen(owner, program, quoted.c_str());
 }
 
 }  // namespace folivant::platform

@@ -38,7 +38,7 @@ bool AskForFont(HWND owner, FontChoice& font);
 void OpenHelpFile(HWND owner, const std::wstring& file);
 /// Opens a document with the program that the user has for it. Throws RuntimeError (StartProgram).
 void OpenDocument(HWND owner, const std::wstring& file);
-/// Starts a program with one file as its parameter; whether it started is not looked at.
+/// Starts a program with one file as its parameter. Throws RuntimeError (StartProgram).
 void OpenInProgram(HWND owner, const std::wstring& program, const std::wstring& file);
 
 /// Receives what is dropped on a window, for as long as it lives.

@@ -3,8 +3,7 @@
 #include <commctrl.h>
 #include <ole2.h>
 
-#include <stdexcept>
-#include <string>
+#include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
 
@@ -42,7 +41,7 @@ int DpiOf(HWND window) {
 }
 
 void ThrowNoWindow() {
-  throw std::runtime_error("A window could not be opened (" + std::to_string(GetLastError()) + ").");
+  throw SystemError(FailedAction::OpenWindow, {}, GetLastError());
 }
 
 }  // namespace folivant::platform

@@ -15,7 +15,7 @@ int SystemDpi();
 /// Dots per inch of the screen that shows `window`.
 int DpiOf(HWND window);
 
-/// After a window could not be made: throws std::runtime_error with the system's last number.
+/// On the line after a window could not be made: throws RuntimeError (OpenWindow) with the system's last number.
 [[noreturn]] void ThrowNoWindow();
 
 }  // namespace folivant::platform
