@@ -154,6 +154,27 @@ TEST_F(WindowsStore, ReadsTextOnly) {
   EXPECT_FALSE(StoreSection(section_).Read(L"Number"));
 }
 
+TEST_F(WindowsStore, ReadsTextThatOtherProgramsStoredCarelessly) {
+  WriteStore(section_, L"Key", L"1");
+  const struct {
+    std::wstring_view stored;
+    DWORD bytes;
+    const wchar_t* text;
+  } rows[] = {
+      {L"", 0, L""},          // nothing at all
+      {L"ab", 4, L"ab"},      // without its NUL
+      {L"ab", 3, L"a"},       // half a character at its end
+      {L"\0", 2, L""},        // a NUL alone
+      {L"ab\0cd", 10, L"ab"}  // more behind its NUL
+  };
+  for (const auto& row : rows) {
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str(), L"Odd", REG_SZ,
+                              row.stored.data(), row.bytes),
+              ERROR_SUCCESS);
+    EXPECT_EQ(StoreSection(section_).Read(L"Odd"), row.text) << row.bytes << " bytes";
+  }
+}
+
 TEST_F(WindowsStore, NamesSectionAndKeyOfAFailedWrite) {
   const std::wstring tooLong(300, L's');  // the registry takes 255 characters
   try {
