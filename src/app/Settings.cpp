@@ -6,6 +6,7 @@
 #include "app/SettingValue.h"
 #include "app/SettingsStore.h"
 #include "app/mdlVars.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
@@ -217,6 +218,7 @@ std::vector<BadSetting> LoadSettings() {
   for (const Setting& setting : Settings()) {
     Load(store, setting, bad);
   }
+  mdlVars::Tree.StartPath = WithBackslashes(mdlVars::Tree.StartPath);
   mdlVars::Tree.StartPathOnDisk = mdlVars::Tree.StartPath;
   return bad;
 }

@@ -33,7 +33,7 @@ bool IsFullPath(std::wstring_view line) {
 /// is not there.
 std::optional<FoundItem> ReadRow(const std::wstring& line) {
   const LongPath path = GetLongPath(line);
-  if (path.OnDisk.empty() && !IsFullPath(line)) {
+  if (path.OnDisk.empty() && !IsFullPath(WithBackslashes(line))) {
     return std::nullopt;
   }
   const std::optional<platform::FoundEntry> entry = platform::FindEntry(path.OnDisk);

@@ -73,6 +73,16 @@ TEST_F(StartUp, AStoredFindStyleStaysWhenTheStoredDirectoryIsGone) {
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::FindWindow);
 }
 
+TEST_F(StartUp, ASlashInAStoredPathSeparatesLikeABackslash) {
+  Tree().Dir(L"C:\\Data\\Deep\\Er").File(L"B.txt");
+  Store(L"Path", L"c:\\data/deep/er");
+  Start(L"");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data\\Deep\\Er");
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=4\r\nPath=C:/Data/Deep\\Er\r\nOutputTo=1\r\n");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /o C:\\Out\\list.txt /g"), kExitDone);
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\Deep\\Er\\B.txt\r\n");
+}
+
 TEST_F(StartUp, ASentDirectoryIsTheOneToList) {
   Tree().Dir(L"C:\\My Data");
   Start(L"\"C:\\My Data\"");

@@ -215,6 +215,15 @@ class StartDirectories(ExeTest):
                 names = self.paths(native=native, tree=f'{self.tree}/Script/./../Data')
                 self.assertEqual(names, ['Data\\Here.txt'])
 
+    def test_a_slash_in_a_filter_file_separates_like_a_backslash(self):
+        self.file('here.txt')
+        self.file('data/sub/here.txt')
+        for path in [f'Z:{self.tree}/data/sub', f'{windows_path(self.tree)}\\data/sub']:
+            for native in [False, True]:
+                with self.subTest(path=path, native=native):
+                    status, errors, listing = self.run_program('Format=4', f'Path={path}', native=native)
+                    self.assertEqual((status, listing), (0, windows_path(self.tree).encode() + b'\\data\\sub\\Here.txt\r\n'), errors)
+
     def test_a_share_that_is_not_there_gives_status_2(self):
         for native in [False, True]:
             with self.subTest(native=native):
@@ -255,6 +264,17 @@ class PathLists(ExeTest):
     def test_the_ansi_code_page_without_a_mark(self):
         self.file('Caf\u00e9.txt')
         self.check(f'{windows_path(self.tree)}\\Caf\u00e9.txt\n'.encode('cp1252'), ['Caf\u00e9.txt'])
+
+    def test_a_slash_separates_like_a_backslash(self):
+        tree = windows_path(self.tree)
+        self.file('f.txt', 1)
+        self.file('data/sub/f.txt', 22)
+        folder = shown_path(self.tree / 'data' / 'sub')
+        for line in [f'{tree}\\data/sub/f.txt', f'{tree}/data\\sub/f.txt', str(self.tree / 'data/sub/f.txt')]:
+            for native in [False, True]:
+                with self.subTest(line=line, native=native):
+                    full = line if ':' in line else 'Z:' + line
+                    self.assertEqual(self.rows(full.encode(), native), (0, [('F.txt', folder)]))
 
     def test_an_empty_list(self):
         self.check(b'', [])

@@ -99,6 +99,16 @@ TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
   EXPECT_EQ(NamesOf("README.TXT\r\nC:README.TXT\r\n\\Data\r\nC:\r\nx\r\nC:\\Data\\Big.bin"), (Names{L"Big.bin"}));
 }
 
+TEST_F(PathList, ASlashSeparatesLikeABackslash) {
+  Tree().Dir(L"C:\\Data").Dir(L"deep").Dir(L"er").File(L"b.doc", 1);
+  const Rows rows = Read("c:\\data/deep/er/b.doc\r\nC:/Data/deep\\b.doc");
+  ASSERT_EQ(rows.Items.size(), 2u);
+  EXPECT_EQ(rows.Items[0].Name, L"B.doc");
+  EXPECT_EQ(rows.Items[0].InFolder, L"C:\\Data\\Deep\\Er");
+  EXPECT_EQ(rows.Items[1].InFolder, L"C:\\Data\\Deep");
+  EXPECT_THROW(Read("C:/Data/gone.txt"), RuntimeError);
+}
+
 TEST_F(PathList, AnEmptyFileStillStartsTheOutput) {
   const Rows rows = Read("");
   EXPECT_EQ(rows.Lists, 1);
