@@ -140,7 +140,10 @@ StoredText ReadSetting(const SettingsStore& store, const Setting& setting) {
     return {value, key, value};
   }
   if (setting.Old.Count == 0) {
-    const std::wstring value = store.GetSettingEx(setting.Section, key, DefaultOf(setting));
+    std::wstring value = store.GetSettingEx(setting.Section, key, DefaultOf(setting));
+    if (setting.Set == Group::Path && Trim(value).empty()) {  // no path: it would lead to the root of the current drive
+      value = DefaultOf(setting);
+    }
     return {value, key, value};
   }
   const StoredText old = ReadOldKey(store, setting);

@@ -220,6 +220,18 @@ TEST(Settings, AFilterFileWithoutAPathGivesTheCurrentDirectory) {
   EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
 }
 
+TEST(Settings, AnEmptyPathCountsAsMissing) {
+  for (const char* line : {"Path=\r\n", "Path=   \r\n", "Path=\"  \"\r\n"}) {
+    mdlVars::Tree.StartPath = L"D:\\Before";
+    FilterFile(line);
+    LoadFilterFile(kFilterFile);
+    EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work") << line;
+    EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
+  }
+  EXPECT_TRUE(LoadWith(L"Settings", L"Path", L"").empty());
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
+}
+
 TEST(Settings, AMissingFilterFileGivesTheDefaultsOfWhatItCouldHold) {
   General.TextWidth = 132;
   Format.SubLevel = 7;
