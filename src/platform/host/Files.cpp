@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "platform/Utf8.h"
 #include "platform/host/Host.h"
 #include "platform/host/HostPath.h"
 

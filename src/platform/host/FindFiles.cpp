@@ -10,7 +10,7 @@
 #include <cstring>
 #include <vector>
 
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 #include "platform/host/HostPath.h"
 
 namespace folivant::platform {

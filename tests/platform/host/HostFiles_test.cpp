@@ -12,7 +12,7 @@
 #include "platform/FindFiles.h"
 #include "platform/RuntimeError.h"
 #include "platform/Scratch.h"
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 
 namespace folivant::platform {
 namespace {
