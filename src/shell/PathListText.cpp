@@ -3,24 +3,11 @@
 #include <algorithm>
 
 #include "base/mdlFileRoutines.h"
-#include "platform/Text.h"
-#include "platform/Utf8.h"
+#include "platform/TextEncoding.h"
 
 namespace folivant {
-namespace {
-
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-}  // namespace
-
 std::wstring PathListText(std::string_view bytes) {
-  if (bytes.starts_with(kUtf16Mark)) {
-    return platform::FromUtf16(bytes.substr(kUtf16Mark.size()));
-  }
-  if (bytes.starts_with(kUtf8Mark)) {
-    return platform::FromUtf8(bytes.substr(kUtf8Mark.size()));
-  }
-  return platform::FromAnsi(bytes);
+  return platform::ReadText(bytes).Text;
 }
 
 std::vector<std::wstring> LinesOf(std::wstring_view text) {

@@ -7,7 +7,7 @@
 
 namespace folivant {
 
-/// UTF-16 little-endian or UTF-8 when the bytes begin with that byte-order mark, otherwise the ANSI code page.
+/// In any encoding of TextEncoding.h.
 std::wstring PathListText(std::string_view bytes);
 /// The lines without their ends (CR LF, CR or LF) and without blanks around them.
 std::vector<std::wstring> LinesOf(std::wstring_view text);

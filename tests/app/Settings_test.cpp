@@ -7,6 +7,7 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeSession.h"
 #include "platform/RuntimeError.h"
+#include "platform/Text.h"
 
 namespace folivant {
 namespace {
@@ -292,6 +293,59 @@ TEST(Settings, ANewFilterFileIsAnsiUntilAValueNeedsMore) {
   General.Header.clear();
   LoadFilterFile(L"C:\\sets\\b.fvf");
   EXPECT_EQ(General.Header, L"\u0416");
+}
+
+std::string BigEndian(const std::wstring& text) {
+  std::string bytes = platform::ToUtf16(text);
+  for (std::size_t i = 0; i < bytes.size(); i += 2) {
+    std::swap(bytes[i], bytes[i + 1]);
+  }
+  return bytes;
+}
+
+/// A filter file of the given lines, in each encoding.
+std::vector<std::string> InEveryEncoding(const std::wstring& lines) {
+  const std::wstring text = L"[Folivant 3.5]\r\n" + lines;
+  const std::string ascii = platform::ToAnsi(text);
+  return {"; \xE9\r\n" + ascii, "; \xC3\xA9\r\n" + ascii, "\xEF\xBB\xBF" + ascii, "\xFF\xFE" + platform::ToUtf16(text),
+          "\xFE\xFF" + BigEndian(text)};
+}
+
+TEST(Settings, AFilterFileIsReadInEveryEncoding) {
+  for (const std::string& file : InEveryEncoding(L"SubLevel=3\r\n")) {
+    Tree().File(kFilterFile, file);
+    Format.SubLevel = 0;
+    LoadFilterFile(kFilterFile);
+    EXPECT_EQ(Format.SubLevel, 3) << file;
+  }
+}
+
+TEST(Settings, ASavedPathComesBackWhateverItsLettersAre) {
+  for (const wchar_t* path : {L"C:\\Work", L"C:\\Caf\u00E9", L"C:\\\u0416", L"C:\\\U0001F600", L"C:\\\u00C3\u00A9"}) {
+    Tree().Dir(path);
+    std::vector<std::string> before = InEveryEncoding(L"");
+    before.emplace_back();  // a new file
+    for (const std::string& file : before) {
+      LoadSettings();
+      Tree().File(kFilterFile, file);
+      mdlVars::Tree.StartPath = path;
+      SaveFilterFile(kFilterFile);
+      EXPECT_EQ(Fake().Content(kFilterFile).find('?'), std::string::npos);
+      mdlVars::Tree.StartPath.clear();
+      LoadFilterFile(kFilterFile);
+      EXPECT_EQ(mdlVars::Tree.StartPath, path) << Fake().Content(kFilterFile);
+    }
+  }
+}
+
+TEST(Settings, AFilterFileKeepsItsEncoding) {
+  Tree().Dir(L"C:\\\u0416");
+  LoadSettings();
+  mdlVars::Tree.StartPath = L"C:\\\u0416";
+  Tree().File(kFilterFile, "; Caf\xC3\xA9\r\n[Folivant 3.5]\r\n");
+  SaveFilterFile(kFilterFile);
+  EXPECT_TRUE(Fake().Content(kFilterFile).starts_with("; Caf\xC3\xA9\r\n[Folivant 3.5]\r\n"));
+  EXPECT_NE(Fake().Content(kFilterFile).find("\r\nPath=C:\\\xD0\x96\r\n"), std::string::npos);
 }
 
 TEST(Settings, OuterBlanksSurviveAFilterFile) {

@@ -41,9 +41,9 @@ class Source {
   std::mt19937 random_;
 };
 
-const std::vector<std::string> kProfile = {"[",   "]",         "=",   ";",     "\r\n", "\n",      "\r",
-                                           " ",   "\t",        "\"",  "'",     "a",    "B",       "key",
-                                           "Key", "[section]", "[s]", "x=1\n", "\xE9", "\xFF\xFE"};
+const std::vector<std::string> kProfile = {
+    "[", "]",   "=",   ";",         "\r\n", "\n",    "\r",   " ",        "\t",       "\"",           "'",       "a",
+    "B", "key", "Key", "[section]", "[s]",  "x=1\n", "\xE9", "\xFF\xFE", "\xFE\xFF", "\xEF\xBB\xBF", "\xC3\xA9"};
 const std::vector<std::string> kPaths = {"C:\\",
                                          "Data",
                                          "\\",
@@ -73,7 +73,7 @@ TEST(RandomProfileText, ReadsBackWhatItWroteAndKeepsTheRest) {
     const std::string bytes = source.Bytes(kProfile, 40);
     ProfileText text(bytes);
     const auto before = text.Read(L"s", L"x");
-    std::wstring value = source.Text({"a", " ", "\"", "'", "=", ";", "[", "]", "\xE9"}, 12);
+    std::wstring value = source.Text({"a", " ", "\"", "'", "=", ";", "[", "]", "\xE9", "\xC3\xA9"}, 12);
     std::erase_if(value, [](wchar_t c) { return c < L' '; });
     text.Write(L"section", L"key", value);
     EXPECT_EQ(text.Read(L"SECTION", L"KEY"), value) << bytes;

@@ -128,6 +128,18 @@ TEST(Language, Utf16FilesHoldEveryAlphabet) {
   EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"\u0416\u0141");
 }
 
+TEST(Language, Utf8AndBigEndianFilesAreReadAsWhatTheyAre) {
+  const std::string files[] = {"[Messages]\r\n0=\xD0\x96\xC5\x81\r\n",
+                               "\xEF\xBB\xBF[Messages]\r\n0=\xD0\x96\xC5\x81\r\n",
+                               std::string("\xFE\xFF\0[\0M\0e\0s\0s\0a\0g\0e\0s\0]\0\r\0\n"
+                                           "\0000\0=\x04\x16\x01\x41\0\r\0\n",
+                                           38)};
+  for (const std::string& file : files) {
+    File(L"english.ini", file);
+    EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"\u0416\u0141");
+  }
+}
+
 TEST(Language, TheHelpFileIsNamedAfterTheFileUpToItsFirstDot) {
   File(L"my.lang.ini", "[Messages]\r\n");
   File(L"my.hlp", "");
