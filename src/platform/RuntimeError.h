@@ -16,7 +16,8 @@ enum class FailedAction {
   WriteSetting,
   Print,
   StartProgram,
-  ReadWindow,  ///< the list of another program's window
+  ReadWindow,     ///< the list of another program's window
+  ReadLargeFile,  ///< a file beyond what is read whole; the limit in megabytes stands in for the system's words
 };
 
 class RuntimeError : public std::exception {

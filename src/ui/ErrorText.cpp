@@ -22,6 +22,8 @@ Text TextOf(FailedAction action) {
       return Text::CannotPrint;
     case FailedAction::StartProgram:
       return Text::CannotStartProgram;
+    case FailedAction::ReadLargeFile:
+      return Text::FileTooLarge;
     case FailedAction::ReadWindow:
       break;
   }

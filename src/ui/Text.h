@@ -116,6 +116,7 @@ enum class Text : int {
   CannotReadWindow = 168,
   OverwriteFirstLine = 169,  ///< "The file"
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
+  FileTooLarge = 172,        ///< %2 is the limit
 
   // Titles of windows
   FilterTitle = 200,

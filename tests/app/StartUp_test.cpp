@@ -26,7 +26,8 @@ class StartUp : public testing::Test {
     FilterFile("");
     Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
                 "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n"
-                "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n");
+                "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n"
+                "172=%1 is over %2 MB\r\n");
   }
 
   static void FilterFile(const std::string& lines) {
@@ -300,6 +301,14 @@ TEST_F(StartUp, AnUnreadableFilterFileIsToldAndFails) {
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /g"), kExitFailed);
   ASSERT_EQ(Fake().Messages.size(), 1u);
   EXPECT_EQ(Fake().Messages[0].Text, L"Cannot read \"C:\\sets\\a.fvf\": Access is denied. (5)");
+}
+
+TEST_F(StartUp, AFilterFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
+  FilterFile(std::string(std::size_t{16} * 1024 * 1024, ' '));
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf is over 16 MB");
+  EXPECT_FALSE(Exists(L"C:\\Out\\list.txt"));
 }
 
 TEST_F(StartUp, ABadStoredValueIsToldInTheLanguageAndTheStartGoesOn) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/InputFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Scratch.h"
 
@@ -43,6 +44,43 @@ TEST(Files, ReadsAllBytes) {
   }
   EXPECT_EQ(ReadWholeFile(scratch.MakeFile(L"big", bytes)), bytes);
   EXPECT_EQ(ReadWholeFile(scratch.MakeFile(L"empty")), "");
+}
+
+TEST(Files, ReadsNothingThatIsLargerThanALimit) {
+  const Scratch scratch;
+  const std::wstring path = scratch.MakeFile(L"large");
+  std::filesystem::resize_file(Scratch::Native(path), kLongestWholeFile);
+  EXPECT_EQ(ReadWholeFile(path).size(), kLongestWholeFile);
+  std::filesystem::resize_file(Scratch::Native(path), kLongestWholeFile + 1);
+  const RuntimeError error = ErrorOf([&] { ReadWholeFile(path); });
+  EXPECT_EQ(error.Action(), FailedAction::ReadLargeFile);
+  EXPECT_EQ(error.Object(), path);
+  EXPECT_EQ(error.SystemText(), L"16");
+}
+
+TEST(InputFile, ReadsInPiecesAndFromTheBeginningAgain) {
+  const Scratch scratch;
+  InputFile file(scratch.MakeFile(L"a.txt", "0123456789"));
+  EXPECT_EQ(file.Path(), scratch.Path(L"a.txt"));
+  std::string room(4, '-');
+  EXPECT_EQ(file.Read(room), 4U);
+  EXPECT_EQ(room, "0123");
+  EXPECT_EQ(file.Read(room), 4U);
+  EXPECT_EQ(file.Read(room), 2U);
+  EXPECT_EQ(room, "8967");
+  EXPECT_EQ(file.Read(room), 0U);
+  file.Rewind();
+  EXPECT_EQ(file.Read(room), 4U);
+  EXPECT_EQ(room, "0123");
+}
+
+TEST(InputFile, SaysWhichFileCannotBeOpened) {
+  const Scratch scratch;
+  const Inside inside(scratch.Folder());
+  const RuntimeError error = ErrorOf([] { const InputFile file(L"missing.txt"); });
+  EXPECT_EQ(error.Action(), FailedAction::ReadFile);
+  EXPECT_EQ(error.Object(), CurrentDirectory() + L"\\missing.txt");
+  EXPECT_EQ(error.SystemCode(), 2U);
 }
 
 TEST(Files, SaysWhichFileCannotBeRead) {

@@ -100,6 +100,16 @@ TEST(Language, AnUnreadableOrMalformedFileHasNoTexts) {
   EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
 }
 
+TEST(Language, AFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
+  File(L"english.ini", "[Messages]\r\n13=OK\r\n172=%1 is over %2\r\n");
+  File(L"dutch.ini", "[Messages]\r\n13=Goed\r\n" + std::string(std::size_t{16} * 1024 * 1024, ' '));
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, kFolder + L"\\dutch.ini is over 16");
+  EXPECT_TRUE(ListLanguages(kFolder).empty());
+  EXPECT_EQ(Fake().Messages.size(), 1u) << "a list of languages leaves it out, silently";
+}
+
 TEST(Language, TextsEndAfter299Characters) {
   File(L"english.ini", "[Messages]\r\n0=" + std::string(299, 'a') + "\r\n1=" + std::string(299, 'b') +
                            "c\r\n2=" + std::string(5000, 'd') + "\r\n");

@@ -78,31 +78,6 @@ class TemporaryFile {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::wstring& path) {
-  const std::wstring full = AbsolutePath(path);
-  const Descriptor file = Open(Locate(full), O_RDONLY);
-  if (!file) {
-    throw SystemError(FailedAction::ReadFile, full);
-  }
-  std::string bytes(std::size_t{64} * 1024, '\0');
-  std::size_t filled = 0;
-  for (;;) {
-    const ssize_t got = read(file.Get(), bytes.data() + filled, bytes.size() - filled);
-    if (got < 0) {
-      throw SystemError(FailedAction::ReadFile, full);
-    }
-    if (got == 0) {
-      break;
-    }
-    filled += static_cast<std::size_t>(got);
-    if (filled == bytes.size()) {
-      bytes.resize(2 * filled);
-    }
-  }
-  bytes.resize(filled);
-  return bytes;
-}
-
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
   const std::wstring full = AbsolutePath(path);
   const Place target = Locate(full);

@@ -2,7 +2,6 @@
 
 #include <shlobj.h>
 
-#include <algorithm>
 #include <array>
 
 #include "platform/win32/NativePath.h"
@@ -80,36 +79,6 @@ class TemporaryFile {
 };
 
 }  // namespace
-
-std::string ReadWholeFile(const std::wstring& path) {
-  const std::wstring full = AbsolutePath(path);
-  const OwnedFile file(CreateFileW(NativePath(full).c_str(), GENERIC_READ,
-                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                   FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  if (!file.IsOpen()) {
-    throw SystemError(FailedAction::ReadFile, full, GetLastError());
-  }
-  LARGE_INTEGER size{};
-  GetFileSizeEx(file.Get(), &size);  // what it says is a first guess: the file may be a device or may grow
-  std::string bytes(static_cast<std::size_t>(size.QuadPart) + 1, '\0');
-  std::size_t filled = 0;
-  for (;;) {
-    const DWORD room = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - filled, 1U << 30));
-    DWORD read = 0;
-    if (!::ReadFile(file.Get(), bytes.data() + filled, room, &read, nullptr)) {
-      throw SystemError(FailedAction::ReadFile, full, GetLastError());
-    }
-    if (read == 0) {
-      break;
-    }
-    filled += read;
-    if (filled == bytes.size()) {
-      bytes.resize(2 * filled);
-    }
-  }
-  bytes.resize(filled);
-  return bytes;
-}
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
   TemporaryFile file(AbsolutePath(path));
