@@ -17,6 +17,7 @@ enum class FailedAction {
   Print,
   StartProgram,
   ReadWindow,     ///< the list of another program's window
+  ListPaths,      ///< a file whose lines hold no path
   ReadLargeFile,  ///< a file beyond what is read whole; the limit in megabytes stands in for the system's words
 };
 

@@ -22,6 +22,8 @@ Text TextOf(FailedAction action) {
       return Text::CannotPrint;
     case FailedAction::StartProgram:
       return Text::CannotStartProgram;
+    case FailedAction::ListPaths:
+      return Text::NoPathInList;
     case FailedAction::ReadLargeFile:
       return Text::FileTooLarge;
     case FailedAction::ReadWindow:
@@ -43,8 +45,9 @@ std::wstring ErrorText(const RuntimeError& error, const Messages& texts) {
   if (sentence.find(L"%1") == sentence.npos) {  // without a language file the facts are shown all the same
     sentence += L" \"%1\": %2 (%3)";
   }
-  if (error.SystemText().empty() && error.SystemCode() == 0) {  // nothing to say but what could not be done
-    sentence = WithoutEnd(sentence.substr(0, sentence.find(L"%2")), L" :,(") + L'.';
+  const std::size_t system = sentence.find(L"%2");
+  if (error.SystemText().empty() && error.SystemCode() == 0 && system != sentence.npos) {
+    sentence = WithoutEnd(sentence.substr(0, system), L" :,(") + L'.';  // nothing to say but what could not be done
   }
   return WithPlaceholders(sentence, error.Object(), WithoutEnd(error.SystemText(), L" \r\n"),
                           std::to_wstring(error.SystemCode()));

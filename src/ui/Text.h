@@ -116,7 +116,8 @@ enum class Text : int {
   CannotReadWindow = 168,
   OverwriteFirstLine = 169,  ///< "The file"
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
-  FileTooLarge = 172,        ///< %2 is the limit
+  NoPathInList = 171,
+  FileTooLarge = 172,  ///< %2 is the limit
 
   // Titles of windows
   FilterTitle = 200,

@@ -27,7 +27,7 @@ class StartUp : public testing::Test {
     Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
                 "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n"
                 "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n"
-                "172=%1 is over %2 MB\r\n");
+                "171=No path in %1, none.\r\n172=%1 is over %2 MB\r\n");
   }
 
   static void FilterFile(const std::string& lines) {
@@ -309,6 +309,14 @@ TEST_F(StartUp, AFilterFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
   ASSERT_EQ(Fake().Messages.size(), 1u);
   EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf is over 16 MB");
   EXPECT_FALSE(Exists(L"C:\\Out\\list.txt"));
+}
+
+TEST_F(StartUp, AListWithoutAFullPathIsToldAndFails) {
+  Tree().File(L"C:\\Data\\list.txt", "A.txt\r\n");
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=6\r\nPath=C:\\Data\\list.txt\r\n");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"No path in C:\\Data\\list.txt, none.");
 }
 
 TEST_F(StartUp, ABadStoredValueIsToldInTheLanguageAndTheStartGoesOn) {

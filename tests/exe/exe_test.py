@@ -276,8 +276,51 @@ class PathLists(ExeTest):
                     full = line if ':' in line else 'Z:' + line
                     self.assertEqual(self.rows(full.encode(), native), (0, [('F.txt', folder)]))
 
+    def test_every_other_encoding(self):
+        tree = windows_path(self.tree)
+        self.file('Caf\u00e9.txt')
+        self.file('Two.txt')
+        text = f'{tree}\\Caf\u00e9.txt\r\n{tree}\\Two.txt'
+        for content in [text.encode(), text.encode('utf-8-sig'), ('\ufeff' + text).encode('utf-16-be')]:
+            with self.subTest(content=content[:4]):
+                self.check(content, ['Caf\u00e9.txt', 'Two.txt'])
+
+    def test_a_list_of_many_pieces(self):
+        tree = windows_path(self.tree)
+        names = [f'{"x" * (number % 60)}\u0416{number}.txt' for number in range(40)]
+        for name in names:
+            self.file(name)
+        lines = ''.join(f'{tree}\\{name}\r\n' for name in names * 50)
+        listed = ['?'.join(name.split('\u0416')) for name in names * 50]  # listings are in the ANSI code page
+        for encoding in ['utf-8', 'utf-16']:
+            content = lines.encode(encoding)
+            self.assertGreater(len(content), 2 * 65536)
+            for native in [False, True]:
+                with self.subTest(encoding=encoding, native=native):
+                    status, rows = self.rows(content, native)
+                    self.assertEqual((status, [name.lower() for name, _ in rows]), (0, listed))
+
+    def test_quotes_tabs_and_blanks_around_a_line(self):
+        tree = windows_path(self.tree)
+        self.file('One.txt')
+        self.file('Two.txt')
+        self.file('Odd ')
+        lines = f'"{tree}\\One.txt"\r\n\t {tree}\\Two.txt \t\r\n \t"{tree}\\Odd "\t'
+        self.check(lines.encode(), ['One.txt', 'Two.txt', 'Odd'])  # a row's name loses its outer blanks
+
     def test_an_empty_list(self):
-        self.check(b'', [])
+        for content in [b'', b'\r\n \r\n\t', b'""']:
+            self.check(content, [])
+
+    def test_a_list_without_a_full_path_ends_the_run_with_status_1(self):
+        for content in ['One.txt', str(self.tree).encode('utf-16-le').decode('latin-1')]:
+            with self.subTest(content=content):
+                path = self.work / 'paths.lst'
+                path.write_bytes(content.encode('latin-1'))
+                status, errors, _ = self.run_program('Format=6', f'Path={windows_path(path)}', native=True)
+                self.assertEqual(status, 1)
+                self.assertIn(b'No listing was made', errors)
+                self.assertIn(windows_path(path).encode(), errors)
 
     def test_a_missing_file_or_an_endless_line_ends_the_run_with_status_1(self):
         for name in ['Gone.txt', 'x' * 40000]:

@@ -12,7 +12,7 @@
 #include "platform/ProfileText.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
-#include "shell/PathListText.h"
+#include "shell/PathListLines.h"
 #include "ui/Language.h"
 
 namespace folivant {
@@ -82,12 +82,15 @@ TEST(RandomProfileText, ReadsBackWhatItWroteAndKeepsTheRest) {
   }
 }
 
-TEST(RandomPathLists, LinesHoldNoEndsAndNoOuterBlanks) {
+TEST(RandomPathLists, LinesHoldNoEndsAndAreNotBlank) {
   Source source(2);
+  NoProgress progress;
   for (int i = 0; i < 2000; ++i) {
-    for (const std::wstring& line : LinesOf(PathListText(source.Bytes(kPaths, 40)))) {
-      EXPECT_EQ(line.find_first_of(L"\r\n"), line.npos);
-      EXPECT_FALSE(line.starts_with(L' ') || line.ends_with(L' '));
+    fakes::Tree().File(L"C:\\list", source.Bytes(kPaths, 40));
+    PathListLines lines(L"C:\\list", progress);
+    while (const std::optional<std::wstring> line = lines.Next()) {
+      EXPECT_EQ(line->find_first_of(std::wstring(L"\r\n\0", 3)), line->npos);
+      EXPECT_NE(line->find_first_not_of(L" \t"), line->npos);
     }
   }
 }

@@ -132,6 +132,52 @@ TEST_F(PathList, AnsiUtf8AndUtf16FilesAreRead) {
             (Names{L"\u0416.txt"}));
 }
 
+TEST_F(PathList, Utf8WithoutAMarkAndBigEndianFilesAreRead) {
+  Tree().Dir(L"C:\\Data").File(L"Caf\u00E9.txt").File(L"\u0416.txt");
+  EXPECT_EQ(NamesOf("C:\\Data\\\xD0\x96.txt\nC:\\Data\\Caf\xC3\xA9.txt"), (Names{L"\u0416.txt", L"Caf\u00E9.txt"}));
+  EXPECT_EQ(NamesOf(std::string("\xFE\xFF\0C\0:\0\\\0D\0a\0t\0a\0\\\x04\x16\0.\0t\0x\0t", 28)), (Names{L"\u0416.txt"}));
+}
+
+TEST_F(PathList, QuotedLinesAndTabsAroundThemAreRead) {
+  EXPECT_EQ(NamesOf("\"C:\\Data\\Big.bin\"\r\n\tC:\\Data\\README.TXT\t\r\n \t\"C:/Data/deep/b.doc\" \t"),
+            (Names{L"Big.bin", L"Readme.txt", L"B.doc"}));
+}
+
+TEST_F(PathList, LinesOfWhichNoneIsAFullPathAreAnErrorThatNamesTheList) {
+  const std::string utf16WithoutMark("C\0:\0\\\0D\0a\0t\0a\0", 14);
+  for (const std::string& lines : {std::string("README.TXT\r\nBig.bin"), std::string("\r\nx"), utf16WithoutMark}) {
+    Tree().File(L"C:\\list.txt", lines);
+    Rows rows;
+    NoProgress progress;
+    try {
+      PrintFromFileList(rows, progress);
+      FAIL() << "no error";
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Action(), FailedAction::ListPaths);
+      EXPECT_EQ(error.Object(), L"C:\\list.txt");
+    }
+    EXPECT_EQ(rows.Lists, 0);
+  }
+}
+
+TEST_F(PathList, ABlankListIsAnEmptyListing) {
+  for (const char* lines : {"\r\n", "  \r\n\t\r\n", "\"\"\r\n\"  \"", "\xEF\xBB\xBF\r\n"}) {
+    EXPECT_EQ(Read(lines).Lists, 1) << lines;
+  }
+}
+
+TEST_F(PathList, ALineThatIsLongerThanAnyPathIsNamedByItsBeginning) {
+  Tree().File(L"C:\\list.txt", "C:\\" + std::string(40'000, 'x'));
+  Rows rows;
+  NoProgress progress;
+  try {
+    PrintFromFileList(rows, progress);
+    FAIL() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Object(), L"C:\\" + std::wstring(256, L'x') + L"...");
+  }
+}
+
 TEST_F(PathList, AFileOfAMarkAloneIsEmpty) {
   EXPECT_TRUE(NamesOf("\xFF\xFE").empty());
   EXPECT_TRUE(NamesOf("\xEF\xBB\xBF").empty());
