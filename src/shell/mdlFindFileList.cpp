@@ -6,6 +6,7 @@
 #include "app/mdlVars.h"
 #include "base/mdlFileRoutines.h"
 #include "output/EntryFormatting.h"
+#include "platform/Clock.h"
 #include "platform/FindFiles.h"
 #include "platform/RuntimeError.h"
 #include "scan/FileDates.h"
@@ -16,11 +17,11 @@
 namespace folivant {
 namespace {
 
-FoundItem RowOf(const LongPath& path, platform::FoundEntry entry) {
+FoundItem RowOf(const LongPath& path, platform::FoundEntry entry, std::int64_t localOffset) {
   const std::uint64_t size = (std::uint64_t{entry.Data.SizeHigh} << 32) | entry.Data.SizeLow;
   const std::wstring pattern = mdlVars::DatePattern + L' ' + std::wstring(kTimePattern);
   return {ProperName(GetFileName(path.Shown)), GetFolder(path.Shown), FormatSizeFixedUnits(Currency::FromWhole(size)),
-          FormatDate(FileTimeOf(entry.Data.LastWrite), pattern)};
+          FormatDate(FileTimeOf(entry.Data.LastWrite, localOffset), pattern)};
 }
 
 bool IsFullPath(std::wstring_view line) {
@@ -35,7 +36,7 @@ std::wstring NameOf(const std::wstring& line) {
 }
 
 /// One row; nothing for a line that is no full path. Throws RuntimeError (ReadFile) for a file that is not there.
-std::optional<FoundItem> ReadRow(const std::wstring& line) {
+std::optional<FoundItem> ReadRow(const std::wstring& line, std::int64_t localOffset) {
   const LongPath path = GetLongPath(line);
   if (path.OnDisk.empty() && !IsFullPath(WithBackslashes(line))) {
     return std::nullopt;
@@ -44,17 +45,18 @@ std::optional<FoundItem> ReadRow(const std::wstring& line) {
   if (!entry) {
     throw RuntimeError(FailedAction::ReadFile, NameOf(line), {}, 0);
   }
-  return RowOf(path, *entry);
+  return RowOf(path, *entry, localOffset);
 }
 
 /// All rows or none: an error leaves the list as it was.
 void ReadPathListFile(Progress& progress) {
+  const std::int64_t localOffset = platform::LocalOffset();
   PathListLines lines(mdlVars::Tree.StartPath, progress);
   std::vector<FoundItem> rows;
   bool blank = true;
   while (const std::optional<std::wstring> line = lines.Next()) {
     blank = false;
-    if (std::optional<FoundItem> row = ReadRow(*line)) {
+    if (std::optional<FoundItem> row = ReadRow(*line, localOffset)) {
       rows.push_back(*std::move(row));
     }
     progress.LetEventsThrough();

@@ -89,6 +89,13 @@ TEST_F(PathList, DatesAreLocalAndFollowTheRunsPattern) {
   EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Modified, L"03/02/01 06:05");
 }
 
+TEST_F(PathList, EachListHasTheLocalOffsetOfItsTime) {
+  const char* const list = "C:\\Data\\README.TXT";
+  EXPECT_EQ(Read(list).Items[0].Modified, L"2001/02/03 04:05");
+  Fake().LocalOffsetMinutes = -60;
+  EXPECT_EQ(Read(list).Items[0].Modified, L"2001/02/03 03:05");
+}
+
 TEST_F(PathList, BlankLinesYieldNoRows) {
   EXPECT_EQ(NamesOf("\r\n   \r\nC:\\Data\\README.TXT\r\n\r\n\r\nC:\\Data\\Big.bin\r\n\r\n"),
             (Names{L"Readme.txt", L"Big.bin"}));

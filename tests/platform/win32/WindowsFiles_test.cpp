@@ -118,7 +118,7 @@ TEST(WindowsClock, ShiftsFileTimesAsTheSystemDoes) {
     const FILETIME time{static_cast<DWORD>(utc), static_cast<DWORD>(utc >> 32)};
     FILETIME local;
     ASSERT_TRUE(FileTimeToLocalFileTime(&time, &local));
-    EXPECT_EQ(ToLocalFileTime(utc), std::uint64_t{local.dwHighDateTime} << 32 | local.dwLowDateTime);
+    EXPECT_EQ(ToLocalFileTime(utc, LocalOffset()), std::uint64_t{local.dwHighDateTime} << 32 | local.dwLowDateTime);
   }
 }
 
