@@ -17,7 +17,8 @@ inline constexpr std::size_t kLongestWholeFile = 16 * kMegabyte;
 /// than kLongestWholeFile.
 std::string ReadWholeFile(const std::wstring& path);
 /// Puts `bytes` in place of the file's content, by way of a temporary file beside it, so that a failure at any moment
-/// leaves either the old or the new content. Throws RuntimeError (WriteFile).
+/// leaves either the old or the new content. The file keeps its attributes and its access list, as far as the file
+/// system and the user's rights allow. Throws RuntimeError (WriteFile), also for a read-only file.
 void ReplaceFile(const std::wstring& path, std::string_view bytes);
 /// Makes an empty file or empties an existing one; false when that fails.
 bool TruncateFile(const std::wstring& path);

@@ -119,6 +119,32 @@ TEST(ReplaceFile, LeavesNothingBehindWhenItFails) {
   EXPECT_TRUE(IsDirectory(scratch.Path(L"folder")));
 }
 
+TEST(ReplaceFile, TakesNamesAsLongAsTheyMayBe) {
+  const Scratch scratch;
+  for (const std::size_t length : {std::size_t{200}, std::size_t{247}, std::size_t{248}, std::size_t{255}}) {
+    const std::wstring name = std::wstring(length - 4, L'n') + L".fvf";
+    ReplaceFile(scratch.Path(name), "first");
+    ReplaceFile(scratch.Path(name), "second");
+    EXPECT_EQ(scratch.Content(name), "second") << length;
+  }
+  EXPECT_EQ(scratch.Count(), 4);
+}
+
+TEST(ReplaceFile, LeavesReadOnlyFilesAlone) {
+  using std::filesystem::perms;
+  const Scratch scratch;
+  const auto path = Scratch::Native(scratch.MakeFile(L"a.fvf", "old"));
+  const perms write = perms::owner_write | perms::group_write | perms::others_write;
+  std::filesystem::permissions(path, write, std::filesystem::perm_options::remove);
+  const RuntimeError error = ErrorOf([&] { ReplaceFile(scratch.Path(L"a.fvf"), "new"); });
+  EXPECT_EQ(error.Action(), FailedAction::WriteFile);
+  EXPECT_EQ(error.Object(), scratch.Path(L"a.fvf"));
+  EXPECT_NE(error.SystemCode(), 0U);
+  EXPECT_EQ(scratch.Content(L"a.fvf"), "old");
+  EXPECT_EQ(scratch.Count(), 1);
+  std::filesystem::permissions(path, write, std::filesystem::perm_options::add);
+}
+
 TEST(ReplaceFile, SaysWhenTheFolderIsMissing) {
   const Scratch scratch;
   const RuntimeError error = ErrorOf([&] { ReplaceFile(scratch.Path(L"missing\\a.ini"), "new"); });

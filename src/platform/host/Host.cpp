@@ -16,6 +16,10 @@ std::wstring FromNativePath(std::string_view path) {
   return text;
 }
 
+bool IsWritable(const struct stat& status) {
+  return (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+}
+
 RuntimeError SystemError(FailedAction action, const std::wstring& object) {
   const int code = errno;
   return {action, object, FromUtf8(std::generic_category().message(code)), static_cast<std::uint32_t>(code)};

@@ -1,6 +1,8 @@
 // What the native bodies share: the spelling of file names, and errors.
 #pragma once
 
+#include <sys/stat.h>
+
 #include <string>
 #include <string_view>
 
@@ -10,6 +12,9 @@ namespace folivant::platform {
 
 /// "/a/b" as "Z:\a\b".
 std::wstring FromNativePath(std::string_view path);
+
+/// Whether anybody may write the file; otherwise it is what Windows calls read-only.
+bool IsWritable(const struct stat& status);
 
 /// The error in `errno`; call it right after the failure.
 RuntimeError SystemError(FailedAction action, const std::wstring& object);

@@ -10,6 +10,8 @@
 #include "platform/win32/NativePath.h"
 #include "platform/win32/Win32.h"
 
+#include <sddl.h>
+
 namespace folivant::platform {
 namespace {
 
@@ -111,6 +113,45 @@ TEST_F(WindowsFiles, ReplacesNoFileThatIsInUse) {
   CloseHandle(held);
   EXPECT_EQ(scratch_.Content(L"a"), "old");
   EXPECT_EQ(scratch_.Count(), 1);
+}
+
+TEST_F(WindowsFiles, KeepsTheAttributesOfAReplacedFile) {
+  const DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+  const std::wstring path = scratch_.MakeFile(L"a", "old");
+  SetFileAttributesW(path.c_str(), kept);
+  ASSERT_EQ(GetFileAttributesW(path.c_str()), kept);
+  ReplaceFile(path, "new");
+  EXPECT_EQ(GetFileAttributesW(path.c_str()), kept);
+  EXPECT_EQ(scratch_.Content(L"a"), "new");
+}
+
+/// The access list in the system's notation.
+std::wstring AccessList(const std::wstring& path) {
+  std::vector<BYTE> descriptor(10'000);
+  DWORD size = 0;
+  EXPECT_TRUE(GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), 10'000, &size));
+  wchar_t* text = nullptr;
+  EXPECT_TRUE(ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor.data(), SDDL_REVISION_1,
+                                                                   DACL_SECURITY_INFORMATION, &text, nullptr));
+  const std::wstring list = text;
+  LocalFree(text);
+  return list;
+}
+
+TEST_F(WindowsFiles, KeepsTheAccessListOfAReplacedFile) {
+  const std::wstring path = scratch_.MakeFile(L"a", "old");
+  const std::wstring usual = AccessList(path);
+  PSECURITY_DESCRIPTOR everybody = nullptr;
+  ASSERT_TRUE(
+      ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(A;;FA;;;WD)", SDDL_REVISION_1, &everybody, nullptr));
+  ASSERT_TRUE(SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, everybody));
+  LocalFree(everybody);
+  const std::wstring own = AccessList(path);
+  ASSERT_NE(own, usual) << "this file system keeps no lists";
+  ReplaceFile(path, "new");
+  EXPECT_EQ(AccessList(path), own);
+  EXPECT_EQ(scratch_.Content(L"a"), "new");
+  EXPECT_EQ(AccessList(scratch_.MakeFile(L"b")), usual);
 }
 
 TEST(WindowsClock, ShiftsFileTimesAsTheSystemDoes) {
