@@ -213,6 +213,30 @@ std::vector<BadSetting> LoadFrom(const std::wstring& filterFile) {
   return LoadSettings();
 }
 
+std::wstring BadSettingSentence(const BadSetting& setting) {
+  return WithPlaceholders(mdlVars::Texts[Text::BadSetting], setting.Place, setting.Key, setting.Value);
+}
+
+/// A line for each below the place where they stand; of very many the first ones and how many more there are.
+std::wstring BadSettingList(const std::vector<BadSetting>& bad) {
+  constexpr std::size_t kMostLines = 10;
+  constexpr std::size_t kMostCharacters = 60;  ///< of a value
+  std::wstring text;
+  std::wstring place;
+  for (const BadSetting& setting : std::span(bad).first(std::min(bad.size(), kMostLines))) {
+    if (setting.Place != place) {
+      place = setting.Place;
+      text += (text.empty() ? L"" : L"\r\n") + WithPlaceholders(mdlVars::Texts[Text::BadSettings], place) + L"\r\n\r\n";
+    }
+    const bool cut = setting.Value.size() > kMostCharacters;
+    text += setting.Key + L"=" + setting.Value.substr(0, kMostCharacters) + (cut ? L"...\r\n" : L"\r\n");
+  }
+  if (bad.size() > kMostLines) {
+    text += WithPlaceholders(mdlVars::Texts[Text::MoreBadSettings], std::to_wstring(bad.size() - kMostLines)) + L"\r\n";
+  }
+  return text.substr(0, text.size() - 2);
+}
+
 }  // namespace
 
 std::vector<BadSetting> LoadSettings() {
@@ -227,8 +251,8 @@ std::vector<BadSetting> LoadSettings() {
 }
 
 void ReportBadSettings(const std::vector<BadSetting>& bad) {
-  for (const BadSetting& setting : bad) {
-    platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::BadSetting], setting.Place, setting.Key, setting.Value),
+  if (!bad.empty()) {
+    platform::ShowMessage(bad.size() == 1 ? BadSettingSentence(bad.front()) : BadSettingList(bad),
                           platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
   }
 }
@@ -259,6 +283,17 @@ void SaveFormatSettings() {
 
 void LoadFilterFile(const std::wstring& path) {
   ReportBadSettings(LoadFrom(path));
+}
+
+bool LoadFilterFileIfWanted(const std::wstring& path) {
+  const bool wanted =
+      SettingsStore(path).HoldsSettings() ||
+      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::LoadDefaults], path), platform::BoxIcon::Question,
+                            platform::BoxButtons::YesNo, platform::BoxDefault::Second) == platform::BoxAnswer::Yes;
+  if (wanted) {
+    LoadFilterFile(path);
+  }
+  return wanted;
 }
 
 void SaveFilterFile(const std::wstring& path) {

@@ -117,7 +117,10 @@ enum class Text : int {
   OverwriteFirstLine = 169,  ///< "The file"
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
   NoPathInList = 171,
-  FileTooLarge = 172,  ///< %2 is the limit
+  FileTooLarge = 172,     ///< %2 is the limit
+  BadSettings = 173,      ///< before a list of "key=value"; %1 store or file
+  MoreBadSettings = 174,  ///< at the end of a long list; %1 how many more there are
+  LoadDefaults = 175,     ///< a question; %1 the file
 
   // Titles of windows
   FilterTitle = 200,

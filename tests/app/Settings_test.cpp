@@ -490,12 +490,86 @@ TEST(Settings, ABadOlderKeyIsToldByItsOwnName) {
 
 TEST(Settings, ABadValueOfAFilterFileIsReportedWithTheFile) {
   mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
-  FilterFile("SubLevel=deep\r\nOrderBy=x\r\n");
+  FilterFile("SubLevel=deep\r\n");
+  LoadFilterFile(kFilterFile);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf|SubLevel|deep");
+  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+}
+
+TEST(Settings, BadValuesAreReportedInOneList) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  FilterFile("SubLevel=deep\r\nOrderBy=" + std::string(61, 'x') + "\r\nFilter=\r\nFontSize=" + std::string(60, 'y') +
+             "\r\n");
+  LoadFilterFile(kFilterFile);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"Bad in C:\\sets\\a.fvf:\r\n\r\nFontSize=" + std::wstring(60, L'y') +
+                                         L"\r\nFilter=\r\nOrderBy=" + std::wstring(60, L'x') + L"...\r\nSubLevel=deep");
+  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+  EXPECT_EQ(Fake().Messages[0].Buttons, platform::BoxButtons::Ok);
+}
+
+TEST(Settings, AVeryLongListOfBadValuesIsCut) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::MoreBadSettings), L"and %1 more");
+  const std::string ten =
+      "MarginLeft=x\r\nMarginRight=x\r\nMarginTop=x\r\nMarginBottom=x\r\nPortrait=x\r\nFontSize=x\r\nFont80HF=x\r\n"
+      "FontSizeHF=x\r\nFilter=x\r\nFilterSizeMin=x\r\n";
+  FilterFile(ten);
+  LoadFilterFile(kFilterFile);
+  FilterFile(ten + "OrderBy=x\r\nSubLevel=x\r\n");
   LoadFilterFile(kFilterFile);
   ASSERT_EQ(Fake().Messages.size(), 2u);
-  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf|OrderBy|x");
-  EXPECT_EQ(Fake().Messages[1].Text, L"C:\\sets\\a.fvf|SubLevel|deep");
-  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+  EXPECT_TRUE(Fake().Messages[0].Text.ends_with(L"\r\nFilter=x\r\nFilterSizeMin=x"));
+  EXPECT_EQ(Fake().Messages[1].Text, Fake().Messages[0].Text + L"\r\nand 2 more");
+}
+
+TEST(Settings, BadValuesOfTheStoreAreListedBelowTheirPlaces) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  Fake().Store[{L"Settings", L"TextWidth"}] = L"wide";
+  ReportBadSettings(LoadWith(L"Format", L"SubLevel", L"deep"));
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text,
+            L"Bad in HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Settings:\r\n\r\nTextWidth=wide\r\n\r\n"
+            L"Bad in HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Format:\r\n\r\nSubLevel=deep");
+}
+
+TEST(Settings, NothingIsReportedWhereNothingIsBad) {
+  ReportBadSettings({});
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST(Settings, AFileWithoutSettingsIsLoadedOnlyIfTheUserWantsTheDefaults) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::LoadDefaults), L"Nothing in %1. Defaults?");
+  for (const char* content : {"", "Just a letter.\r\n", "[Other]\r\nSubLevel=3\r\n", "SubLevel=3\r\n"}) {
+    Tree().File(kFilterFile, content);
+    Format.SubLevel = 7;
+    mdlVars::FilterFile = L"C:\\before.fvf";
+    Fake().Messages.clear();
+    Fake().Answers = {platform::BoxAnswer::No};
+    EXPECT_FALSE(LoadFilterFileIfWanted(kFilterFile)) << content;
+    EXPECT_EQ(Format.SubLevel, 7);
+    EXPECT_EQ(mdlVars::FilterFile, L"C:\\before.fvf");
+    ASSERT_EQ(Fake().Messages.size(), 1u);
+    EXPECT_EQ(Fake().Messages[0].Text, L"Nothing in C:\\sets\\a.fvf. Defaults?");
+    EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Question);
+    EXPECT_EQ(Fake().Messages[0].Buttons, platform::BoxButtons::YesNo);
+    EXPECT_EQ(Fake().Messages[0].Preset, platform::BoxDefault::Second);
+    Fake().Answers = {platform::BoxAnswer::Yes};
+    EXPECT_TRUE(LoadFilterFileIfWanted(kFilterFile));
+    EXPECT_EQ(Format.SubLevel, 0);
+    EXPECT_EQ(mdlVars::FilterFile, kFilterFile);
+  }
+}
+
+TEST(Settings, AFileWithSettingsIsLoadedWithoutAQuestion) {
+  for (const char* content : {"[Folivant 3.5]\r\nSubLevel=3\r\n", "\xEF\xBB\xBF[folivant 3.5]\r\nSubLevel=3\r\n"}) {
+    Tree().File(kFilterFile, content);
+    Format.SubLevel = 7;
+    EXPECT_TRUE(LoadFilterFileIfWanted(kFilterFile));
+    EXPECT_EQ(Format.SubLevel, 3);
+  }
+  EXPECT_TRUE(Fake().Messages.empty());
 }
 
 TEST(Settings, NumbersAndFlagsAreReadAsPeopleWriteThem) {
