@@ -6,6 +6,7 @@
 #include "app/SettingValue.h"
 #include "app/SettingsStore.h"
 #include "app/mdlVars.h"
+#include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
@@ -139,7 +140,10 @@ StoredText ReadSetting(const SettingsStore& store, const Setting& setting) {
     return {value, key, value};
   }
   if (setting.Old.Count == 0) {
-    const std::wstring value = store.GetSettingEx(setting.Section, key, DefaultOf(setting));
+    std::wstring value = store.GetSettingEx(setting.Section, key, DefaultOf(setting));
+    if (setting.Set == Group::Path && Trim(value).empty()) {  // no path: it would lead to the root of the current drive
+      value = DefaultOf(setting);
+    }
     return {value, key, value};
   }
   const StoredText old = ReadOldKey(store, setting);
@@ -208,15 +212,6 @@ void ShowWarning(const std::wstring& text) {
   platform::ShowMessage(text, platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
 }
 
-std::wstring BadSettingText(const BadSetting& setting) {
-  const Messages& texts = mdlVars::Texts;
-  std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Place, setting.Key, setting.Value);
-  if (setting.Limits) {
-    text += L"\r\n" + WithPlaceholders(texts[Text::ValidValues], setting.Limits->Lowest, setting.Limits->Highest);
-  }
-  return text;
-}
-
 std::vector<BadSetting> LoadFrom(const std::wstring& filterFile) {
   const FilterFileScope scope(filterFile);
   return LoadSettings();
@@ -230,13 +225,14 @@ std::vector<BadSetting> LoadSettings() {
   for (const Setting& setting : Settings()) {
     Load(store, setting, bad);
   }
+  mdlVars::Tree.StartPath = WithBackslashes(mdlVars::Tree.StartPath);
   mdlVars::Tree.StartPathOnDisk = mdlVars::Tree.StartPath;
   return bad;
 }
 
 void ReportBadSettings(const std::vector<BadSetting>& bad) {
-  for (const BadSetting& setting : bad) {
-    ShowWarning(BadSettingText(setting));
+  if (!bad.empty()) {
+    ShowWarning(BadSettingsText(bad, mdlVars::Texts));
   }
 }
 
@@ -266,6 +262,17 @@ void SaveFormatSettings() {
 
 void LoadFilterFile(const std::wstring& path) {
   ReportBadSettings(LoadFrom(path));
+}
+
+bool LoadFilterFileIfWanted(const std::wstring& path) {
+  const bool wanted =
+      SettingsStore(path).HoldsSettings() ||
+      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::LoadDefaults], path), platform::BoxIcon::Question,
+                            platform::BoxButtons::YesNo, platform::BoxDefault::Second) == platform::BoxAnswer::Yes;
+  if (wanted) {
+    LoadFilterFile(path);
+  }
+  return wanted;
 }
 
 void SaveFilterFile(const std::wstring& path) {

@@ -10,6 +10,10 @@ constexpr std::size_t kLongestFileValue = 259;
 
 SettingsStore::SettingsStore(const std::wstring& filterFile) : file_(filterFile) {}
 
+bool SettingsStore::HoldsSettings() const {
+  return !file_ || file_->HasSection(kFilterFileSection);
+}
+
 std::wstring SettingsStore::GetSettingEx(const std::wstring& section, const std::wstring& key,
                                          const std::wstring& preset) const {
   return file_ ? file_->Read(kFilterFileSection, key, preset, kLongestFileValue)

@@ -19,6 +19,8 @@ class SettingsStore {
   explicit SettingsStore(const std::wstring& filterFile);
 
   bool UsesFilterFile() const { return file_.has_value(); }
+  /// Whether the filter file has the section of Folivant's settings at all; the per-user store always has.
+  bool HoldsSettings() const;
 
   /// Settings that travel into filter files. There they all share one section, whatever `section` says, so that keys
   /// are unique across sections; a value of a filter file ends after 259 characters.

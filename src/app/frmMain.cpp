@@ -255,8 +255,7 @@ void frmMain::cmdLoad_Click() {
   platform::FileDialog dialog;
   dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
   dialog.FileName = mdlVars::FilterFile;
-  if (platform::AskForOpenName(Window(), dialog)) {
-    LoadFilterFile(dialog.FileName);
+  if (platform::AskForOpenName(Window(), dialog) && LoadFilterFileIfWanted(dialog.FileName)) {
     ShowEverything();
   }
 }

@@ -14,6 +14,7 @@ class ProfileFile {
   explicit ProfileFile(std::wstring path);
 
   const std::wstring& Path() const { return path_; }
+  bool HasSection(const std::wstring& section) const { return text_.HasSection(section); }
   /// At most `limit` characters of the value; `preset` when the key is not there.
   std::wstring Read(const std::wstring& section, const std::wstring& key, const std::wstring& preset,
                     std::size_t limit) const;

@@ -1,5 +1,6 @@
 #include "base/mdlFileRoutines.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/FindFiles.h"
@@ -22,6 +23,12 @@ std::wstring AddBackslash(std::wstring_view text) {
   if (!text.ends_with(L'\\')) {
     result += L'\\';
   }
+  return result;
+}
+
+std::wstring WithBackslashes(std::wstring_view path) {
+  std::wstring result(path);
+  std::replace(result.begin(), result.end(), L'/', L'\\');
   return result;
 }
 

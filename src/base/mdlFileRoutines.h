@@ -14,6 +14,9 @@ namespace folivant {
 std::wstring StripNulls(std::wstring_view text);
 std::wstring Trim(std::wstring_view text);  ///< blanks (U+0020) only
 std::wstring AddBackslash(std::wstring_view text);
+/// Every "/" made a "\". For paths as people write them: the system takes both for a separator, so a name with a "/"
+/// inside would lead to another place than the one that it is listed under.
+std::wstring WithBackslashes(std::wstring_view path);
 /// A whole number with the user's thousands separator between groups of three ("#,##0").
 std::wstring FormatGrouped(std::int64_t number);
 void AppendGrouped(std::int64_t number, std::wstring& out);

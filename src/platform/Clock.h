@@ -12,9 +12,15 @@ struct CalendarTime {
 /// Local time now.
 CalendarTime Now();
 
-/// Shifts a file time (100 ns since 1601, UTC) by today's offset of the local zone, whatever the date: the rule of
+/// How far local time is ahead of UTC now, in units of file times (100 ns). Asked once in a run: all its times then
+/// agree, and a change of the zone or of daylight saving shows in the next run.
+std::int64_t LocalOffset();
+/// Shifts a file time (100 ns since 1601, UTC) by the offset of now, whatever the date: the rule of
 /// FileTimeToLocalFileTime. A result below zero becomes zero.
-std::uint64_t ToLocalFileTime(std::uint64_t utc);
+inline std::uint64_t ToLocalFileTime(std::uint64_t utc, std::int64_t localOffset) {
+  const std::int64_t local = static_cast<std::int64_t>(utc) + localOffset;
+  return local < 0 ? 0 : static_cast<std::uint64_t>(local);
+}
 
 /// The multimedia timer: milliseconds since some start, wrapping at 32 bits.
 std::uint32_t TimerMilliseconds();

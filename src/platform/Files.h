@@ -1,6 +1,7 @@
 // Whole files, well-known folders and volumes. Paths are Windows paths, as in FindFiles.h.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -9,10 +10,15 @@
 
 namespace folivant::platform {
 
-/// The bytes of a file. Throws RuntimeError (ReadFile) when it cannot be opened or read.
+inline constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
+/// What is read whole is a text of some kilobytes; whoever names something else by mistake is told so at once.
+inline constexpr std::size_t kLongestWholeFile = 16 * kMegabyte;
+/// The bytes of a file. Throws RuntimeError: ReadFile when it cannot be opened or read, ReadLargeFile when it is longer
+/// than kLongestWholeFile.
 std::string ReadWholeFile(const std::wstring& path);
 /// Puts `bytes` in place of the file's content, by way of a temporary file beside it, so that a failure at any moment
-/// leaves either the old or the new content. Throws RuntimeError (WriteFile).
+/// leaves either the old or the new content. The file keeps its attributes and its access list, as far as the file
+/// system and the user's rights allow. Throws RuntimeError (WriteFile), also for a read-only file.
 void ReplaceFile(const std::wstring& path, std::string_view bytes);
 /// Makes an empty file or empties an existing one; false when that fails.
 bool TruncateFile(const std::wstring& path);

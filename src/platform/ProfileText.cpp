@@ -7,7 +7,6 @@
 namespace folivant::platform {
 namespace {
 
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
 constexpr std::wstring_view kBlanks = L" \t\r\x1A";
 
 std::wstring_view TrimBlanks(std::wstring_view text) {
@@ -35,8 +34,10 @@ std::wstring_view KeyName(std::wstring_view line) {
 
 }  // namespace
 
-ProfileText::ProfileText(std::string_view bytes) : utf16_(bytes.starts_with(kUtf16Mark)) {
-  Parse(utf16_ ? FromUtf16(bytes.substr(kUtf16Mark.size())) : FromAnsi(bytes));
+ProfileText::ProfileText(std::string_view bytes) {
+  const EncodedText read = ReadText(bytes);
+  encoding_ = read.Encoding;
+  Parse(read.Text);
 }
 
 void ProfileText::Parse(std::wstring_view text) {
@@ -122,11 +123,7 @@ std::string ProfileText::Bytes() const {
     text += line;
     text += L"\r\n";
   }
-  std::string ansi = ToAnsi(text);
-  if (!utf16_ && FromAnsi(ansi) == text) {
-    return ansi;
-  }
-  return std::string(kUtf16Mark) + ToUtf16(text);
+  return TextBytes(text, encoding_);
 }
 
 }  // namespace folivant::platform

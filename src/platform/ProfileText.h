@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/TextEncoding.h"
+
 namespace folivant::platform {
 
 /// Section and key names ignore letter case; the first section and the first key of a name count. Blanks around names
@@ -17,7 +19,7 @@ namespace folivant::platform {
 class ProfileText {
  public:
   ProfileText() = default;
-  /// The content of a file: UTF-16 little-endian when it begins with FF FE, otherwise the ANSI code page.
+  /// The content of a file, in any encoding of TextEncoding.h.
   explicit ProfileText(std::string_view bytes);
 
   bool HasSection(const std::wstring& section) const;
@@ -26,7 +28,8 @@ class ProfileText {
   /// reading would strip (outer blanks or quotes) is put in quotes; it ends at its first line break.
   void Write(const std::wstring& section, const std::wstring& key, std::wstring value);
 
-  /// The text as a file's bytes. Stays ANSI unless the text was UTF-16 or holds what the code page lacks.
+  /// The text as a file's bytes, in the encoding that the file had; a new one is ANSI. What that cannot hold makes it
+  /// UTF-16 with its mark, which the system's own profile functions read, too.
   std::string Bytes() const;
 
  private:
@@ -37,7 +40,7 @@ class ProfileText {
 
   std::vector<std::wstring> lines_;  ///< without line ends
   std::map<Name, std::size_t> index_;
-  bool utf16_ = false;
+  TextEncoding encoding_ = TextEncoding::Ansi;
 };
 
 }  // namespace folivant::platform

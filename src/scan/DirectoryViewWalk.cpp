@@ -48,7 +48,7 @@ bool DirectoryViewWalk::OpenDirectory(std::uint32_t index, std::int32_t share) {
     progress_.LetEventsThrough();
     if (entry.IsDirectory()) {
       names_.Push(entry.Name, entry.IsLink());
-    } else if (MatchesFilter(entry, settings_.Filter, settings_.Patterns)) {
+    } else if (MatchesFilter(entry, settings_.Filter, settings_.Patterns, settings_.LocalOffset)) {
       ++node.Files;
       node.Size += FileSizeOf(entry);
     }

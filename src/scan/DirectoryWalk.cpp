@@ -61,7 +61,7 @@ bool DirectoryWalk::OpenDirectory(std::int32_t level, std::int32_t share) {
       names_.Push(entry.Name, entry.IsLink());
     }
     const bool always = IsTree() && entry.IsDirectory();
-    if (always || MatchesFilter(entry, settings_.Filter, settings_.Patterns)) {
+    if (always || MatchesFilter(entry, settings_.Filter, settings_.Patterns, settings_.LocalOffset)) {
       KeepEntry(entry, frame);
     }
   }

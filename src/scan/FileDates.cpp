@@ -17,13 +17,13 @@ platform::CalendarTime CalendarTimeOf(std::uint64_t localFileTime) {
                         static_cast<int>(seconds % kSecondsPerDay));
 }
 
-platform::CalendarTime FileTimeOf(std::uint64_t& fileTime) {
-  fileTime = platform::ToLocalFileTime(fileTime);
+platform::CalendarTime FileTimeOf(std::uint64_t& fileTime, std::int64_t localOffset) {
+  fileTime = platform::ToLocalFileTime(fileTime, localOffset);
   return CalendarTimeOf(fileTime);
 }
 
-DateValue FileDateOf(std::uint64_t& fileTime) {
-  return ToDateValue(FileTimeOf(fileTime));
+DateValue FileDateOf(std::uint64_t& fileTime, std::int64_t localOffset) {
+  return ToDateValue(FileTimeOf(fileTime, localOffset));
 }
 
 }  // namespace folivant

@@ -68,7 +68,7 @@ FileRecord FileRecordFiller::FillFileRecord(platform::FindData& entry, std::int3
     record.DosName = AddDosName(entry, texts);
   }
   record.SizeText = entry.IsDirectory() ? texts.Add(directorySize_) : AddSize(entry, texts);
-  entry.LastWrite = platform::ToLocalFileTime(entry.LastWrite);
+  entry.LastWrite = platform::ToLocalFileTime(entry.LastWrite, settings_.LocalOffset);
   record.DateText = AddDate(entry.LastWrite, texts);
   record.AttrText = AttributeText(entry);
   MakeSortKey(entry, record);
@@ -133,7 +133,7 @@ void FileRecordFiller::MakeSortKey(platform::FindData& entry, const FileRecord& 
       break;
     }
     case OrderBy::Date:
-      AppendDate(FileTimeOf(entry.LastWrite), L"yyyymmddhhnn", sortKey_);
+      AppendDate(FileTimeOf(entry.LastWrite, settings_.LocalOffset), L"yyyymmddhhnn", sortKey_);
       break;
     case OrderBy::Extension: {
       std::wstring extension = GetExtension(entry.Name);

@@ -11,8 +11,9 @@ bool MatchesSize(const platform::FindData& entry, const FilterSettings& filter) 
   return filter.SizeMin ? size >= limit : size <= limit;
 }
 
-bool MatchesDate(platform::FindData& entry, const FilterSettings& filter) {
-  return FileDateOf(entry.LastWrite) >= filter.DateMin && FileDateOf(entry.LastWrite) <= filter.DateMax;
+bool MatchesDate(platform::FindData& entry, const FilterSettings& filter, std::int64_t localOffset) {
+  return FileDateOf(entry.LastWrite, localOffset) >= filter.DateMin &&
+         FileDateOf(entry.LastWrite, localOffset) <= filter.DateMax;
 }
 
 bool MatchesAttributes(const platform::FindData& entry, const FilterSettings& filter) {
@@ -34,9 +35,11 @@ Currency FileSizeOf(const platform::FindData& entry) {
   return Currency::FromWhole(std::uint64_t{entry.SizeHigh} << 32 | entry.SizeLow);
 }
 
-bool MatchesFilter(platform::FindData& entry, const FilterSettings& filter, const NamePatterns& patterns) {
+bool MatchesFilter(platform::FindData& entry, const FilterSettings& filter, const NamePatterns& patterns,
+                   std::int64_t localOffset) {
   return (!filter.NameOn || patterns.Admit(entry.Name)) && (!filter.SizeOn || MatchesSize(entry, filter)) &&
-         (!filter.DateOn || MatchesDate(entry, filter)) && (!filter.AttrOn || MatchesAttributes(entry, filter));
+         (!filter.DateOn || MatchesDate(entry, filter, localOffset)) &&
+         (!filter.AttrOn || MatchesAttributes(entry, filter));
 }
 
 }  // namespace folivant

@@ -92,8 +92,9 @@ std::wstring ProperName(std::wstring_view name) {
 }
 
 LongPath GetLongPath(std::wstring_view path) {
-  std::wstring_view rest = path;
-  LongPath result = path.starts_with(L"\\\\") ? TakeServerAndShare(rest) : TakeDrive(rest);
+  const std::wstring separated = WithBackslashes(path);
+  std::wstring_view rest = separated;
+  LongPath result = rest.starts_with(L"\\\\") ? TakeServerAndShare(rest) : TakeDrive(rest);
   if (result.Shown.empty()) {
     return {};
   }

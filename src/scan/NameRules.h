@@ -19,7 +19,7 @@ struct LongPath {
 };
 /// `path` with each component replaced by its long name as stored on disk; both spellings are empty when the path is
 /// neither "X:\..." nor "\\server\share..." or when a component does not exist. Server and share are not looked up. "."
-/// and ".." are resolved, so that a script may say where its data lies beside itself.
+/// and ".." are resolved, so that a script may say where its data lies beside itself. "/" separates like "\".
 LongPath GetLongPath(std::wstring_view path);
 
 /// Measures text in the unit of a window or page.

@@ -1,6 +1,7 @@
 // What a walk reads besides the tree itself. The records belong to the caller and outlive the walk.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "base/GeneralSettings.h"
@@ -18,6 +19,7 @@ struct WalkSettings {
   const GeneralSettings& General;
   const Messages& Texts;
   const std::wstring& DatePattern;
+  std::int64_t LocalOffset;  ///< of platform/Clock.h, asked for at the start of the run
 };
 
 }  // namespace folivant

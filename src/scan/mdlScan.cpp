@@ -2,6 +2,7 @@
 
 #include "app/mdlVars.h"
 #include "output/EntryFormatting.h"
+#include "platform/Clock.h"
 #include "scan/DirectoryViewWalk.h"
 #include "scan/DirectoryWalk.h"
 #include "scan/NameRules.h"
@@ -90,8 +91,9 @@ void RunListing(ListingWriter& output, Progress& progress) {
   RunGuard guard(output, progress);
   output.BeginListing();
   const NamePatterns patterns = mdlVars::Filter.NameOn ? NamePatterns(mdlVars::Filter.FilterName) : NamePatterns();
-  const WalkSettings settings{mdlVars::Filter,  patterns,       mdlVars::Format,
-                              mdlVars::General, mdlVars::Texts, mdlVars::DatePattern};
+  const WalkSettings settings{mdlVars::Filter,        patterns,       mdlVars::Format,
+                              mdlVars::General,       mdlVars::Texts, mdlVars::DatePattern,
+                              platform::LocalOffset()};
   switch (mdlVars::Format.ListingStyle) {
     case ListingStyle::DirectoryView:
       ListDirectoryView(settings, output, progress);

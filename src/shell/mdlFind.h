@@ -10,7 +10,7 @@ namespace folivant {
 /// Style 5. Throws RuntimeError when the chosen window's program may not be read.
 void PrintFromFind(ListingWriter& output, Progress& progress);
 /// Style 6: reads the file named by ScanTree::StartPath. Throws RuntimeError when it, or a file that it names, is
-/// missing.
+/// missing, and when it has lines but none is a full path.
 void PrintFromFileList(ListingWriter& output, Progress& progress);
 
 }  // namespace folivant

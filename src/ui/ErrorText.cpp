@@ -26,6 +26,10 @@ Text TextOf(FailedAction action) {
       return Text::MarginsLeaveNoRoom;
     case FailedAction::UseFont:
       return Text::FontDoesNotFit;
+    case FailedAction::ListPaths:
+      return Text::NoPathInList;
+    case FailedAction::ReadLargeFile:
+      return Text::FileTooLarge;
     case FailedAction::ReadWindow:
       return Text::CannotReadWindow;
     case FailedAction::OpenWindow:

@@ -5,6 +5,7 @@
 #include "base/mdlFileRoutines.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
+#include "ui/ErrorText.h"
 
 namespace folivant {
 namespace {
@@ -16,12 +17,24 @@ constexpr wchar_t kDefaultHelp[] = L"folvnt40.hlp";
 constexpr std::size_t kLongestText = 299;
 constexpr std::size_t kLongestName = 99;
 
+using Failures = std::vector<RuntimeError>;
+
 /// A file that cannot be read has no texts: what is missing shows in its place.
-ProfileFile ReadableOrEmpty(const std::wstring& path) {
+ProfileFile ReadableOrEmpty(const std::wstring& path, Failures& failures) {
   try {
     return ProfileFile(path);
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& failure) {
+    failures.push_back(failure);
     return ProfileFile({});
+  }
+}
+
+/// Of what went wrong, this alone is told: it says what to do about it.
+void ReportTooLargeFiles(const Failures& failures, const Messages& texts) {
+  for (const RuntimeError& failure : failures) {
+    if (failure.Action() == FailedAction::ReadLargeFile) {
+      ShowError(failure, texts);
+    }
   }
 }
 
@@ -56,19 +69,22 @@ std::wstring LoadLanguage(const std::wstring& programFolder, std::wstring& langu
   if (language.empty() || !platform::PathExists(folder + language)) {
     language = kEnglish;
   }
-  const ProfileFile english = ReadableOrEmpty(folder + kEnglish);
-  const ProfileFile chosen = language == kEnglish ? english : ReadableOrEmpty(folder + language);
+  Failures failures;
+  const ProfileFile english = ReadableOrEmpty(folder + kEnglish, failures);
+  const ProfileFile chosen = language == kEnglish ? english : ReadableOrEmpty(folder + language, failures);
   for (std::size_t number = 0; number < Messages::kCount; ++number) {
     texts.Set(number, TextOf(chosen, english, number));
   }
+  ReportTooLargeFiles(failures, texts);
   return HelpFileOf(folder, language);
 }
 
 std::vector<LanguageEntry> ListLanguages(const std::wstring& programFolder) {
   constexpr wchar_t kNoLanguage[] = L"(error)";
   std::vector<LanguageEntry> languages;
+  Failures ignored;
   for (const std::wstring& name : platform::FindNames(programFolder, L"*.ini")) {
-    const ProfileFile file = ReadableOrEmpty(AddBackslash(programFolder) + name);
+    const ProfileFile file = ReadableOrEmpty(AddBackslash(programFolder) + name, ignored);
     const std::wstring language = StripNulls(file.Read(kSection, L"Language", kNoLanguage, kLongestName));
     if (language != kNoLanguage) {
       languages.push_back({name, language, FlagOf(StripNulls(file.Read(kSection, L"Flag", L"0", kLongestName)))});

@@ -11,8 +11,8 @@ namespace folivant {
 
 /// Fills `texts` from the file `language` in `programFolder`; a missing file makes `language` "english.ini", a missing
 /// text comes from english.ini, and one missing there as well shows its number between two pairs of asterisks. Texts
-/// are cut to 299 characters. Returns the full path of the language's help file, or of "folvnt40.hlp" when the language
-/// has none.
+/// are cut to 299 characters. A file that is too large to be read is told in a message box. Returns the full path of
+/// the language's help file, or of "folvnt40.hlp" when the language has none.
 std::wstring LoadLanguage(const std::wstring& programFolder, std::wstring& language, Messages& texts);
 
 struct LanguageEntry {

@@ -125,6 +125,11 @@ enum class Text : int {
   UnexpectedError = 184,     ///< a mistake of the program; whatever was done is not complete
   OutOfMemory = 185,
   CannotOpenWindow = 186,  ///< a window of the program itself; without %1
+  NoPathInList = 171,
+  FileTooLarge = 172,     ///< %2 is the limit
+  BadSettings = 173,      ///< before a list of "key=value"; %1 store or file
+  MoreBadSettings = 174,  ///< at the end of a long list; %1 how many more there are
+  LoadDefaults = 175,     ///< a question; %1 the file
 
   // Titles of windows
   FilterTitle = 200,

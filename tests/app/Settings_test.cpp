@@ -7,6 +7,7 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeSession.h"
 #include "platform/RuntimeError.h"
+#include "platform/Text.h"
 
 namespace folivant {
 namespace {
@@ -220,6 +221,18 @@ TEST(Settings, AFilterFileWithoutAPathGivesTheCurrentDirectory) {
   EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
 }
 
+TEST(Settings, AnEmptyPathCountsAsMissing) {
+  for (const char* line : {"Path=\r\n", "Path=   \r\n", "Path=\"  \"\r\n"}) {
+    mdlVars::Tree.StartPath = L"D:\\Before";
+    FilterFile(line);
+    LoadFilterFile(kFilterFile);
+    EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work") << line;
+    EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
+  }
+  EXPECT_TRUE(LoadWith(L"Settings", L"Path", L"").empty());
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
+}
+
 TEST(Settings, AMissingFilterFileGivesTheDefaultsOfWhatItCouldHold) {
   General.TextWidth = 132;
   Format.SubLevel = 7;
@@ -280,6 +293,59 @@ TEST(Settings, ANewFilterFileIsAnsiUntilAValueNeedsMore) {
   General.Header.clear();
   LoadFilterFile(L"C:\\sets\\b.fvf");
   EXPECT_EQ(General.Header, L"\u0416");
+}
+
+std::string BigEndian(const std::wstring& text) {
+  std::string bytes = platform::ToUtf16(text);
+  for (std::size_t i = 0; i < bytes.size(); i += 2) {
+    std::swap(bytes[i], bytes[i + 1]);
+  }
+  return bytes;
+}
+
+/// A filter file of the given lines, in each encoding.
+std::vector<std::string> InEveryEncoding(const std::wstring& lines) {
+  const std::wstring text = L"[Folivant 3.5]\r\n" + lines;
+  const std::string ascii = platform::ToAnsi(text);
+  return {"; \xE9\r\n" + ascii, "; \xC3\xA9\r\n" + ascii, "\xEF\xBB\xBF" + ascii, "\xFF\xFE" + platform::ToUtf16(text),
+          "\xFE\xFF" + BigEndian(text)};
+}
+
+TEST(Settings, AFilterFileIsReadInEveryEncoding) {
+  for (const std::string& file : InEveryEncoding(L"SubLevel=3\r\n")) {
+    Tree().File(kFilterFile, file);
+    Format.SubLevel = 0;
+    LoadFilterFile(kFilterFile);
+    EXPECT_EQ(Format.SubLevel, 3) << file;
+  }
+}
+
+TEST(Settings, ASavedPathComesBackWhateverItsLettersAre) {
+  for (const wchar_t* path : {L"C:\\Work", L"C:\\Caf\u00E9", L"C:\\\u0416", L"C:\\\U0001F600", L"C:\\\u00C3\u00A9"}) {
+    Tree().Dir(path);
+    std::vector<std::string> before = InEveryEncoding(L"");
+    before.emplace_back();  // a new file
+    for (const std::string& file : before) {
+      LoadSettings();
+      Tree().File(kFilterFile, file);
+      mdlVars::Tree.StartPath = path;
+      SaveFilterFile(kFilterFile);
+      EXPECT_EQ(Fake().Content(kFilterFile).find('?'), std::string::npos);
+      mdlVars::Tree.StartPath.clear();
+      LoadFilterFile(kFilterFile);
+      EXPECT_EQ(mdlVars::Tree.StartPath, path) << Fake().Content(kFilterFile);
+    }
+  }
+}
+
+TEST(Settings, AFilterFileKeepsItsEncoding) {
+  Tree().Dir(L"C:\\\u0416");
+  LoadSettings();
+  mdlVars::Tree.StartPath = L"C:\\\u0416";
+  Tree().File(kFilterFile, "; Caf\xC3\xA9\r\n[Folivant 3.5]\r\n");
+  SaveFilterFile(kFilterFile);
+  EXPECT_TRUE(Fake().Content(kFilterFile).starts_with("; Caf\xC3\xA9\r\n[Folivant 3.5]\r\n"));
+  EXPECT_NE(Fake().Content(kFilterFile).find("\r\nPath=C:\\\xD0\x96\r\n"), std::string::npos);
 }
 
 TEST(Settings, OuterBlanksSurviveAFilterFile) {
@@ -424,12 +490,86 @@ TEST(Settings, ABadOlderKeyIsToldByItsOwnName) {
 
 TEST(Settings, ABadValueOfAFilterFileIsReportedWithTheFile) {
   mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
-  FilterFile("SubLevel=deep\r\nOrderBy=x\r\n");
+  FilterFile("SubLevel=deep\r\n");
+  LoadFilterFile(kFilterFile);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf|SubLevel|deep");
+  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+}
+
+TEST(Settings, BadValuesAreReportedInOneList) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  FilterFile("SubLevel=deep\r\nOrderBy=" + std::string(61, 'x') + "\r\nFilter=\r\nFontSize=" + std::string(60, 'y') +
+             "\r\n");
+  LoadFilterFile(kFilterFile);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"Bad in C:\\sets\\a.fvf:\r\n\r\nFontSize=" + std::wstring(60, L'y') +
+                                         L"\r\nFilter=\r\nOrderBy=" + std::wstring(60, L'x') + L"...\r\nSubLevel=deep");
+  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+  EXPECT_EQ(Fake().Messages[0].Buttons, platform::BoxButtons::Ok);
+}
+
+TEST(Settings, AVeryLongListOfBadValuesIsCut) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::MoreBadSettings), L"and %1 more");
+  const std::string ten =
+      "MarginLeft=x\r\nMarginRight=x\r\nMarginTop=x\r\nMarginBottom=x\r\nPortrait=x\r\nFontSize=x\r\nFont80HF=x\r\n"
+      "FontSizeHF=x\r\nFilter=x\r\nFilterSizeMin=x\r\n";
+  FilterFile(ten);
+  LoadFilterFile(kFilterFile);
+  FilterFile(ten + "OrderBy=x\r\nSubLevel=x\r\n");
   LoadFilterFile(kFilterFile);
   ASSERT_EQ(Fake().Messages.size(), 2u);
-  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf|OrderBy|x");
-  EXPECT_EQ(Fake().Messages[1].Text, L"C:\\sets\\a.fvf|SubLevel|deep");
-  EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Exclamation);
+  EXPECT_TRUE(Fake().Messages[0].Text.ends_with(L"\r\nFilter=x\r\nFilterSizeMin=x"));
+  EXPECT_EQ(Fake().Messages[1].Text, Fake().Messages[0].Text + L"\r\nand 2 more");
+}
+
+TEST(Settings, BadValuesOfTheStoreAreListedBelowTheirPlaces) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  Fake().Store[{L"Settings", L"TextWidth"}] = L"wide";
+  ReportBadSettings(LoadWith(L"Format", L"SubLevel", L"deep"));
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text,
+            L"Bad in HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Settings:\r\n\r\nTextWidth=wide\r\n\r\n"
+            L"Bad in HKEY_CURRENT_USER\\Software\\Folivant 3.0\\Format:\r\n\r\nSubLevel=deep");
+}
+
+TEST(Settings, NothingIsReportedWhereNothingIsBad) {
+  ReportBadSettings({});
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST(Settings, AFileWithoutSettingsIsLoadedOnlyIfTheUserWantsTheDefaults) {
+  mdlVars::Texts.Set(static_cast<std::size_t>(Text::LoadDefaults), L"Nothing in %1. Defaults?");
+  for (const char* content : {"", "Just a letter.\r\n", "[Other]\r\nSubLevel=3\r\n", "SubLevel=3\r\n"}) {
+    Tree().File(kFilterFile, content);
+    Format.SubLevel = 7;
+    mdlVars::FilterFile = L"C:\\before.fvf";
+    Fake().Messages.clear();
+    Fake().Answers = {platform::BoxAnswer::No};
+    EXPECT_FALSE(LoadFilterFileIfWanted(kFilterFile)) << content;
+    EXPECT_EQ(Format.SubLevel, 7);
+    EXPECT_EQ(mdlVars::FilterFile, L"C:\\before.fvf");
+    ASSERT_EQ(Fake().Messages.size(), 1u);
+    EXPECT_EQ(Fake().Messages[0].Text, L"Nothing in C:\\sets\\a.fvf. Defaults?");
+    EXPECT_EQ(Fake().Messages[0].Icon, platform::BoxIcon::Question);
+    EXPECT_EQ(Fake().Messages[0].Buttons, platform::BoxButtons::YesNo);
+    EXPECT_EQ(Fake().Messages[0].Preset, platform::BoxDefault::Second);
+    Fake().Answers = {platform::BoxAnswer::Yes};
+    EXPECT_TRUE(LoadFilterFileIfWanted(kFilterFile));
+    EXPECT_EQ(Format.SubLevel, 0);
+    EXPECT_EQ(mdlVars::FilterFile, kFilterFile);
+  }
+}
+
+TEST(Settings, AFileWithSettingsIsLoadedWithoutAQuestion) {
+  for (const char* content : {"[Folivant 3.5]\r\nSubLevel=3\r\n", "\xEF\xBB\xBF[folivant 3.5]\r\nSubLevel=3\r\n"}) {
+    Tree().File(kFilterFile, content);
+    Format.SubLevel = 7;
+    EXPECT_TRUE(LoadFilterFileIfWanted(kFilterFile));
+    EXPECT_EQ(Format.SubLevel, 3);
+  }
+  EXPECT_TRUE(Fake().Messages.empty());
 }
 
 TEST(Settings, NumbersAndFlagsAreReadAsPeopleWriteThem) {

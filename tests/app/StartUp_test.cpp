@@ -28,7 +28,8 @@ class StartUp : public testing::Test {
     Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
                 "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n183=None "
                 "chosen.\r\n13=OK\r\n184=Unexpected.\r\n185=No memory.\r\n"
-                "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n");
+                "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n"
+                "171=No path in %1, none.\r\n172=%1 is over %2 MB\r\n");
   }
 
   static void FilterFile(const std::string& lines) {
@@ -73,6 +74,16 @@ TEST_F(StartUp, AStoredFindStyleStaysWhenTheStoredDirectoryIsGone) {
   Store(L"Format", L"5");
   Start(L"");
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::FindWindow);
+}
+
+TEST_F(StartUp, ASlashInAStoredPathSeparatesLikeABackslash) {
+  Tree().Dir(L"C:\\Data\\Deep\\Er").File(L"B.txt");
+  Store(L"Path", L"c:\\data/deep/er");
+  Start(L"");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data\\Deep\\Er");
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=4\r\nPath=C:/Data/Deep\\Er\r\nOutputTo=1\r\n");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /o C:\\Out\\list.txt /g"), kExitDone);
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\Deep\\Er\\B.txt\r\n");
 }
 
 TEST_F(StartUp, ASentDirectoryIsTheOneToList) {
@@ -324,6 +335,22 @@ TEST_F(StartUp, AnUnreadableFilterFileIsToldAndFails) {
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /g"), kExitFailed);
   ASSERT_EQ(Fake().Messages.size(), 1u);
   EXPECT_EQ(Fake().Messages[0].Text, L"Cannot read \"C:\\sets\\a.fvf\": Access is denied. (5)");
+}
+
+TEST_F(StartUp, AFilterFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
+  FilterFile(std::string(std::size_t{16} * 1024 * 1024, ' '));
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"C:\\sets\\a.fvf is over 16 MB");
+  EXPECT_FALSE(Exists(L"C:\\Out\\list.txt"));
+}
+
+TEST_F(StartUp, AListWithoutAFullPathIsToldAndFails) {
+  Tree().File(L"C:\\Data\\list.txt", "A.txt\r\n");
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=6\r\nPath=C:\\Data\\list.txt\r\n");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, L"No path in C:\\Data\\list.txt, none.");
 }
 
 TEST_F(StartUp, ABadStoredValueIsToldInTheLanguageAndTheStartGoesOn) {

@@ -9,6 +9,12 @@ namespace {
 
 using namespace std::string_literals;
 
+TEST(WithBackslashes, TurnsEverySlash) {
+  EXPECT_EQ(WithBackslashes(L"C:/data\\sub/f.txt"), L"C:\\data\\sub\\f.txt");
+  EXPECT_EQ(WithBackslashes(L"//server/share"), L"\\\\server\\share");
+  EXPECT_EQ(WithBackslashes(L""), L"");
+}
+
 TEST(MdlFileRoutinesTest, StripNullsCutsAtTheFirstNulAndTrims) {
   EXPECT_EQ(StripNulls(L"text"), L"text");
   EXPECT_EQ(StripNulls(L"  text \0more\0"s), L"text");

@@ -225,6 +225,17 @@ TEST_F(CommandLine, ASettingThatDoesNotConvertIsNamedOnceAndTakesItsDefault) {
   EXPECT_NE(ReadBytes(filter).find("SubLevel=many"), std::string::npos) << "reading overwrites nothing";
 }
 
+TEST_F(CommandLine, SettingsThatDoNotConvertAreNamedTogether) {
+  filter = scratch.FilterFile(L"bad.fvf", {"Format=4", "SubLevel=many", "OrderBy=x", "FShow=1"});
+  const Program program(L"/f " + filter + L" /d " + Data() + L" /t t /o " + Output() + L" /g");
+  const Window box = program.WaitForBox();
+  for (const wchar_t* word : {L"bad.fvf", L"SubLevel=many", L"OrderBy=x", L"FShow=1"}) {
+    EXPECT_NE(box.BoxText().find(word), std::wstring::npos) << word;
+  }
+  box.Answer(IDOK);
+  EXPECT_EQ(program.WaitForExit(), 0u);
+}
+
 TEST_F(CommandLine, APathListIsListedFromAFilterFile) {
   const std::string path = Narrow(Data());
   const std::wstring paths = scratch.File(L"paths.lst", path + "\\A.txt\r\n\r\n" + path + "\\A.txt\r\n");

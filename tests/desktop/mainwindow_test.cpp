@@ -206,6 +206,31 @@ TEST_F(MainWindow, AFilterFileCarriesTheListingAndNoHabits) {
   Close(program, main);
 }
 
+TEST_F(MainWindow, AFileWithoutSettingsIsAskedAboutBeforeTheDefaultsAreLoaded) {
+  WriteStore(L"Filter", L"FilterName", L"*.doc");
+  const std::wstring file = scratch.File(L"letter.txt", "Dear reader,\r\n");
+  std::wstring question = Message(175);
+  question.replace(question.find(L"%1"), 2, file);
+  question.replace(question.find(L"\\n"), 2, L"\n");
+  const Program program(Argument());
+  const Window main = Main(program);
+  for (const int answer : {IDNO, IDYES}) {
+    main.Press(cmdLoad);
+    const Window open = program.WaitForBox(main);
+    Confirm(open, file);
+    EXPECT_TRUE(open.WaitUntilGone());
+    const Window box = program.WaitForBox(main);
+    std::wstring text = box.BoxText();
+    std::erase(text, L'\r');
+    EXPECT_EQ(text, question);
+    EXPECT_EQ(box.DefaultButton(), IDNO);
+    box.Answer(answer);
+    EXPECT_TRUE(main.StaysReady());
+    EXPECT_EQ(main.TextOf(lblFilter), answer == IDNO ? L"*.doc" : L"*.*");
+  }
+  Close(program, main);
+}
+
 TEST_F(MainWindow, AnUnknownLanguageFileFallsBackToEnglish) {
   WriteStore(L"Settings", L"Language", L"nowhere.ini");
   const Program program(Argument());

@@ -215,6 +215,15 @@ class StartDirectories(ExeTest):
                 names = self.paths(native=native, tree=f'{self.tree}/Script/./../Data')
                 self.assertEqual(names, ['Data\\Here.txt'])
 
+    def test_a_slash_in_a_filter_file_separates_like_a_backslash(self):
+        self.file('here.txt')
+        self.file('data/sub/here.txt')
+        for path in [f'Z:{self.tree}/data/sub', f'{windows_path(self.tree)}\\data/sub']:
+            for native in [False, True]:
+                with self.subTest(path=path, native=native):
+                    status, errors, listing = self.run_program('Format=4', f'Path={path}', native=native)
+                    self.assertEqual((status, listing), (0, windows_path(self.tree).encode() + b'\\data\\sub\\Here.txt\r\n'), errors)
+
     def test_a_share_that_is_not_there_gives_status_2(self):
         for native in [False, True]:
             with self.subTest(native=native):
@@ -256,8 +265,62 @@ class PathLists(ExeTest):
         self.file('Caf\u00e9.txt')
         self.check(f'{windows_path(self.tree)}\\Caf\u00e9.txt\n'.encode('cp1252'), ['Caf\u00e9.txt'])
 
+    def test_a_slash_separates_like_a_backslash(self):
+        tree = windows_path(self.tree)
+        self.file('f.txt', 1)
+        self.file('data/sub/f.txt', 22)
+        folder = shown_path(self.tree / 'data' / 'sub')
+        for line in [f'{tree}\\data/sub/f.txt', f'{tree}/data\\sub/f.txt', str(self.tree / 'data/sub/f.txt')]:
+            for native in [False, True]:
+                with self.subTest(line=line, native=native):
+                    full = line if ':' in line else 'Z:' + line
+                    self.assertEqual(self.rows(full.encode(), native), (0, [('F.txt', folder)]))
+
+    def test_every_other_encoding(self):
+        tree = windows_path(self.tree)
+        self.file('Caf\u00e9.txt')
+        self.file('Two.txt')
+        text = f'{tree}\\Caf\u00e9.txt\r\n{tree}\\Two.txt'
+        for content in [text.encode(), text.encode('utf-8-sig'), ('\ufeff' + text).encode('utf-16-be')]:
+            with self.subTest(content=content[:4]):
+                self.check(content, ['Caf\u00e9.txt', 'Two.txt'])
+
+    def test_a_list_of_many_pieces(self):
+        tree = windows_path(self.tree)
+        names = [f'{"x" * (number % 60)}\u0416{number}.txt' for number in range(40)]
+        for name in names:
+            self.file(name)
+        lines = ''.join(f'{tree}\\{name}\r\n' for name in names * 50)
+        listed = ['?'.join(name.split('\u0416')) for name in names * 50]  # listings are in the ANSI code page
+        for encoding in ['utf-8', 'utf-16']:
+            content = lines.encode(encoding)
+            self.assertGreater(len(content), 2 * 65536)
+            for native in [False, True]:
+                with self.subTest(encoding=encoding, native=native):
+                    status, rows = self.rows(content, native)
+                    self.assertEqual((status, [name.lower() for name, _ in rows]), (0, listed))
+
+    def test_quotes_tabs_and_blanks_around_a_line(self):
+        tree = windows_path(self.tree)
+        self.file('One.txt')
+        self.file('Two.txt')
+        self.file('Odd ')
+        lines = f'"{tree}\\One.txt"\r\n\t {tree}\\Two.txt \t\r\n \t"{tree}\\Odd "\t'
+        self.check(lines.encode(), ['One.txt', 'Two.txt', 'Odd'])  # a row's name loses its outer blanks
+
     def test_an_empty_list(self):
-        self.check(b'', [])
+        for content in [b'', b'\r\n \r\n\t', b'""']:
+            self.check(content, [])
+
+    def test_a_list_without_a_full_path_ends_the_run_with_status_1(self):
+        for content in ['One.txt', str(self.tree).encode('utf-16-le').decode('latin-1')]:
+            with self.subTest(content=content):
+                path = self.work / 'paths.lst'
+                path.write_bytes(content.encode('latin-1'))
+                status, errors, _ = self.run_program('Format=6', f'Path={windows_path(path)}', native=True)
+                self.assertEqual(status, 1)
+                self.assertIn(b'No listing was made', errors)
+                self.assertIn(windows_path(path).encode(), errors)
 
     def test_a_missing_file_or_an_endless_line_ends_the_run_with_status_1(self):
         for name in ['Gone.txt', 'x' * 40000]:

@@ -2,6 +2,7 @@
 
 #include "fakes/FakePlatform.h"
 #include "platform/Files.h"
+#include "platform/InputFile.h"
 #include "platform/OutputFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
@@ -49,7 +50,30 @@ std::wstring RootOf(const std::wstring& path) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::wstring& path) {
+struct InputFile::State {
+  std::wstring Path;
+  std::string_view Left;
+};
+
+InputFile::InputFile(const std::wstring& path) : state_(std::make_unique<State>(State{AbsolutePath(path), {}})) {
+  Rewind();
+}
+
+InputFile::~InputFile() = default;
+
+const std::wstring& InputFile::Path() const {
+  return state_->Path;
+}
+
+std::size_t InputFile::Read(std::span<char> room) {
+  const std::string_view piece = state_->Left.substr(0, room.size());
+  std::copy(piece.begin(), piece.end(), room.begin());
+  state_->Left.remove_prefix(piece.size());
+  return piece.size();
+}
+
+void InputFile::Rewind() {
+  const std::wstring& path = state_->Path;
   ThrowInjected(Fake().FailReads, FailedAction::ReadFile, path);
   const FakeNode* node = Fake().Tree.Find(path);
   if (node == nullptr) {
@@ -58,7 +82,7 @@ std::string ReadWholeFile(const std::wstring& path) {
   if (node->IsDirectory() || node->Unreadable) {
     Throw(FailedAction::ReadFile, path, fakes::AccessDenied());
   }
-  return node->Content;
+  state_->Left = node->Content;
 }
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {

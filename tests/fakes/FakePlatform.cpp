@@ -74,10 +74,9 @@ CalendarTime Now() {
   return Fake().Now;
 }
 
-std::uint64_t ToLocalFileTime(std::uint64_t utc) {
+std::int64_t LocalOffset() {
   constexpr std::int64_t kTicksPerMinute = 600'000'000;
-  const std::int64_t local = static_cast<std::int64_t>(utc) + Fake().LocalOffsetMinutes * kTicksPerMinute;
-  return local < 0 ? 0 : static_cast<std::uint64_t>(local);
+  return Fake().LocalOffsetMinutes * kTicksPerMinute;
 }
 
 std::uint32_t TimerMilliseconds() {

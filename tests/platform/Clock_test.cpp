@@ -40,12 +40,14 @@ TEST(ToLocalFileTime, ShiftsEveryDateByTodaysOffset) {
   const std::uint64_t july = january + 181 * 86'400 * kTicks;
   const std::uint64_t long_ago = 1'000'000 * kTicks;
   for (const std::uint64_t utc : {january, july, long_ago}) {
-    EXPECT_EQ(ToLocalFileTime(utc), static_cast<std::uint64_t>(static_cast<std::int64_t>(utc) + shift));
+    EXPECT_EQ(ToLocalFileTime(utc, LocalOffset()), static_cast<std::uint64_t>(static_cast<std::int64_t>(utc) + shift));
   }
 }
 
 TEST(ToLocalFileTime, NeverFallsBelowZero) {
-  EXPECT_EQ(ToLocalFileTime(0), static_cast<std::uint64_t>(std::max<std::int64_t>(OffsetToday(), 0)) * kTicks);
+  EXPECT_EQ(ToLocalFileTime(0, -1), 0U);
+  EXPECT_EQ(ToLocalFileTime(5, -5), 0U);
+  EXPECT_EQ(ToLocalFileTime(0, 7), 7U);
 }
 
 TEST(Timer, CountsMilliseconds) {

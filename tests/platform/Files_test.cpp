@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/InputFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Scratch.h"
 
@@ -45,6 +46,43 @@ TEST(Files, ReadsAllBytes) {
   EXPECT_EQ(ReadWholeFile(scratch.MakeFile(L"empty")), "");
 }
 
+TEST(Files, ReadsNothingThatIsLargerThanALimit) {
+  const Scratch scratch;
+  const std::wstring path = scratch.MakeFile(L"large");
+  std::filesystem::resize_file(Scratch::Native(path), kLongestWholeFile);
+  EXPECT_EQ(ReadWholeFile(path).size(), kLongestWholeFile);
+  std::filesystem::resize_file(Scratch::Native(path), kLongestWholeFile + 1);
+  const RuntimeError error = ErrorOf([&] { ReadWholeFile(path); });
+  EXPECT_EQ(error.Action(), FailedAction::ReadLargeFile);
+  EXPECT_EQ(error.Object(), path);
+  EXPECT_EQ(error.SystemText(), L"16");
+}
+
+TEST(InputFile, ReadsInPiecesAndFromTheBeginningAgain) {
+  const Scratch scratch;
+  InputFile file(scratch.MakeFile(L"a.txt", "0123456789"));
+  EXPECT_EQ(file.Path(), scratch.Path(L"a.txt"));
+  std::string room(4, '-');
+  EXPECT_EQ(file.Read(room), 4U);
+  EXPECT_EQ(room, "0123");
+  EXPECT_EQ(file.Read(room), 4U);
+  EXPECT_EQ(file.Read(room), 2U);
+  EXPECT_EQ(room, "8967");
+  EXPECT_EQ(file.Read(room), 0U);
+  file.Rewind();
+  EXPECT_EQ(file.Read(room), 4U);
+  EXPECT_EQ(room, "0123");
+}
+
+TEST(InputFile, SaysWhichFileCannotBeOpened) {
+  const Scratch scratch;
+  const Inside inside(scratch.Folder());
+  const RuntimeError error = ErrorOf([] { const InputFile file(L"missing.txt"); });
+  EXPECT_EQ(error.Action(), FailedAction::ReadFile);
+  EXPECT_EQ(error.Object(), CurrentDirectory() + L"\\missing.txt");
+  EXPECT_EQ(error.SystemCode(), 2U);
+}
+
 TEST(Files, SaysWhichFileCannotBeRead) {
   const Scratch scratch;
   const RuntimeError error = ErrorOf([&] { ReadWholeFile(scratch.Path(L"missing.txt")); });
@@ -79,6 +117,32 @@ TEST(ReplaceFile, LeavesNothingBehindWhenItFails) {
   EXPECT_NE(error.SystemCode(), 0U);
   EXPECT_EQ(scratch.Count(), 1);
   EXPECT_TRUE(IsDirectory(scratch.Path(L"folder")));
+}
+
+TEST(ReplaceFile, TakesNamesAsLongAsTheyMayBe) {
+  const Scratch scratch;
+  for (const std::size_t length : {std::size_t{200}, std::size_t{247}, std::size_t{248}, std::size_t{255}}) {
+    const std::wstring name = std::wstring(length - 4, L'n') + L".fvf";
+    ReplaceFile(scratch.Path(name), "first");
+    ReplaceFile(scratch.Path(name), "second");
+    EXPECT_EQ(scratch.Content(name), "second") << length;
+  }
+  EXPECT_EQ(scratch.Count(), 4);
+}
+
+TEST(ReplaceFile, LeavesReadOnlyFilesAlone) {
+  using std::filesystem::perms;
+  const Scratch scratch;
+  const auto path = Scratch::Native(scratch.MakeFile(L"a.fvf", "old"));
+  const perms write = perms::owner_write | perms::group_write | perms::others_write;
+  std::filesystem::permissions(path, write, std::filesystem::perm_options::remove);
+  const RuntimeError error = ErrorOf([&] { ReplaceFile(scratch.Path(L"a.fvf"), "new"); });
+  EXPECT_EQ(error.Action(), FailedAction::WriteFile);
+  EXPECT_EQ(error.Object(), scratch.Path(L"a.fvf"));
+  EXPECT_NE(error.SystemCode(), 0U);
+  EXPECT_EQ(scratch.Content(L"a.fvf"), "old");
+  EXPECT_EQ(scratch.Count(), 1);
+  std::filesystem::permissions(path, write, std::filesystem::perm_options::add);
 }
 
 TEST(ReplaceFile, SaysWhenTheFolderIsMissing) {

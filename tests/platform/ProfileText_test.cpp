@@ -96,5 +96,34 @@ TEST(ProfileText, BecomesUtf16WhenAnsiCannotHoldIt) {
   EXPECT_EQ(ProfileText(bytes).Read(L"S", L"a"), L"\u00E4");
 }
 
+TEST(ProfileText, ReadsEveryEncoding) {
+  const std::string files[] = {
+      "[S]\nk=Caf\xE9\n",
+      "[S]\nk=Caf\xC3\xA9\n",
+      "\xEF\xBB\xBF[S]\nk=Caf\xC3\xA9\n",
+      std::string("\xFF\xFE[\0S\0]\0\n\0k\0=\0C\0a\0f\0\xE9\0", 22),
+      std::string("\xFE\xFF\0[\0S\0]\0\n\0k\0=\0C\0a\0f\0\xE9", 22),
+  };
+  for (const std::string& file : files) {
+    EXPECT_EQ(Value(file, L"S", L"k"), L"Caf\u00E9");
+  }
+}
+
+TEST(ProfileText, KeepsItsEncoding) {
+  EXPECT_EQ(Written("; \xE9\r\n[S]\r\n", L"S", L"k", L"\u00E4"), "; \xE9\r\n[S]\r\nk=\xE4\r\n");
+  EXPECT_EQ(Written("; \xC3\xA9\r\n[S]\r\n", L"S", L"k", L"\u65E5"), "; \xC3\xA9\r\n[S]\r\nk=\xE6\x97\xA5\r\n");
+  EXPECT_EQ(Written("\xEF\xBB\xBF[S]\r\n", L"S", L"k", L"\u65E5"), "\xEF\xBB\xBF[S]\r\nk=\xE6\x97\xA5\r\n");
+  EXPECT_EQ(Written(std::string_view("\xFF\xFE[\0S\0]\0", 8), L"S", L"k", L"\u65E5"),
+            std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE5\x65\r\0\n\0", 22));
+  EXPECT_EQ(Written(std::string_view("\xFE\xFF\0[\0S\0]", 8), L"S", L"k", L"\u65E5"),
+            std::string("\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\x65\xE5\0\r\0\n", 22));
+}
+
+TEST(ProfileText, BecomesUtf16WhenItsBytesWouldBeReadAsUtf8) {
+  const std::string bytes = Written("[S]\r\n", L"S", L"k", L"C:\\\u00C3\u00A9");
+  EXPECT_TRUE(bytes.starts_with("\xFF\xFE"));
+  EXPECT_EQ(Value(bytes, L"S", L"k"), L"C:\\\u00C3\u00A9");
+}
+
 }  // namespace
 }  // namespace folivant::platform

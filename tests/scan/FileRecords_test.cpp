@@ -22,7 +22,8 @@ class FileRecordsTest : public ListingTest {
   }
   FileRecord Fill(std::int32_t level = 0) {
     const NamePatterns patterns;
-    const WalkSettings settings{mdlVars::Filter, patterns, Format, mdlVars::General, mdlVars::Texts, Pattern};
+    const WalkSettings settings{mdlVars::Filter,        patterns, Format, mdlVars::General, mdlVars::Texts, Pattern,
+                                platform::LocalOffset()};
     FileRecordFiller filler(settings);
     platform::FindData entry = Entry;
     FileRecord record = filler.FillFileRecord(entry, level, Texts);
@@ -128,7 +129,8 @@ TEST_F(FileRecordsTest, TheDateKeyIsShiftedOnceMoreThanTheDateText) {
 
 TEST_F(FileRecordsTest, DatesOfOneFillerDoNotStick) {
   const NamePatterns patterns;
-  const WalkSettings settings{mdlVars::Filter, patterns, Format, mdlVars::General, mdlVars::Texts, Pattern};
+  const WalkSettings settings{mdlVars::Filter,        patterns, Format, mdlVars::General, mdlVars::Texts, Pattern,
+                              platform::LocalOffset()};
   FileRecordFiller filler(settings);
   const std::pair<platform::CalendarTime, std::wstring> rows[] = {
       {{1999, 9, 5, 7, 8, 9}, L"05/09/1999 07:08"},   {{1999, 9, 5, 7, 8, 59}, L"05/09/1999 07:08"},
@@ -150,14 +152,14 @@ TEST_F(FileRecordsTest, DateSeparatorsAreTheUsers) {
 TEST(FileDatesTest, EachCallShiftsTheRecordOnceMore) {
   fakes::Fake().LocalOffsetMinutes = -90;
   std::uint64_t time = fakes::FileTime({2000, 1, 1, 1, 0, 0});
-  EXPECT_EQ(FileDateOf(time), ToDateValue({1999, 12, 31, 23, 30, 0}));
-  EXPECT_EQ(FileDateOf(time), ToDateValue({1999, 12, 31, 22, 0, 0}));
+  EXPECT_EQ(FileDateOf(time, platform::LocalOffset()), ToDateValue({1999, 12, 31, 23, 30, 0}));
+  EXPECT_EQ(FileDateOf(time, platform::LocalOffset()), ToDateValue({1999, 12, 31, 22, 0, 0}));
   EXPECT_EQ(time, fakes::FileTime({1999, 12, 31, 22, 0, 0}));
 }
 
 TEST(FileDatesTest, FractionsOfASecondAreDropped) {
   std::uint64_t time = fakes::FileTime({2000, 1, 1, 1, 2, 3}) + 9'999'999;
-  EXPECT_EQ(FileDateOf(time), ToDateValue({2000, 1, 1, 1, 2, 3}));
+  EXPECT_EQ(FileDateOf(time, platform::LocalOffset()), ToDateValue({2000, 1, 1, 1, 2, 3}));
 }
 
 }  // namespace

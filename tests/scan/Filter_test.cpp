@@ -18,7 +18,7 @@ class FilterTest : public testing::Test {
   }
   bool Passes() {
     platform::FindData entry = Entry;
-    return MatchesFilter(entry, Settings, NamePatterns(Settings.FilterName));
+    return MatchesFilter(entry, Settings, NamePatterns(Settings.FilterName), platform::LocalOffset());
   }
   bool PassesWithSize(std::uint32_t size) {
     Entry.SizeLow = size;
@@ -108,7 +108,7 @@ TEST_F(FilterTest, TheRecordKeepsWhatTheDateTestMadeOfIt) {
   Settings.DateOn = true;
   Settings.DateMin = ToDateValue({1999, 1, 1});
   Settings.DateMax = ToDateValue({2000, 1, 1});
-  MatchesFilter(Entry, Settings, NamePatterns(L""));
+  MatchesFilter(Entry, Settings, NamePatterns(L""), platform::LocalOffset());
   EXPECT_EQ(Entry.LastWrite, fakes::FileTime({1999, 9, 30, 12, 15, 0}));
 }
 
@@ -117,7 +117,7 @@ TEST_F(FilterTest, AnEntryThatFailsTheLowerLimitIsConvertedOnce) {
   Settings.DateOn = true;
   Settings.DateMin = ToDateValue({2000, 1, 1});
   Settings.DateMax = ToDateValue({2001, 1, 1});
-  MatchesFilter(Entry, Settings, NamePatterns(L""));
+  MatchesFilter(Entry, Settings, NamePatterns(L""), platform::LocalOffset());
   EXPECT_EQ(Entry.LastWrite, fakes::FileTime({1999, 9, 30, 11, 15, 0}));
 }
 

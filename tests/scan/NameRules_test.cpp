@@ -71,6 +71,21 @@ TEST_F(GetLongPathTest, ResolvesDots) {
   EXPECT_EQ(GetLongPath(L"c:\\program files\\tools\\mixedcase\\..").OnDisk, L"C:\\Program Files\\TOOLS");
 }
 
+TEST_F(GetLongPathTest, TakesASlashForABackslash) {
+  const std::pair<std::wstring, std::wstring> rows[] = {
+      {L"c:/program files/tools", L"C:\\Program Files\\Tools"},
+      {L"c:\\program files/tools\\mixedcase", L"C:\\Program Files\\Tools\\MixedCase"},
+      {L"c:/program files\\tools/../tools/", L"C:\\Program Files\\Tools"},
+      {L"c:/", L"C:\\"},
+      {L"//server/share/docs", L"\\\\Server\\Share\\Docs"},
+      {L"c:/program files/missing", L""},
+  };
+  for (const auto& [path, expected] : rows) {
+    EXPECT_EQ(GetLongPath(path).Shown, expected) << testing::PrintToString(path);
+  }
+  EXPECT_EQ(GetLongPath(L"c:\\program files/tools").OnDisk, L"C:\\Program Files\\TOOLS");
+}
+
 TEST_F(GetLongPathTest, AnswersNothingForAPathThatIsNotUsable) {
   for (const wchar_t* path : {L"", L"c", L"c:", L"c:data", L"data", L"\\data", L"c:\\missing",
                               L"c:\\program files\\missing\\tools", L"\\\\", L"\\\\server"}) {

@@ -46,6 +46,25 @@ TEST_F(MdlScanTest, TotalsStartAfreshInEveryRun) {
   EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 10);
 }
 
+TEST_F(MdlScanTest, ARunKeepsItsLocalOffsetAndTheNextOneAsksAgain) {
+  Tree().Dir(L"C:\\Data").File(L"a.txt");
+  Tree().Dir(L"C:\\Data\\Sub").File(L"b.txt");
+  Writer.Details = true;
+  Watcher.OnDirectory = [](std::wstring_view) { fakes::Fake().LocalOffsetMinutes += 60; };
+  const auto timesOf = [&] {
+    std::vector<std::wstring> times;
+    for (const std::wstring& event : List(kDeep)) {
+      const std::wstring day = L"2001/02/03 ";
+      for (std::size_t at = event.find(day); at != event.npos; at = event.find(day, at + 1)) {
+        times.push_back(event.substr(at + day.size(), 5));
+      }
+    }
+    return times;
+  };
+  EXPECT_THAT(timesOf(), ElementsAre(L"04:05", L"04:05", L"04:05"));  // two files and a directory
+  EXPECT_THAT(timesOf(), ElementsAre(L"06:05", L"06:05", L"06:05"));
+}
+
 TEST_F(MdlScanTest, ARunAfterACancelledOneIsNotCancelled) {
   Tree().Dir(L"C:\\Data\\Locked").Unreadable();
   Watcher.CancelNow = true;

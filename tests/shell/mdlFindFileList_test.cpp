@@ -89,6 +89,13 @@ TEST_F(PathList, DatesAreLocalAndFollowTheRunsPattern) {
   EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Modified, L"03/02/01 06:05");
 }
 
+TEST_F(PathList, EachListHasTheLocalOffsetOfItsTime) {
+  const char* const list = "C:\\Data\\README.TXT";
+  EXPECT_EQ(Read(list).Items[0].Modified, L"2001/02/03 04:05");
+  Fake().LocalOffsetMinutes = -60;
+  EXPECT_EQ(Read(list).Items[0].Modified, L"2001/02/03 03:05");
+}
+
 TEST_F(PathList, BlankLinesYieldNoRows) {
   EXPECT_EQ(NamesOf("\r\n   \r\nC:\\Data\\README.TXT\r\n\r\n\r\nC:\\Data\\Big.bin\r\n\r\n"),
             (Names{L"Readme.txt", L"Big.bin"}));
@@ -97,6 +104,16 @@ TEST_F(PathList, BlankLinesYieldNoRows) {
 
 TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
   EXPECT_EQ(NamesOf("README.TXT\r\nC:README.TXT\r\n\\Data\r\nC:\r\nx\r\nC:\\Data\\Big.bin"), (Names{L"Big.bin"}));
+}
+
+TEST_F(PathList, ASlashSeparatesLikeABackslash) {
+  Tree().Dir(L"C:\\Data").Dir(L"deep").Dir(L"er").File(L"b.doc", 1);
+  const Rows rows = Read("c:\\data/deep/er/b.doc\r\nC:/Data/deep\\b.doc");
+  ASSERT_EQ(rows.Items.size(), 2u);
+  EXPECT_EQ(rows.Items[0].Name, L"B.doc");
+  EXPECT_EQ(rows.Items[0].InFolder, L"C:\\Data\\Deep\\Er");
+  EXPECT_EQ(rows.Items[1].InFolder, L"C:\\Data\\Deep");
+  EXPECT_THROW(Read("C:/Data/gone.txt"), RuntimeError);
 }
 
 TEST_F(PathList, AnEmptyFileStillStartsTheOutput) {
@@ -120,6 +137,52 @@ TEST_F(PathList, AnsiUtf8AndUtf16FilesAreRead) {
                                 "C\0:\0\\\0D\0a\0t\0a\0\\\0\x16\x04.\0t\0x\0t\0\r\0\n\0",
                                 30)),
             (Names{L"\u0416.txt"}));
+}
+
+TEST_F(PathList, Utf8WithoutAMarkAndBigEndianFilesAreRead) {
+  Tree().Dir(L"C:\\Data").File(L"Caf\u00E9.txt").File(L"\u0416.txt");
+  EXPECT_EQ(NamesOf("C:\\Data\\\xD0\x96.txt\nC:\\Data\\Caf\xC3\xA9.txt"), (Names{L"\u0416.txt", L"Caf\u00E9.txt"}));
+  EXPECT_EQ(NamesOf(std::string("\xFE\xFF\0C\0:\0\\\0D\0a\0t\0a\0\\\x04\x16\0.\0t\0x\0t", 28)), (Names{L"\u0416.txt"}));
+}
+
+TEST_F(PathList, QuotedLinesAndTabsAroundThemAreRead) {
+  EXPECT_EQ(NamesOf("\"C:\\Data\\Big.bin\"\r\n\tC:\\Data\\README.TXT\t\r\n \t\"C:/Data/deep/b.doc\" \t"),
+            (Names{L"Big.bin", L"Readme.txt", L"B.doc"}));
+}
+
+TEST_F(PathList, LinesOfWhichNoneIsAFullPathAreAnErrorThatNamesTheList) {
+  const std::string utf16WithoutMark("C\0:\0\\\0D\0a\0t\0a\0", 14);
+  for (const std::string& lines : {std::string("README.TXT\r\nBig.bin"), std::string("\r\nx"), utf16WithoutMark}) {
+    Tree().File(L"C:\\list.txt", lines);
+    Rows rows;
+    NoProgress progress;
+    try {
+      PrintFromFileList(rows, progress);
+      FAIL() << "no error";
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Action(), FailedAction::ListPaths);
+      EXPECT_EQ(error.Object(), L"C:\\list.txt");
+    }
+    EXPECT_EQ(rows.Lists, 0);
+  }
+}
+
+TEST_F(PathList, ABlankListIsAnEmptyListing) {
+  for (const char* lines : {"\r\n", "  \r\n\t\r\n", "\"\"\r\n\"  \"", "\xEF\xBB\xBF\r\n"}) {
+    EXPECT_EQ(Read(lines).Lists, 1) << lines;
+  }
+}
+
+TEST_F(PathList, ALineThatIsLongerThanAnyPathIsNamedByItsBeginning) {
+  Tree().File(L"C:\\list.txt", "C:\\" + std::string(40'000, 'x'));
+  Rows rows;
+  NoProgress progress;
+  try {
+    PrintFromFileList(rows, progress);
+    FAIL() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Object(), L"C:\\" + std::wstring(256, L'x') + L"...");
+  }
 }
 
 TEST_F(PathList, AFileOfAMarkAloneIsEmpty) {

@@ -89,6 +89,20 @@ TEST(ErrorText, HasOneTextForEachAction) {
   }
 }
 
+TEST(ErrorText, ASentenceWithoutTheSystemsWordsStandsAsItIs) {
+  Messages texts;
+  texts.Set(171, L"No listing: no line of \"%1\" is a path.");
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ListPaths, L"C:\\a", {}, 0), texts),
+            L"No listing: no line of \"C:\\a\" is a path.");
+}
+
+TEST(ErrorText, NamesAFileThatIsTooLargeAndTheLimit) {
+  Messages texts;
+  texts.Set(172, L"Cannot read \"%1\": it is larger than %2 MB.");
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadLargeFile, L"C:\\a", L"16", 0), texts),
+            L"Cannot read \"C:\\a\": it is larger than 16 MB.");
+}
+
 TEST(ErrorText, IsShownWithAnExclamationMark) {
   ShowError(RuntimeError(FailedAction::ReadFile, L"x", L"no", 5), English());
   ASSERT_EQ(fakes::Fake().Messages.size(), 1u);

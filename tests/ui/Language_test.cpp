@@ -100,6 +100,16 @@ TEST(Language, AnUnreadableOrMalformedFileHasNoTexts) {
   EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
 }
 
+TEST(Language, AFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
+  File(L"english.ini", "[Messages]\r\n13=OK\r\n172=%1 is over %2\r\n");
+  File(L"dutch.ini", "[Messages]\r\n13=Goed\r\n" + std::string(std::size_t{16} * 1024 * 1024, ' '));
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  ASSERT_EQ(Fake().Messages.size(), 1u);
+  EXPECT_EQ(Fake().Messages[0].Text, kFolder + L"\\dutch.ini is over 16");
+  EXPECT_TRUE(ListLanguages(kFolder).empty());
+  EXPECT_EQ(Fake().Messages.size(), 1u) << "a list of languages leaves it out, silently";
+}
+
 TEST(Language, TextsEndAfter299Characters) {
   File(L"english.ini", "[Messages]\r\n0=" + std::string(299, 'a') + "\r\n1=" + std::string(299, 'b') +
                            "c\r\n2=" + std::string(5000, 'd') + "\r\n");
@@ -126,6 +136,18 @@ TEST(Language, Utf16FilesHoldEveryAlphabet) {
                                    "0\0=\0\x16\x04\x41\x01\r\0\n\0",
                                    38));
   EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"\u0416\u0141");
+}
+
+TEST(Language, Utf8AndBigEndianFilesAreReadAsWhatTheyAre) {
+  const std::string files[] = {"[Messages]\r\n0=\xD0\x96\xC5\x81\r\n",
+                               "\xEF\xBB\xBF[Messages]\r\n0=\xD0\x96\xC5\x81\r\n",
+                               std::string("\xFE\xFF\0[\0M\0e\0s\0s\0a\0g\0e\0s\0]\0\r\0\n"
+                                           "\0000\0=\x04\x16\x01\x41\0\r\0\n",
+                                           38)};
+  for (const std::string& file : files) {
+    File(L"english.ini", file);
+    EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"\u0416\u0141");
+  }
 }
 
 TEST(Language, TheHelpFileIsNamedAfterTheFileUpToItsFirstDot) {

@@ -2,7 +2,7 @@
 #include <string>
 
 #include "app/StartUp.h"
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 
 int main(int count, char** arguments) {
   std::string line;

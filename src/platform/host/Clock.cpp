@@ -1,12 +1,12 @@
 #include "platform/Clock.h"
 
-#include <algorithm>
 #include <ctime>
 
 namespace folivant::platform {
 namespace {
 
 tm LocalNow() {
+  tzset();  // localtime_r alone would stay with the zone that it found first
   const time_t now = time(nullptr);
   tm local{};
   localtime_r(&now, &local);
@@ -20,9 +20,8 @@ CalendarTime Now() {
   return {now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec};
 }
 
-std::uint64_t ToLocalFileTime(std::uint64_t utc) {
-  static const std::int64_t offset = LocalNow().tm_gmtoff * std::int64_t{10'000'000};
-  return static_cast<std::uint64_t>(std::max<std::int64_t>(static_cast<std::int64_t>(utc) + offset, 0));
+std::int64_t LocalOffset() {
+  return LocalNow().tm_gmtoff * std::int64_t{10'000'000};
 }
 
 std::uint32_t TimerMilliseconds() {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "platform/Utf8.h"
 #include "platform/host/Host.h"
 #include "platform/host/HostPath.h"
 
@@ -29,17 +30,21 @@ std::optional<struct stat> StatusOf(std::wstring_view path) {
   return status;
 }
 
-/// A new file beside `target` that is removed unless it is moved over it.
+/// A new file beside `target`, with the mode and, where that is allowed, the owner of the file there, that is removed
+/// unless it is moved over it.
 class TemporaryFile {
  public:
   TemporaryFile(const Place& target, const std::wstring& path) : target_(target), path_(path) {
-    for (int i = 0; !file_; ++i) {
-      name_ = std::string(target.Name()) + ".~" + std::to_string(getpid()) + "-" + std::to_string(i);
-      file_ = Descriptor(
-          openat(target.Directory(), name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, ModeOfTarget()));
-      if (!file_ && errno != EEXIST) {
-        throw SystemError(FailedAction::WriteFile, path_);
-      }
+    struct stat status;
+    const bool replaces = fstatat(target.Directory(), target.Name(), &status, 0) == 0;
+    if (replaces && !IsWritable(status)) {
+      errno = EACCES;
+      throw SystemError(FailedAction::WriteFile, path_);
+    }
+    Create(replaces ? 0600 : 0666);
+    if (replaces) {
+      const bool keptOwner = fchown(file_.Get(), status.st_uid, status.st_gid) == 0;
+      fchmod(file_.Get(), status.st_mode & (keptOwner ? 07777 : 0777));
     }
   }
   ~TemporaryFile() {
@@ -63,9 +68,17 @@ class TemporaryFile {
   }
 
  private:
-  mode_t ModeOfTarget() const {
-    struct stat status;
-    return fstatat(target_.Directory(), target_.Name(), &status, 0) == 0 ? status.st_mode & 07777 : 0666;
+  /// The name has nothing of the target's: longer than that it might be too long.
+  void Create(mode_t mode) {
+    const std::string name = target_.Name();
+    const std::string folder = name.substr(0, name.rfind('/') + 1);
+    for (int i = 0; !file_; ++i) {
+      name_ = folder + "~fv" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp";
+      file_ = Descriptor(openat(target_.Directory(), name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+      if (!file_ && errno != EEXIST) {
+        throw SystemError(FailedAction::WriteFile, path_);
+      }
+    }
   }
 
   const Place& target_;
@@ -76,31 +89,6 @@ class TemporaryFile {
 };
 
 }  // namespace
-
-std::string ReadWholeFile(const std::wstring& path) {
-  const std::wstring full = AbsolutePath(path);
-  const Descriptor file = Open(Locate(full), O_RDONLY);
-  if (!file) {
-    throw SystemError(FailedAction::ReadFile, full);
-  }
-  std::string bytes(std::size_t{64} * 1024, '\0');
-  std::size_t filled = 0;
-  for (;;) {
-    const ssize_t got = read(file.Get(), bytes.data() + filled, bytes.size() - filled);
-    if (got < 0) {
-      throw SystemError(FailedAction::ReadFile, full);
-    }
-    if (got == 0) {
-      break;
-    }
-    filled += static_cast<std::size_t>(got);
-    if (filled == bytes.size()) {
-      bytes.resize(2 * filled);
-    }
-  }
-  bytes.resize(filled);
-  return bytes;
-}
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
   const std::wstring full = AbsolutePath(path);

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <vector>
 
+#include "platform/Utf8.h"
 #include "platform/host/Host.h"
 #include "platform/host/HostPath.h"
 
@@ -52,10 +53,6 @@ std::uint64_t FileTime(const timespec& time) {
   constexpr std::int64_t kLastSecond = 900'000'000'000;  // what a file time can hold
   const std::int64_t seconds = std::clamp<std::int64_t>(time.tv_sec, -kSecondsTo1970, kLastSecond);
   return static_cast<std::uint64_t>((seconds + kSecondsTo1970) * 10'000'000 + time.tv_nsec / 100);
-}
-
-bool IsWritable(const struct stat& status) {
-  return (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
 }
 
 /// As Wine reports the entries of this system, from the status that a link leads to: links to directories and volumes

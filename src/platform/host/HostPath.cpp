@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "platform/Text.h"
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 
 namespace folivant::platform {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 
 namespace folivant::platform {
 

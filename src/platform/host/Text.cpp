@@ -6,7 +6,7 @@
 #include <array>
 #include <clocale>
 
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 
 namespace folivant::platform {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <shlobj.h>
 
-#include <algorithm>
 #include <array>
+#include <vector>
 
 #include "platform/win32/NativePath.h"
 #include "platform/win32/Owned.h"
@@ -34,24 +34,51 @@ std::wstring Filled(Fill fill) {
   return text;
 }
 
-/// A new file beside `path` that deletes itself unless it is moved over it.
+/// The access list of a file, as a descriptor that holds nothing else; empty where the file system has none or hides
+/// it.
+std::vector<BYTE> AccessListOf(const std::wstring& native) {
+  DWORD size = 0;
+  GetFileSecurityW(native.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  std::vector<BYTE> list(size);
+  const bool known =
+      size > 0 && GetFileSecurityW(native.c_str(), DACL_SECURITY_INFORMATION, list.data(), size, &size) != FALSE;
+  return known ? list : std::vector<BYTE>();
+}
+
+/// Where it fails (a share that grants no such right, a file system without lists) the file has what its folder gives
+/// it.
+void SetAccessList(const std::wstring& native, std::vector<BYTE> list) {
+  SECURITY_DESCRIPTOR_CONTROL control = 0;
+  DWORD revision = 0;
+  if (list.empty() || !GetSecurityDescriptorControl(list.data(), &control, &revision)) {
+    return;
+  }
+  if ((control & SE_DACL_AUTO_INHERITED) != 0) {  // inherited entries stay inherited only when that is asked for
+    SetSecurityDescriptorControl(list.data(), SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);
+  }
+  SetFileSecurityW(native.c_str(), DACL_SECURITY_INFORMATION, list.data());
+}
+
+/// A new file beside `path`, with the attributes and the access list of the file there, that is removed unless it is
+/// moved over it. Not by ReplaceFileW: as its errors 1176 and 1177 tell, that moves the old file out of the way first,
+/// so a failure in between leaves neither content there.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::wstring& path) : path_(path) {
-    for (int i = 0; !file_.IsOpen(); ++i) {
-      name_ = path + L".~" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(i);
-      file_ = OwnedFile(CreateFileW(NativePath(name_).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
-      const DWORD error = GetLastError();
-      if (!file_.IsOpen() && error != ERROR_FILE_EXISTS) {
-        throw SystemError(FailedAction::WriteFile, path_, error);
-      }
+    const DWORD attributes = AttributesOf(path);
+    replaces_ = attributes != INVALID_FILE_ATTRIBUTES;
+    if (replaces_ && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+      throw SystemError(FailedAction::WriteFile, path_, ERROR_ACCESS_DENIED);
+    }
+    Create(replaces_ ? attributes & kKept : 0);
+    if (replaces_) {
+      SetAccessList(NativePath(name_), AccessListOf(NativePath(path)));
     }
   }
   ~TemporaryFile() {
-    if (!moved_) {
-      file_ = OwnedFile();
-      DeleteFileW(NativePath(name_).c_str());
+    if (removes_) {  // by the handle, because the access list may forbid it by name
+      FILE_DISPOSITION_INFO removed{TRUE};
+      SetFileInformationByHandle(file_.Get(), FileDispositionInfo, &removed, sizeof removed);
     }
   }
   TemporaryFile(const TemporaryFile&) = delete;
@@ -64,52 +91,48 @@ class TemporaryFile {
     }
   }
   void MoveOverTarget() {
-    file_ = OwnedFile();
-    moved_ = MoveFileExW(NativePath(name_).c_str(), NativePath(path_).c_str(),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-    if (!moved_) {
-      throw SystemError(FailedAction::WriteFile, path_, GetLastError());
+    if (!Move()) {
+      const DWORD error = GetLastError();
+      // File systems without a journal remove the old file first; then the new content is all that is left.
+      removes_ = !replaces_ || PathExists(path_);
+      if (removes_ || !Move()) {
+        throw SystemError(FailedAction::WriteFile, path_, error);
+      }
     }
+    removes_ = false;
   }
 
  private:
+  static constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+                                 FILE_ATTRIBUTE_NOT_CONTENT_INDEXED | FILE_ATTRIBUTE_ENCRYPTED;
+
+  bool Move() const {
+    return MoveFileExW(NativePath(name_).c_str(), NativePath(path_).c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+  }
+
+  /// The name has nothing of the target's: longer than that it might be too long.
+  void Create(DWORD attributes) {
+    const std::wstring folder = path_.substr(0, path_.rfind(L'\\') + 1);
+    for (int i = 0; !file_.IsOpen(); ++i) {
+      name_ = folder + L"~fv" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(i) + L".tmp";
+      file_ = OwnedFile(CreateFileW(NativePath(name_).c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_DELETE, nullptr,
+                                    CREATE_NEW, attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes, nullptr));
+      const DWORD error = GetLastError();
+      if (!file_.IsOpen() && error != ERROR_FILE_EXISTS) {
+        throw SystemError(FailedAction::WriteFile, path_, error);
+      }
+    }
+  }
+
   std::wstring path_;
   std::wstring name_;
   OwnedFile file_;
-  bool moved_ = false;
+  bool replaces_ = false;
+  bool removes_ = true;  ///< at the end
 };
 
 }  // namespace
-
-std::string ReadWholeFile(const std::wstring& path) {
-  const std::wstring full = AbsolutePath(path);
-  const OwnedFile file(CreateFileW(NativePath(full).c_str(), GENERIC_READ,
-                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                   FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  if (!file.IsOpen()) {
-    throw SystemError(FailedAction::ReadFile, full, GetLastError());
-  }
-  LARGE_INTEGER size{};
-  GetFileSizeEx(file.Get(), &size);  // what it says is a first guess: the file may be a device or may grow
-  std::string bytes(static_cast<std::size_t>(size.QuadPart) + 1, '\0');
-  std::size_t filled = 0;
-  for (;;) {
-    const DWORD room = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - filled, 1U << 30));
-    DWORD read = 0;
-    if (!::ReadFile(file.Get(), bytes.data() + filled, room, &read, nullptr)) {
-      throw SystemError(FailedAction::ReadFile, full, GetLastError());
-    }
-    if (read == 0) {
-      break;
-    }
-    filled += read;
-    if (filled == bytes.size()) {
-      bytes.resize(2 * filled);
-    }
-  }
-  bytes.resize(filled);
-  return bytes;
-}
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
   TemporaryFile file(AbsolutePath(path));

@@ -1,5 +1,7 @@
 #include "platform/Store.h"
 
+#include <algorithm>
+
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
 
@@ -37,7 +39,8 @@ std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
     const LSTATUS status =
         RegGetValueW(state_->Place.Get(), nullptr, key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
     if (status == ERROR_SUCCESS) {
-      value.resize(size / sizeof(wchar_t) - 1);
+      // What other programs stored may lack its NUL, or be no bytes at all.
+      value.resize(std::min(size / sizeof(wchar_t), value.find(L'\0')));
       return value;
     }
     if (status != ERROR_MORE_DATA) {

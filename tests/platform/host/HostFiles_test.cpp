@@ -1,18 +1,20 @@
 // What only the native body shows: links, devices, odd bytes in names, paths in pieces, rights.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <map>
 
 #include "platform/FindFiles.h"
 #include "platform/RuntimeError.h"
 #include "platform/Scratch.h"
-#include "platform/host/Host.h"
+#include "platform/Utf8.h"
 
 namespace folivant::platform {
 namespace {
@@ -207,6 +209,52 @@ TEST_F(HostFiles, KeepsTheModeOfAReplacedFile) {
   struct stat status;
   ASSERT_EQ(stat(At("private").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0600U);
+}
+
+TEST_F(HostFiles, KeepsAModeThatTheUserMaskWouldCut) {
+  const mode_t before = umask(0077);
+  scratch_.MakeFile(L"shared");
+  chmod(At("shared").c_str(), 0664);
+  ReplaceFile(scratch_.Path(L"shared"), "new");
+  umask(before);
+  struct stat status;
+  ASSERT_EQ(stat(At("shared").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0664U);
+}
+
+TEST_F(HostFiles, KeepsTheOwnerOfAReplacedFile) {
+  if (geteuid() != 0) {
+    GTEST_SKIP() << "only root may give files away";
+  }
+  scratch_.MakeFile(L"theirs");
+  ASSERT_EQ(chown(At("theirs").c_str(), 65534, 65533), 0);
+  ReplaceFile(scratch_.Path(L"theirs"), "new");
+  struct stat status;
+  ASSERT_EQ(stat(At("theirs").c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, 65534U);
+  EXPECT_EQ(status.st_gid, 65533U);
+  EXPECT_EQ(scratch_.Content(L"theirs"), "new");
+}
+
+TEST_F(HostFiles, AFullDiskLeavesTheOldContentAndNothingElse) {
+  scratch_.MakeFile(L"a", "old");
+  const pid_t child = fork();
+  if (child == 0) {
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit none{1000, 1000};  // bytes that a file may have
+    setrlimit(RLIMIT_FSIZE, &none);
+    try {
+      ReplaceFile(scratch_.Path(L"a"), std::string(5000, 'n'));
+    } catch (const RuntimeError& error) {
+      _exit(error.SystemCode() == EFBIG ? 0 : 1);
+    }
+    _exit(2);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(scratch_.Content(L"a"), "old");
+  EXPECT_EQ(scratch_.Count(), 1);
 }
 
 TEST_F(HostFiles, EndsWhenTheFolderVanishes) {

@@ -95,5 +95,12 @@ TEST(SystemProfileBytes, AreTheSystemsOwn) {
   EXPECT_EQ(ours.Bytes(), scratch.Content(L"a.ini"));
 }
 
+TEST(SystemProfileBytes, WhatTheCodePageLacksIsReadByTheSystemToo) {
+  const Scratch scratch;
+  ProfileText ours("; ansi \xE9\r\n[S]\r\nk=old\r\n");
+  ours.Write(L"S", L"k", L"C:\\\u0416\U0001F600");
+  EXPECT_EQ(BySystem(scratch.MakeFile(L"a.ini", ours.Bytes()), L"S", L"k"), L"C:\\\u0416\U0001F600");
+}
+
 }  // namespace
 }  // namespace folivant::platform

@@ -10,6 +10,8 @@
 #include "platform/win32/NativePath.h"
 #include "platform/win32/Win32.h"
 
+#include <sddl.h>
+
 namespace folivant::platform {
 namespace {
 
@@ -113,12 +115,51 @@ TEST_F(WindowsFiles, ReplacesNoFileThatIsInUse) {
   EXPECT_EQ(scratch_.Count(), 1);
 }
 
+TEST_F(WindowsFiles, KeepsTheAttributesOfAReplacedFile) {
+  const DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+  const std::wstring path = scratch_.MakeFile(L"a", "old");
+  SetFileAttributesW(path.c_str(), kept);
+  ASSERT_EQ(GetFileAttributesW(path.c_str()), kept);
+  ReplaceFile(path, "new");
+  EXPECT_EQ(GetFileAttributesW(path.c_str()), kept);
+  EXPECT_EQ(scratch_.Content(L"a"), "new");
+}
+
+/// The access list in the system's notation.
+std::wstring AccessList(const std::wstring& path) {
+  std::vector<BYTE> descriptor(10'000);
+  DWORD size = 0;
+  EXPECT_TRUE(GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), 10'000, &size));
+  wchar_t* text = nullptr;
+  EXPECT_TRUE(ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor.data(), SDDL_REVISION_1,
+                                                                   DACL_SECURITY_INFORMATION, &text, nullptr));
+  const std::wstring list = text;
+  LocalFree(text);
+  return list;
+}
+
+TEST_F(WindowsFiles, KeepsTheAccessListOfAReplacedFile) {
+  const std::wstring path = scratch_.MakeFile(L"a", "old");
+  const std::wstring usual = AccessList(path);
+  PSECURITY_DESCRIPTOR everybody = nullptr;
+  ASSERT_TRUE(
+      ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(A;;FA;;;WD)", SDDL_REVISION_1, &everybody, nullptr));
+  ASSERT_TRUE(SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, everybody));
+  LocalFree(everybody);
+  const std::wstring own = AccessList(path);
+  ASSERT_NE(own, usual) << "this file system keeps no lists";
+  ReplaceFile(path, "new");
+  EXPECT_EQ(AccessList(path), own);
+  EXPECT_EQ(scratch_.Content(L"a"), "new");
+  EXPECT_EQ(AccessList(scratch_.MakeFile(L"b")), usual);
+}
+
 TEST(WindowsClock, ShiftsFileTimesAsTheSystemDoes) {
   for (const std::uint64_t utc : {126'000'000'000'000'000ULL, 133'500'000'000'000'007ULL, 900'000'000'000ULL}) {
     const FILETIME time{static_cast<DWORD>(utc), static_cast<DWORD>(utc >> 32)};
     FILETIME local;
     ASSERT_TRUE(FileTimeToLocalFileTime(&time, &local));
-    EXPECT_EQ(ToLocalFileTime(utc), std::uint64_t{local.dwHighDateTime} << 32 | local.dwLowDateTime);
+    EXPECT_EQ(ToLocalFileTime(utc, LocalOffset()), std::uint64_t{local.dwHighDateTime} << 32 | local.dwLowDateTime);
   }
 }
 
@@ -152,6 +193,27 @@ TEST_F(WindowsStore, ReadsTextOnly) {
                             &number, sizeof number),
             ERROR_SUCCESS);
   EXPECT_FALSE(StoreSection(section_).Read(L"Number"));
+}
+
+TEST_F(WindowsStore, ReadsTextThatOtherProgramsStoredCarelessly) {
+  WriteStore(section_, L"Key", L"1");
+  const struct {
+    std::wstring_view stored;
+    DWORD bytes;
+    const wchar_t* text;
+  } rows[] = {
+      {L"", 0, L""},          // nothing at all
+      {L"ab", 4, L"ab"},      // without its NUL
+      {L"ab", 3, L"a"},       // half a character at its end
+      {L"\0", 2, L""},        // a NUL alone
+      {L"ab\0cd", 10, L"ab"}  // more behind its NUL
+  };
+  for (const auto& row : rows) {
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, (L"Software\\Folivant 3.0\\" + section_).c_str(), L"Odd", REG_SZ,
+                              row.stored.data(), row.bytes),
+              ERROR_SUCCESS);
+    EXPECT_EQ(StoreSection(section_).Read(L"Odd"), row.text) << row.bytes << " bytes";
+  }
 }
 
 TEST_F(WindowsStore, NamesSectionAndKeyOfAFailedWrite) {
