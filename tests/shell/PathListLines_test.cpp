@@ -143,6 +143,14 @@ TEST(PathListLines, ACancelledListHasNoMoreLines) {
   }
 }
 
+TEST(PathListLines, ACancelledListDoesNotEndInTheMiddleOfALine) {
+  const std::size_t piece = std::size_t{64} * 1024;
+  Tree().File(kList, std::string(piece - 2, '\n') + "C:\\a" + std::string(piece, '\n'));
+  Watcher watcher(3);  // two pieces looked through and one read, which ends in "C:"
+  PathListLines list(kList, watcher);
+  EXPECT_EQ(list.Next(), std::nullopt);
+}
+
 TEST(PathListLines, KnowsItsFullPath) {
   fakes::Fake().CurrentDirectory = L"C:\\";
   Tree().File(kList, "");

@@ -98,6 +98,7 @@ TEST(Language, AnUnreadableOrMalformedFileHasNoTexts) {
   EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
   Fake().FailReads[kFolder + L"\\dutch.ini"] = fakes::AccessDenied();
   EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  EXPECT_TRUE(Fake().Messages.empty());
 }
 
 TEST(Language, AFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
