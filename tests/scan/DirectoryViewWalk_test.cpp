@@ -60,6 +60,17 @@ TEST_F(DirectoryViewWalkTest, AnUnreadableDirectoryKeepsZeroCountsAndIsNotCounte
   EXPECT_TRUE(mdlVars::Tree.Unreadable);
 }
 
+TEST_F(DirectoryViewWalkTest, AnEnumerationThatBreaksOffCountsWhatItGave) {
+  Tree().Dir(L"C:\\Data\\A\\DEEP").FailsAfter(1);
+  EXPECT_THAT(List(kView), testing::Contains(L"2 DEEP C:\\Data\\A\\DEEP 1 100 1 100"));
+  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+}
+
+TEST_F(DirectoryViewWalkTest, AReadableTreeIsNotCalledUnreadable) {
+  List(kView);
+  EXPECT_FALSE(mdlVars::Tree.Unreadable);
+}
+
 TEST_F(DirectoryViewWalkTest, TotalsOfTheRunAreThoseOfTheStartDirectory) {
   mdlVars::Format.SubLevel = 1;
   List(kView);
@@ -74,9 +85,25 @@ TEST_F(DirectoryViewWalkTest, ALinkToAnAncestorKeepsZeroCounts) {
   EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 4);
 }
 
+TEST_F(DirectoryViewWalkTest, OtherLinksAreEntered) {
+  Tree().Dir(L"C:\\Other").File(L"a.txt", 7);
+  Tree().Dir(L"C:\\Data\\B").Link(L"Away", L"C:\\Other").Link(L"Same", L"C:\\Other");
+  EXPECT_THAT(List(kView), testing::IsSupersetOf({L"1 B C:\\Data\\B 0 0 2 14", L"2 Away C:\\Data\\B\\Away 1 7 1 7",
+                                                  L"2 Same C:\\Data\\B\\Same 1 7 1 7"}));
+}
+
 TEST_F(DirectoryViewWalkTest, SharesGoDownTheTree) {
   List(kView);
   EXPECT_THAT(Watcher.Shares, ElementsAre(50, 50));  // DEEP and B
+}
+
+TEST_F(DirectoryViewWalkTest, EventsGetThroughForEveryEntryEvenIfItDoesNotCount) {
+  mdlVars::Filter.FilterName = L"a.txt";
+  std::vector<int> pumped;  // until each directory is shown
+  Watcher.OnDirectory = [&](std::wstring_view) { pumped.push_back(Watcher.Pumped); };
+  List(kView);
+  // Before the run; then each directory and its entries: four in Data, two in A, two in DEEP. B is the last.
+  EXPECT_THAT(pumped, ElementsAre(1, 1 + 5, 6 + 3, 9 + 3));
 }
 
 TEST_F(DirectoryViewWalkTest, ARunCancelledWhileScanningShowsNoNode) {

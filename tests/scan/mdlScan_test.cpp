@@ -59,15 +59,14 @@ TEST_F(MdlScanTest, ARunAfterACancelledOneIsNotCancelled) {
 
 TEST_F(MdlScanTest, EventsRunWhileATreeIsWritten) {
   Tree().Dir(L"C:\\Data").File(L"a").File(L"b").File(L"c");
-  int atFirstEntry = 0;
-  Writer.OnEvent = [&] {
-    if (Writer.Events.back().find(L" a") != std::wstring::npos) {
-      atFirstEntry = Watcher.Pumped;
-    }
-  };
-  List(ListingStyle::TreeStyle);
-  EXPECT_GE(Watcher.Pumped, atFirstEntry + 2) << "b and c";
-  Writer.OnEvent = [] {};
+  // Before the run; for the directory and its three entries, and before the first line; before each further line.
+  EXPECT_THAT(PumpsBetweenEvents(kTree), ElementsAre(1, 0, 4 + 1, 1, 1, 0));
+}
+
+TEST_F(MdlScanTest, EventsRunWhileADirectoryViewIsWritten) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B");
+  // Before the run; for three directories and two entries, and before the first line; before each further line.
+  EXPECT_THAT(PumpsBetweenEvents(kView), ElementsAre(1, 5 + 1, 1, 1, 0));
 }
 
 TEST_F(MdlScanTest, ThePageNumberStartsAtZero) {
