@@ -32,6 +32,10 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"a?c", L"ac", false},
       {L"?", L"", false},
       {L"a#", L"a7", true},
+      {L"a#", L"a0", true},
+      {L"a#", L"a9", true},
+      {L"a#", L"a/", false},  // the neighbours of the digits
+      {L"a#", L"a:", false},
       {L"a#", L"ax", false},
       {L"a#", L"a\x0663", false},  // a digit of another script
       {L"[abc]", L"b", true},
