@@ -62,6 +62,11 @@ Rows ManyRows(int count) {
   return rows;
 }
 
+/// The list view inside the only Find window.
+fakes::FakeWindow& OnlyList() {
+  return FindWindows().TopLevel.at(0).Children.at(0).Children.at(0);
+}
+
 std::string Capture(Progress& progress) {
   RecordingWriter writer;
   try {
@@ -162,6 +167,29 @@ TEST(PrintFromFind, ListsAnEmptyResultList) {
   EXPECT_EQ(0, mdlVars::Tree.FoundCount);
 }
 
+TEST(PrintFromFind, AListThatClaimsLessThanNoRowsIsEmpty) {
+  FindWindows().TopLevel = {FindWindow(10, L"Find: confused", TwoRows())};
+  OnlyList().ClaimedRows = -1;
+  WatchedRun run;
+  EXPECT_EQ("lists 1 rows 0", Capture(run));
+  EXPECT_EQ(0, mdlVars::Tree.FoundCount);
+}
+
+TEST(PrintFromFind, ACellThatTheListLeavesAloneIsEmpty) {
+  // Rows are read in blocks of sixty-four: row 64 takes the place that row 0 had before.
+  FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(65))};
+  OnlyList().SilentFrom = 64;
+  RecordingWriter writer;
+  WatchedRun run;
+  PrintFromFind(writer, run);
+  ASSERT_EQ(65u, writer.Rows.size());
+  EXPECT_EQ(L"n63", writer.Rows[63].Name);
+  for (const std::wstring& text :
+       {writer.Rows[64].Name, writer.Rows[64].InFolder, writer.Rows[64].Size, writer.Rows[64].Modified}) {
+    EXPECT_EQ(L"", text);
+  }
+}
+
 TEST(PrintFromFind, StopsAfterTheRowInWhichTheRunIsCancelled) {
   FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(200))};
   WatchedRun run(70);  // the seventieth row; a block holds fewer
@@ -212,7 +240,7 @@ TEST(PrintFromFind, CutsCellsToWhatFitsIn260Bytes) {
 
 TEST(PrintFromFind, Serves32BitOwners) {
   FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(100))};
-  FindWindows().TopLevel[0].Children[0].Children[0].Layout = platform::RecordLayout::Bits32;
+  OnlyList().Layout = platform::RecordLayout::Bits32;
   RecordingWriter writer;
   WatchedRun run;
   PrintFromFind(writer, run);
@@ -223,7 +251,7 @@ TEST(PrintFromFind, Serves32BitOwners) {
 
 TEST(PrintFromFind, ReportsAnOwnerThatMayNotBeOpened) {
   FindWindows().TopLevel = {FindWindow(10, L"Find: elevated", TwoRows())};
-  FindWindows().TopLevel[0].Children[0].Children[0].Refuses = fakes::AccessDenied();
+  OnlyList().Refuses = fakes::AccessDenied();
   WatchedRun run;
   EXPECT_EQ("error 5", Capture(run));
 }
@@ -232,7 +260,7 @@ TEST(PrintFromFind, ReportsAnOwnerThatEndsBeforeOrWhileItIsRead) {
   for (const int call : {1, 2, 3, 150, 258}) {
     FindWindows().Calls = 0;
     FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(100))};
-    FindWindows().TopLevel[0].Children[0].Children[0].DiesAtCall = call;
+    OnlyList().DiesAtCall = call;
     WatchedRun run;
     EXPECT_EQ("error 1400", Capture(run)) << call;
     EXPECT_EQ(0, FindWindows().DialogsOpen);
