@@ -85,11 +85,11 @@ bool RemoveFile(const std::wstring& path) {
 }
 
 bool PathExists(std::wstring_view path) {
-  return Fake().Tree.Find(path) != nullptr;
+  return Fake().Tree.Find(AbsolutePath(std::wstring(path))) != nullptr;
 }
 
 bool IsDirectory(std::wstring_view path) {
-  const FakeNode* node = Fake().Tree.Find(path);
+  const FakeNode* node = Fake().Tree.Find(AbsolutePath(std::wstring(path)));
   return node != nullptr && node->IsDirectory();
 }
 
@@ -98,7 +98,7 @@ std::wstring CurrentDirectory() {
 }
 
 std::wstring AbsolutePath(const std::wstring& path) {
-  if (path.substr(1, 2) == L":\\" || path.starts_with(L"\\\\")) {
+  if (path.empty() || path.substr(1, 2) == L":\\" || path.starts_with(L"\\\\")) {
     return path;
   }
   if (path.starts_with(L"\\")) {
