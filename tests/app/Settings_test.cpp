@@ -474,11 +474,14 @@ TEST(Settings, DatesAreWrittenWithSlashesWhateverTheLocale) {
 }
 
 TEST(Settings, MarginsAreWrittenInTheUsersNumberFormat) {
-  Fake().Locale.DecimalSeparator = L",";
-  LoadWith(L"Settings", L"MarginLeft", L"12,5");
-  EXPECT_EQ(General.MarginLeft, 12.5F);
-  SaveGeneralSettings();
-  EXPECT_EQ((Fake().Store[{L"Settings", L"MarginLeft"}]), L"12,5");
+  for (const std::wstring separator : {L".", L",", L"\u066B", L"/"}) {  // English, German, Arabic, Persian
+    Fake().Locale.DecimalSeparator = separator;
+    LoadWith(L"Settings", L"MarginLeft", L"12" + separator + L"5");
+    EXPECT_EQ(General.MarginLeft, 12.5F) << testing::PrintToString(separator);
+    General.MarginLeft = 17.25F;
+    SaveGeneralSettings();
+    EXPECT_EQ((Fake().Store[{L"Settings", L"MarginLeft"}]), L"17" + separator + L"25");
+  }
 }
 
 TEST(Settings, AMarginFromAnotherCountryIsReadAsItWasMeant) {

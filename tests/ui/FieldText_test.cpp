@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/FakePlatform.h"
+
 namespace folivant {
 namespace {
 
@@ -69,6 +71,28 @@ TEST(SingleText, HasNoZerosAtTheEnd) {
   EXPECT_EQ(SingleText(0.13F), L"0.13");
   EXPECT_EQ(SingleText(-1.25F), L"-1.25");
   EXPECT_EQ(SingleText(0.0F), L"0");
+}
+
+TEST(FieldText, FollowsTheUsersLocale) {
+  const struct {
+    const wchar_t* thousands;
+    const wchar_t* decimal;
+    const wchar_t* whole;
+    const wchar_t* fraction;
+  } rows[] = {
+      {L",", L".", L"1,204", L"-12.75"},                      // English
+      {L".", L",", L"1.204", L"-12,75"},                      // German
+      {L"\u00A0", L",", L"1\u00A0204", L"-12,75"},            // French
+      {L"\u066C", L"\u066B", L"1\u066C204", L"-12\u066B75"},  // Arabic
+      {L"'", L"\u00B7", L"1'204", L"-12\u00B775"},            // a user's own
+  };
+  for (const auto& row : rows) {
+    fakes::Fake().Locale.ThousandsSeparator = row.thousands;
+    fakes::Fake().Locale.DecimalSeparator = row.decimal;
+    EXPECT_EQ(ParseWholeNumber(row.whole), 1204) << testing::PrintToString(std::wstring(row.whole));
+    EXPECT_EQ(ParseSingle(row.fraction), -12.75F) << testing::PrintToString(std::wstring(row.fraction));
+    EXPECT_EQ(SingleText(-12.75F), row.fraction);
+  }
 }
 
 TEST(FieldName, IsTheCaptionWithoutItsMarks) {
