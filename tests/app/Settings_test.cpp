@@ -167,11 +167,12 @@ TEST(Settings, KeysLieInTheirOwnSectionAlone) {
       }
     }
   }
-  Fake().Store.erase({L"Settings", L"Filter"});
-  LoadSettings();
-  EXPECT_EQ(General.TextWidth, 80);
-  EXPECT_EQ(Filter.FilterSize, 0);
-  EXPECT_EQ(Format.SubLevel, 0);
+  EXPECT_TRUE(LoadSettings().empty());
+  Fake().Store.clear();
+  SaveSettings();
+  for (const Known& known : kKnown) {
+    EXPECT_EQ((Fake().Store[{known.Section, known.Key}]), known.Default) << Narrow(known.Key);
+  }
 }
 
 TEST(Settings, AFilterFileCarriesTheExSettingsAlone) {
@@ -465,6 +466,21 @@ TEST(Settings, DatesAreReadWithAnyCharacterBetweenTheNumbers) {
   }
 }
 
+TEST(Settings, OnlyDaysOfTheCalendarAreDates) {
+  const std::pair<const wchar_t*, bool> rows[] = {
+      {L"99/12/31", false},   {L"100/01/01", true},   {L"9999/12/31", true},  {L"10000/01/01", false},
+      {L"2001/00/15", false}, {L"2001/01/15", true},  {L"2001/12/15", true},  {L"2001/13/15", false},
+      {L"2001/01/00", false}, {L"2001/01/01", true},  {L"2001/01/31", true},  {L"2001/01/32", false},
+      {L"2001/04/30", true},  {L"2001/04/31", false}, {L"2001/02/28", true},  {L"2001/02/29", false},
+      {L"2004/02/29", true},  {L"2004/02/30", false}, {L"1900/02/29", false}, {L"2000/02/29", true},
+      {L"2000/01/30", true},  {L"2000/03/31", true},  {L"2001/6/7", true},    {L"2001/06/07x", false},
+      {L"2001/06/", false},   {L"2001//07", false},   {L"/06/07", false},     {L"2001/06/07/08", false},
+  };
+  for (const auto& [text, valid] : rows) {
+    EXPECT_EQ(LoadWith(L"Filter", L"FilterDateMin", text).empty(), valid) << Narrow(text);
+  }
+}
+
 TEST(Settings, DatesAreWrittenWithSlashesWhateverTheLocale) {
   Fake().Locale.DateSeparator = L".";
   LoadSettings();
@@ -507,22 +523,36 @@ TEST(Settings, ADestinationWithoutAMeaningLeavesTheOneBefore) {
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Screen);
 }
 
+std::vector<std::wstring> KeysSavedBy(void (*save)()) {
+  Fake().Store.clear();
+  save();
+  std::vector<std::wstring> keys;
+  for (const auto& [place, value] : Fake().Store) {
+    keys.push_back(place.first + L'.' + place.second);
+  }
+  return keys;
+}
+
 TEST(Settings, DialogsSaveTheirOwnGroupAlone) {
+  using testing::ElementsAre;
   LoadSettings();
-  SaveFilterSettings();
-  EXPECT_EQ(Fake().Store.size(), 9u);
-  Fake().Store.clear();
-  SaveFormatSettings();
-  EXPECT_EQ(Fake().Store.size(), 3u);
-  Fake().Store.clear();
-  SaveListingStyle();
-  EXPECT_EQ(Fake().Store.size(), 1u);
-  Fake().Store.clear();
-  SavePrinterSettings();
-  EXPECT_EQ(Fake().Store.size(), 5u);
-  Fake().Store.clear();
-  SaveGeneralSettings();
-  EXPECT_EQ(Fake().Store.size(), 21u);
+  // Sections and keys in the order of the alphabet.
+  EXPECT_THAT(KeysSavedBy(SaveFilterSettings),
+              ElementsAre(L"Filter.Attr", L"Filter.Filter", L"Filter.FilterDateMax", L"Filter.FilterDateMin",
+                          L"Filter.FilterName", L"Filter.FilterSize", L"Filter.FilterSizeMin", L"Filter.OrderAZ",
+                          L"Filter.OrderBy"));
+  EXPECT_THAT(KeysSavedBy(SaveFormatSettings), ElementsAre(L"Format.FShow", L"Format.SubLevel", L"Format.TShow"));
+  EXPECT_THAT(KeysSavedBy(SaveListingStyle), ElementsAre(L"Settings.Format"));
+  EXPECT_THAT(KeysSavedBy(SavePrinterSettings),
+              ElementsAre(L"Settings.PrinterCopies", L"Settings.PrinterDuplex", L"Settings.PrinterName",
+                          L"Settings.PrinterPaperBin", L"Settings.PrinterQuality"));
+  EXPECT_THAT(KeysSavedBy(SaveGeneralSettings),
+              ElementsAre(L"Settings.DateFormat", L"Settings.EmptyDirs", L"Settings.ExitWhenDone",
+                          L"Settings.FilesFirst", L"Settings.Font80HF", L"Settings.FontName", L"Settings.FontNameHF",
+                          L"Settings.FontSize", L"Settings.FontSizeHF", L"Settings.Footer", L"Settings.Header",
+                          L"Settings.Inches", L"Settings.Language", L"Settings.MarginBottom", L"Settings.MarginLeft",
+                          L"Settings.MarginRight", L"Settings.MarginTop", L"Settings.Port", L"Settings.TextHeight",
+                          L"Settings.TextViewer", L"Settings.TextWidth"));
 }
 
 TEST(Settings, AStoreThatCannotBeWrittenIsAnError) {
