@@ -18,8 +18,15 @@ bool Same(double a, double b) {
 class RecordingSurface final : public platform::PageSurface {
  public:
   RecordingSurface(RecordingPrinter& printer, std::wstring printerName)
-      : printer_(printer), printerName_(std::move(printerName)) {}
-  ~RecordingSurface() override { AbortDocument(); }
+      : printer_(printer), printerName_(std::move(printerName)) {
+    ++printer_.Open;
+  }
+  RecordingSurface(const RecordingSurface&) = delete;
+  RecordingSurface& operator=(const RecordingSurface&) = delete;
+  ~RecordingSurface() override {
+    AbortDocument();
+    --printer_.Open;
+  }
 
   platform::PageArea Area() const override { return printer_.Area; }
   void SelectFont(const platform::PageFont& font) override {

@@ -220,9 +220,11 @@ TEST_F(PageWriter, ClosingLinesNeverRunIntoTheFooter) {
 TEST_F(PageWriter, ACancelledRunPrintsNothing) {
   Begin(ListingStyle::IncludeSubdirectories);
   ListDirectory(L"C:\\Data", 100);
+  EXPECT_EQ(printer.Open, 1);
   writer.AbortListing();
   EXPECT_EQ(printer.Ended, 0);
   EXPECT_EQ(printer.Aborted, 1);
+  EXPECT_EQ(printer.Open, 0);
 }
 
 /// Counts how often events get through; the user cancels at the first of them, if at all.
@@ -263,6 +265,7 @@ TEST_F(PageWriter, OneRunFollowsAnother) {
   Begin(ListingStyle::NoSubdirectories).EndListing();
   EXPECT_EQ(printer.Ended, 2);
   EXPECT_EQ(printer.Aborted, 0);
+  EXPECT_EQ(printer.Open, 0) << "the printer is let go";
   EXPECT_NO_THROW(printer.Find(1, L"H 1"));
 }
 
