@@ -112,6 +112,13 @@ TEST_F(DirectoryViewWalkTest, ARunCancelledWhileScanningShowsNoNode) {
   EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\A", L"C:\\Data\\A\\DEEP"));
 }
 
+TEST_F(DirectoryViewWalkTest, CancelIsSeenAfterAnUnreadableSubdirectoryToo) {
+  Tree().Dir(L"C:\\Data\\A").Unreadable();
+  Watcher.CancelIn(L"C:\\Data\\A");
+  EXPECT_THAT(List(kView), ElementsAre(L"begin", L"abort"));
+  EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\A"));
+}
+
 TEST_F(DirectoryViewWalkTest, ARunCancelledWhileShowingStopsThere) {
   Writer.OnEvent = [&] { Watcher.CancelNow = Writer.Events.size() == 3; };
   EXPECT_THAT(List(kView),

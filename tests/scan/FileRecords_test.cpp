@@ -25,9 +25,8 @@ class FileRecordsTest : public ListingTest {
     const WalkSettings settings{mdlVars::Filter, patterns, Format, mdlVars::General, mdlVars::Texts, Pattern};
     FileRecordFiller filler(settings);
     platform::FindData entry = Entry;
-    FileRecord record = filler.FillFileRecord(entry, level, Texts);
+    const FileRecord record = filler.FillFileRecord(entry, level, Texts);
     Key = record.SortKey;
-    record.SizeText = Texts.Add(record.SizeText);
     return record;
   }
   std::wstring KeyFor(OrderBy by) {
