@@ -148,9 +148,9 @@ TEST_F(PathList, Utf8HoldsTheFirstAndLastCharacterOfEachLength) {
       {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"},
   };
   for (const auto& [bytes, character] : rows) {
-    const std::wstring name = L"X" + character + L"x.txt";
+    const std::wstring name = L"X" + character + L"x" + character;
     Tree().Dir(L"C:\\Data").File(name);
-    EXPECT_EQ(NamesOf(kUtf8Mark + "C:\\Data\\X" + bytes + "x.txt"), Names{name});
+    EXPECT_EQ(NamesOf(kUtf8Mark + "C:\\Data\\X" + bytes + "x" + bytes), Names{name});
   }
 }
 
