@@ -217,6 +217,7 @@ TEST_F(HostFiles, EndsWhenTheFolderVanishes) {
   FindData data;
   EXPECT_FALSE(files.Next(data));
   EXPECT_FALSE(files.Next(data));
+  EXPECT_TRUE(files.Failed());
 }
 
 }  // namespace
