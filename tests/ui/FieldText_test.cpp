@@ -24,7 +24,8 @@ TEST(ParseWholeNumber, RoundsHalvesToEven) {
 }
 
 TEST(ParseWholeNumber, RefusesWhatIsNoNumber) {
-  for (const wchar_t* text : {L"", L" ", L"abc", L"1a", L"1 2", L"--1", L"1-", L".", L"1.2.3", L"0x10", L"1e3"}) {
+  for (const wchar_t* text : {L"", L" ", L"abc", L"1a", L"1 2", L"--1", L"1-", L"1-2", L"1+2", L"+-1", L"++1", L".",
+                              L"1.2.3", L"0x10", L"1e3"}) {
     EXPECT_EQ(ParseWholeNumber(text), std::nullopt) << testing::PrintToString(std::wstring(text));
   }
 }
