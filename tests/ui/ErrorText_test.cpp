@@ -28,6 +28,11 @@ TEST(ErrorText, EndsWithTheObjectWhenTheSystemWasNotInvolved) {
   EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"a%2b", {}, 0), texts), L"Cannot read \"a%2b\".");
 }
 
+TEST(ErrorText, ShowsANumberWithoutWordsAndWordsWithoutANumber) {
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"x", {}, 5), English()), L"161 \"x\":  (5)");
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"x", L"no", 0), English()), L"161 \"x\": no (0)");
+}
+
 TEST(ErrorText, ShowsTheFactsWhenTheTextIsMissing) {
   Messages texts;
   texts.Set(161, L"**161**");
