@@ -53,12 +53,14 @@ TEST(LeadingWholeNumber, TakesTheBeginning) {
   EXPECT_EQ(LeadingWholeNumber(L"-3x"), -3);
   EXPECT_EQ(LeadingWholeNumber(L"+4"), 4);
   EXPECT_EQ(LeadingWholeNumber(L"2.5.1"), 2);
+  EXPECT_EQ(LeadingWholeNumber(L"3.5 lines"), 4) << "halves to even";
 }
 
 TEST(LeadingWholeNumber, IsZeroWithoutOne) {
   EXPECT_EQ(LeadingWholeNumber(L""), 0);
   EXPECT_EQ(LeadingWholeNumber(L"wide 80"), 0);
   EXPECT_EQ(LeadingWholeNumber(L"-"), 0);
+  EXPECT_EQ(LeadingWholeNumber(L"+-5"), 0);
 }
 
 TEST(LeadingWholeNumber, StopsAtTheLimits) {
