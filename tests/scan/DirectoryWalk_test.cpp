@@ -168,6 +168,26 @@ TEST_F(DirectoryWalkTest, DepthIsNotLimitedByTheStack) {
   EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, static_cast<std::int32_t>(kDepth) + 1);
 }
 
+/// Where the texts of each directory's first entry lie.
+class PlacesOfTexts final : public RecordingWriter {
+ public:
+  std::vector<const wchar_t*> Places;
+  void ListDirectory(const DirectoryListing& directory) override { Places.push_back(directory.Records[0].Name.data()); }
+};
+
+TEST_F(DirectoryWalkTest, TheTextsOfADirectoryTakeThePlaceOfThoseBeforeIt) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B");
+  Tree().Dir(L"C:\\Data\\A").File(L"a");
+  Tree().Dir(L"C:\\Data\\B").File(L"b");
+  mdlVars::Format.ListingStyle = kDeep;
+  ASSERT_TRUE(SetStartPath(L"C:\\Data"));
+  PlacesOfTexts writer;
+  RunListing(writer, Watcher);
+  ASSERT_EQ(writer.Places.size(), 3U);
+  EXPECT_EQ(writer.Places[1], writer.Places[0]);
+  EXPECT_EQ(writer.Places[2], writer.Places[0]);
+}
+
 TEST_F(DirectoryWalkTest, TotalsCountEntriesAndDirectoriesThatListMoreThanSubdirectories) {
   Tree().Dir(L"C:\\Data").Folder(L"Sub").File(L"a.txt", 1'000);
   Tree().Dir(L"C:\\Data\\Sub").Folder(L"Empty").File(L"b.txt", 500);

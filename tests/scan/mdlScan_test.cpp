@@ -69,6 +69,15 @@ TEST_F(MdlScanTest, EventsRunWhileADirectoryViewIsWritten) {
   EXPECT_THAT(PumpsBetweenEvents(kView), ElementsAre(1, 5 + 1, 1, 1, 0));
 }
 
+TEST_F(MdlScanTest, TheWriterKnowsWhoWatchesWhileTheRunLasts) {
+  Tree().Dir(L"C:\\Data");
+  const Progress* during = nullptr;
+  Writer.OnEvent = [&] { during = mdlVars::Run().Watcher; };
+  List(kDeep);
+  EXPECT_EQ(during, &Watcher);
+  EXPECT_EQ(mdlVars::Run().Watcher, nullptr);
+}
+
 TEST_F(MdlScanTest, ThePageNumberStartsAtZero) {
   Tree().Dir(L"C:\\Data");
   mdlVars::PageNumber = 7;
@@ -168,6 +177,7 @@ TEST_F(MdlScanTest, ShortNamesAreListedOnlyWhenSomethingShowsThem) {
   Tree().Dir(L"C:\\Data").File(L"Long name.text").Short(L"LONGNA~1.TEX").File(L"SHORT.TXT");
   Writer.Details = true;
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text||0 b "));
+  EXPECT_EQ(fakes::Fake().ShortNamesAsked, 0);
   mdlVars::Format.Files.DosName = true;
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text|longna~1.tex|0 b "));
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L" Short.txt|short.txt|0 b "));
