@@ -22,6 +22,18 @@ TEST_F(DirectoryViewWalkTest, CountsEachDirectoryAndEverythingBelow) {
                                        L"2 DEEP C:\\Data\\A\\DEEP 2 1100 2 1100", L"1 B C:\\Data\\B 0 0 0 0", L"end"));
 }
 
+TEST_F(DirectoryViewWalkTest, EveryPathIsThatOfItsOwnParent) {
+  Tree().Dir(L"C:\\Top\\A rather long one\\In");
+  Tree().Dir(L"C:\\Top\\Be\\In\\Deep");
+  Tree().Dir(L"C:\\Top\\Ce\\In");
+  EXPECT_THAT(
+      List(kView, L"C:\\Top"),
+      ElementsAre(L"begin", L"0 C:\\Top C:\\Top 0 0 0 0", L"1 A rather long one C:\\Top\\A rather long one 0 0 0 0",
+                  L"2 In C:\\Top\\A rather long one\\In 0 0 0 0", L"1 Be C:\\Top\\Be 0 0 0 0",
+                  L"2 In C:\\Top\\Be\\In 0 0 0 0", L"3 Deep C:\\Top\\Be\\In\\Deep 0 0 0 0", L"1 Ce C:\\Top\\Ce 0 0 0 0",
+                  L"2 In C:\\Top\\Ce\\In 0 0 0 0", L"end"));
+}
+
 TEST_F(DirectoryViewWalkTest, TheDepthLimitHidesNodesButNotTheirTotals) {
   mdlVars::Format.SubLevel = 1;
   EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 A C:\\Data\\A 1 10 3 1110",

@@ -128,6 +128,18 @@ TEST(NamePatternsTest, ANameWithoutExtensionCountsAsEndingInADot) {
   EXPECT_TRUE(Passes(L"*.*", L"readme"));
 }
 
+TEST(NamePatternsTest, ANameOfFullLengthIsComparedToItsEnd) {
+  const std::wstring name(251, L'n');
+  EXPECT_TRUE(Passes(L"*.txt", name + L".txt"));
+  EXPECT_FALSE(Passes(L"*.txt", name + L".txu"));
+}
+
+TEST(NamePatternsTest, ADottedPatternIsNotEveryPattern) {
+  EXPECT_TRUE(Passes(L"*.?", L"a.c"));
+  EXPECT_FALSE(Passes(L"*.?", L"a.txt"));
+  EXPECT_FALSE(Passes(L"?.*", L"ab.txt"));
+}
+
 TEST(NamePatternsTest, AnEmptyPieceKeepsEverything) {
   EXPECT_TRUE(Passes(L"", L"a.txt"));
   EXPECT_TRUE(Passes(L"", L"readme"));
