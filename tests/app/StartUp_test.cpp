@@ -132,6 +132,7 @@ TEST_F(StartUp, WithAPrinterTheStoredDestinationStays) {
   Session().Printers = {L"Laser"};
   Start(L"");
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Printer);
+  EXPECT_EQ(mdlVars::Printer.PrinterName, L"Laser") << "the default printer, for the options to show";
 }
 
 TEST_F(StartUp, SwitchesWithoutAFilterFileAreAProblem) {
@@ -272,6 +273,12 @@ TEST_F(StartUp, CancellingTheSaveDialogEndsWithoutAListing) {
   EXPECT_EQ(mdlVars::OutputKind, OutputKind::Xml);
   EXPECT_TRUE(Fake().Messages.empty());
   EXPECT_EQ(Session().Shown, 0);
+}
+
+TEST_F(StartUp, ARunThatEndsWithoutAListingFails) {
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=5\r\nPath=C:\\Data\r\n");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  EXPECT_EQ(Fake().Messages.size(), 1u) << "no Find window is open";
 }
 
 TEST_F(StartUp, AScreenDestinationAsksForATextFile) {

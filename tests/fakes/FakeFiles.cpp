@@ -136,7 +136,7 @@ std::wstring VolumeLabel(const std::wstring& root) {
 }
 
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
-  const auto found = Fake().FreeSpace.find(RootOf(directory));
+  const auto found = Fake().FreeSpace.find(directory.starts_with(L"\\\\") ? directory : RootOf(directory));
   return found == Fake().FreeSpace.end() ? std::nullopt : std::optional(found->second);
 }
 

@@ -91,6 +91,14 @@ TEST_F(PageWriter, AHeadingsPathIsShortenedInBoldToThePageLessTheMargins) {
   EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(57, L'd') + L"...\\leaf12"));
 }
 
+TEST_F(PageWriter, TheWidthOfAHeadingIsAWholeNumberOfTwips) {
+  // 12,000 - 1,440 - 1,459.7 = 9,100.3, rounded to 9,100: seventy bold characters are not narrower.
+  general.MarginRight = 1459.7F / 1440;
+  Begin(ListingStyle::NoSubdirectories);
+  ListDirectory(L"C:\\" + std::wstring(60, L'd') + L"\\leaf12", 0);
+  EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(56, L'd') + L"...\\leaf12"));
+}
+
 TEST_F(PageWriter, HeadingPathsIgnoreTheBorders) {
   printer.Area = {11000, 16000, 500, 0, 500, 0};
   // 11,000 - 2,880 = 8,120 although a line holds 9,120: 62 bold characters are 8,060, 63 are 8,190.

@@ -14,6 +14,7 @@ namespace {
 
 TEST_F(PageWriter, TheJobCarriesThePrinterSettings) {
   general.Portrait = false;
+  tree.StartPathOnDisk = L"C:\\DATA";
   Begin(ListingStyle::NoSubdirectories);
   ASSERT_EQ(printer.Jobs.size(), 1U);
   const platform::PrintJob& job = printer.Jobs[0];
