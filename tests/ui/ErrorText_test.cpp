@@ -18,7 +18,7 @@ Messages English() {
 TEST(ErrorText, NamesActionObjectAndTheSystemsWords) {
   Messages texts;
   texts.Set(162, L"Cannot write \"%1\": %2 (%3)");
-  const RuntimeError error(FailedAction::WriteFile, L"D:\\list.txt", L"The disk is full.\r\n", 112);
+  const RuntimeError error(FailedAction::WriteFile, L"D:\\list.txt", L"The disk is full. \r\n", 112);
   EXPECT_EQ(ErrorText(error, texts), L"Cannot write \"D:\\list.txt\": The disk is full. (112)");
 }
 
