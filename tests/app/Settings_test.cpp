@@ -458,6 +458,23 @@ TEST(Settings, AFractionOfAWholeNumberIsRounded) {
   EXPECT_EQ(LoadWith(L"Settings", L"FontSize", L"32767.5").size(), 1u) << "rounds to more than there is room for";
 }
 
+TEST(Settings, CodesTakeEveryNumberOfTheirWidth) {
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, bool> rows[] = {
+      {L"Format", L"SubLevel", L"-2147483648", true}, {L"Format", L"SubLevel", L"-2147483649", false},
+      {L"Format", L"SubLevel", L"2147483647", true},  {L"Format", L"SubLevel", L"2147483648", false},
+      {L"Filter", L"OrderBy", L"-32768", true},       {L"Filter", L"OrderBy", L"-32769", false},
+      {L"Filter", L"OrderBy", L"32767", true},        {L"Filter", L"OrderBy", L"32768", false},
+  };
+  for (const auto& [section, key, value, fits] : rows) {
+    EXPECT_EQ(LoadWith(section, key, value).empty(), fits) << Narrow(value);
+    if (fits) {
+      SaveSettings();
+      EXPECT_EQ((Fake().Store[{section, key}]), value);
+    }
+    Fake().Store.clear();
+  }
+}
+
 TEST(Settings, DatesAreReadWithAnyCharacterBetweenTheNumbers) {
   for (const wchar_t* text : {L"1999/09/25", L"1999-9-25", L"1999.09.25", L" 1999 9 25 "}) {
     EXPECT_TRUE(LoadWith(L"Filter", L"FilterDateMin", text).empty());
@@ -478,6 +495,13 @@ TEST(Settings, OnlyDaysOfTheCalendarAreDates) {
   };
   for (const auto& [text, valid] : rows) {
     EXPECT_EQ(LoadWith(L"Filter", L"FilterDateMin", text).empty(), valid) << Narrow(text);
+  }
+  for (const wchar_t* last : {L"01/31", L"02/28", L"03/31", L"04/30", L"05/31", L"06/30", L"07/31", L"08/31", L"09/30",
+                              L"10/31", L"11/30", L"12/31"}) {
+    std::wstring day = L"2001/" + std::wstring(last);
+    EXPECT_TRUE(LoadWith(L"Filter", L"FilterDateMin", day).empty()) << Narrow(day);
+    ++day.back();
+    EXPECT_FALSE(LoadWith(L"Filter", L"FilterDateMin", day).empty()) << Narrow(day);
   }
 }
 
