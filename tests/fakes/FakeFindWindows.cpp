@@ -162,6 +162,7 @@ RecordLayout ForeignWindow::Layout() const {
   return state_->Window->Layout;
 }
 std::uint64_t ForeignWindow::Reserve(std::size_t size) {
+  ++FindWindows().Blocks;
   state_->Block.assign(size, std::byte{0});
   state_->Address = Layout() == RecordLayout::Bits32 ? 0x0045'0000 : 0x0000'7FFE'0001'0000;
   return state_->Address;

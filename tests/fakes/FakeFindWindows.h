@@ -44,6 +44,7 @@ struct FakeFindWindows {
   std::map<std::wstring, FakeMapping> Mappings;
   int Calls = 0;            ///< Write, Read and Send together
   int GetItemMessages = 0;  ///< requests for a cell
+  int Blocks = 0;           ///< of memory reserved in owners
 
   // The dialog
   int DialogsShown = 0;

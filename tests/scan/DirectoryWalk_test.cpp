@@ -147,6 +147,14 @@ TEST_F(DirectoryWalkTest, OtherLinksAreEntered) {
                           L"1 C:\\Data\\Same: A.txt (1 file, 7 b )", L"end"));
 }
 
+TEST_F(DirectoryWalkTest, ALinkToADirectoryThatCannotBeReadIsTriedLikeTheDirectoryItself) {
+  Tree().Dir(L"C:\\Locked").Unreadable();
+  Tree().Dir(L"C:\\Data").Link(L"Away", L"C:\\Locked");
+  EXPECT_THAT(List(kDeep), ElementsAre(L"begin", L"0 C:\\Data: Away (1 file, 0 b )", L"end"));
+  EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\Away"));
+  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+}
+
 TEST_F(DirectoryWalkTest, TwoLinksThatLeadToEachOtherEnd) {
   Tree().Dir(L"C:\\One").Link(L"Two", L"C:\\Two");
   Tree().Dir(L"C:\\Two").Link(L"One", L"C:\\One");

@@ -165,6 +165,7 @@ TEST(PrintFromFind, ListsAnEmptyResultList) {
   WatchedRun run;
   EXPECT_EQ("lists 1 rows 0", Capture(run));
   EXPECT_EQ(0, mdlVars::Tree.FoundCount);
+  EXPECT_EQ(0, FindWindows().Blocks);
 }
 
 TEST(PrintFromFind, AListThatClaimsLessThanNoRowsIsEmpty) {
@@ -221,6 +222,7 @@ TEST(PrintFromFind, CrossesIntoTheOtherProgramAtMostFiveTimesARow) {
   WatchedRun run;
   EXPECT_EQ("lists 1 rows 10000", Capture(run));
   EXPECT_EQ(40'000, FindWindows().GetItemMessages);
+  EXPECT_EQ(1, FindWindows().Blocks);
   EXPECT_LE(FindWindows().Calls, 50'000);
   // The number of rows, each cell's message, and two copies for each of the 157 blocks of up to 64 rows.
   EXPECT_EQ(1 + 40'000 + 2 * 157, FindWindows().Calls);
