@@ -123,6 +123,14 @@ TEST_F(StartUp, ASentPathThatIsGoneLeavesTheStoredDirectory) {
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
+TEST_F(StartUp, ASentPathThatIsGoneLooksAtTheStoredDirectoryAgain) {
+  Store(L"Path", L"c:\\data\\");
+  Store(L"Format", L"5");
+  Start(L"C:\\Nowhere");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::NoSubdirectories);
+}
+
 TEST_F(StartUp, WithoutAnyPrinterTheWindowOpensWithTheFileDestination) {
   Start(L"");
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File);
