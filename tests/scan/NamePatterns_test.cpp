@@ -135,6 +135,7 @@ TEST(NamePatternsTest, ANameOfFullLengthIsComparedToItsEnd) {
   const std::wstring name(251, L'n');
   EXPECT_TRUE(Passes(L"*.txt", name + L".txt"));
   EXPECT_FALSE(Passes(L"*.txt", name + L".txu"));
+  EXPECT_TRUE(Passes(L"n*.,-*.bak", name + name)) << "longer than any system's";
 }
 
 TEST(NamePatternsTest, ADottedPatternIsNotEveryPattern) {

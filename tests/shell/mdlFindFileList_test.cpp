@@ -207,6 +207,7 @@ TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Action(), FailedAction::ReadFile);
     EXPECT_EQ(error.Object(), L"C:\\Data\\gone.txt");
+    EXPECT_EQ(error.SystemCode(), 0u) << "nothing but the path is told";
   }
   EXPECT_EQ(rows.Lists, 0);
   EXPECT_EQ(mdlVars::Tree.FoundCount, 0);

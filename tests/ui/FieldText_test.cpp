@@ -72,6 +72,7 @@ TEST(SingleText, HasNoZerosAtTheEnd) {
   EXPECT_EQ(SingleText(20.0F), L"20");
   EXPECT_EQ(SingleText(0.5F), L"0.5");
   EXPECT_EQ(SingleText(0.13F), L"0.13");
+  EXPECT_EQ(SingleText(20.3F), L"20.3");
   EXPECT_EQ(SingleText(-1.25F), L"-1.25");
   EXPECT_EQ(SingleText(0.0F), L"0");
 }

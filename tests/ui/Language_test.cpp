@@ -176,9 +176,17 @@ TEST(ListLanguages, NamesEveryFileThatSaysItsLanguage) {
 }
 
 TEST(ListLanguages, AFlagIsTheNumberThatItsTextBeginsWith) {
-  const std::pair<const char*, int> rows[] = {
-      {"0", 0},          {"7", 7},  {"12", 12}, {"12 of 20", 12}, {"007", 7},
-      {"99999", 99'999}, {"-1", 0}, {"x1", 0},  {"", 0},          {"12345678901234567890", 123'456}};
+  const std::pair<const char*, int> rows[] = {{"0", 0},
+                                              {"7", 7},
+                                              {"12", 12},
+                                              {"12 of 20", 12},
+                                              {"007", 7},
+                                              {"99999", 99'999},
+                                              {"999991", 999'991},
+                                              {"-1", 0},
+                                              {"x1", 0},
+                                              {"", 0},
+                                              {"12345678901234567890", 123'456}};
   for (const auto& [text, flag] : rows) {
     File(L"english.ini", std::string("[Messages]\r\nLanguage=English\r\nFlag=") + text + "\r\n");
     EXPECT_EQ(ListLanguages(kFolder).at(0).Flag, flag) << text;
