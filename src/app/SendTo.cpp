@@ -16,7 +16,7 @@ constexpr wchar_t kTarget[] = L"Folivant.s2f";
 std::vector<std::wstring> SubdirectoriesOf(const std::wstring& folder) {
   std::vector<std::wstring> names;
   platform::FindFiles files(folder, platform::ShortNames::Skip);
-  for (platform::FindData data; files.Opened() && files.Next(data);) {
+  for (platform::FindData data; files.Next(data);) {
     if (data.IsDirectory()) {
       names.emplace_back(data.Name);
     }

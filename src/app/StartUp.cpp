@@ -55,7 +55,7 @@ Ending ApplyFilterFile(const CommandLine& command) {
   if (!command.FilterFile) {
     return CommandLineError(L"No filter file specified.");
   }
-  const std::wstring path = command.FilterFile->empty() ? std::wstring() : platform::AbsolutePath(*command.FilterFile);
+  const std::wstring path = platform::AbsolutePath(*command.FilterFile);
   if (path.empty() || !FileExists(path)) {
     return CommandLineError(L"Filter file not found.");
   }

@@ -30,7 +30,7 @@ bool IsDirectory(std::wstring_view path);
 
 /// The process's current directory, without a trailing backslash (a drive root keeps its own).
 std::wstring CurrentDirectory();
-/// `path` made absolute against the current directory; an absolute path comes back unchanged.
+/// `path` made absolute against the current directory; an absolute and an empty path come back unchanged.
 std::wstring AbsolutePath(const std::wstring& path);
 /// The directory for temporary files, as the system gives it (with or without a trailing backslash).
 std::wstring TemporaryDirectory();

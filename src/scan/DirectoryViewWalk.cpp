@@ -32,15 +32,14 @@ bool DirectoryViewWalk::Cancelled() {
   return tree_.Cancelled;
 }
 
-/// Reads the directory at the end of path_ into its node and puts its frame on the stack; false when it cannot be
-/// opened.
-bool DirectoryViewWalk::OpenDirectory(std::uint32_t index, std::int32_t share) {
+/// Reads the directory at the end of path_ into its node and puts its frame on the stack, if it can be opened.
+void DirectoryViewWalk::OpenDirectory(std::uint32_t index, std::int32_t share) {
   progress_.ShowDirectory(path_.Shown());
   progress_.LetEventsThrough();
   platform::FindFiles files(path_.OnDisk(), platform::ShortNames::Skip);
   if (!files.Opened()) {
     tree_.Unreadable = true;
-    return false;
+    return;
   }
   DirNode& node = tree_.DirNodes[index];
   Frame frame{path_.Here(), index, share, names_.Size(), names_.Size(), 0};
@@ -58,7 +57,6 @@ bool DirectoryViewWalk::OpenDirectory(std::uint32_t index, std::int32_t share) {
   names_.SortFrom(frame.FirstName, settings_.Filter.OrderAZ);
   ancestors_.Push(frame.Path);
   frames_.push_back(frame);
-  return true;
 }
 
 /// False when the directory has no further subdirectory.

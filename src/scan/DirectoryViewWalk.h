@@ -34,7 +34,7 @@ class DirectoryViewWalk {
   };
 
   bool Cancelled();
-  bool OpenDirectory(std::uint32_t node, std::int32_t share);
+  void OpenDirectory(std::uint32_t node, std::int32_t share);
   bool EnterNextSubdirectory(Frame& frame);
   void Leave(const Frame& frame);
 

@@ -2,18 +2,8 @@
 
 namespace folivant {
 
-AttributeChoice AttributeChoiceOf(bool mustNotHave, bool mustHave, bool doNotCare) {
-  auto choice = AttributeChoice::MustNotHave;
-  if (mustNotHave) {
-    choice = AttributeChoice::MustNotHave;
-  }
-  if (mustHave) {
-    choice = AttributeChoice::MustHave;
-  }
-  if (doNotCare) {
-    choice = AttributeChoice::DoNotCare;
-  }
-  return choice;
+AttributeChoice AttributeChoiceOf(bool mustHave, bool doNotCare) {
+  return doNotCare ? AttributeChoice::DoNotCare : mustHave ? AttributeChoice::MustHave : AttributeChoice::MustNotHave;
 }
 
 OrderBy OrderByOf(const OrderButtons& buttons) {

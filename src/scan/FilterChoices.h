@@ -5,8 +5,9 @@
 
 namespace folivant {
 
-/// One row of attribute buttons; the last one set wins, none set is MustNotHave.
-AttributeChoice AttributeChoiceOf(bool mustNotHave, bool mustHave, bool doNotCare);
+/// One row of attribute buttons; of several set the last one wins. The first one, "must not have", is not asked: it is
+/// what remains.
+AttributeChoice AttributeChoiceOf(bool mustHave, bool doNotCare);
 
 /// The buttons "Order by", of which at most one is set.
 struct OrderButtons {

@@ -141,7 +141,7 @@ class frmFilter final : public frmBase {
     filter.DateMin = DateOf(DTPickMin);
     filter.DateMax = DateOf(DTPickMax);
     for (int i = 0; i < kAttributes; ++i) {
-      ChoiceAt(filter, i) = AttributeChoiceOf(Checked(chkN + i), Checked(chkY + i), Checked(chkX + i));
+      ChoiceAt(filter, i) = AttributeChoiceOf(Checked(chkY + i), Checked(chkX + i));
     }
     filter.OrderBy = OrderByOf({.Name = Checked(optName),
                                 .DosName = Checked(optDOS),

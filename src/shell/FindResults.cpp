@@ -22,7 +22,7 @@ constexpr std::size_t kTextsOffset = kCells * kRequestSlotBytes;
 constexpr std::size_t kBlockBytes = kTextsOffset + kCells * kCellBytes;
 
 std::wstring TemporaryFile(const wchar_t* name) {
-  return AddBackslash(StripNulls(platform::TemporaryDirectory())) + name;
+  return AddBackslash(platform::TemporaryDirectory()) + name;
 }
 
 std::size_t RequestOffset(std::size_t cell) {

@@ -31,6 +31,7 @@ TEST(GetSwitchArgument, GoesUpToTheNextSlash) {
   EXPECT_EQ(GetSwitchArgument(line, 1), L"C:\\a.fvf");
   EXPECT_EQ(GetSwitchArgument(line, 13), L"C:\\My Data");
   EXPECT_EQ(GetSwitchArgument(line, 27), L"");
+  EXPECT_EQ(GetSwitchArgument(L"/fa.fvf /g", 1), L"a.fvf") << "a blank before the argument may be missing";
 }
 
 TEST(GetSwitchArgument, OfASwitchAtTheEndOfTheLineIsEmpty) {

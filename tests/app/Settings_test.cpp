@@ -168,11 +168,12 @@ TEST(Settings, KeysLieInTheirOwnSectionAlone) {
       }
     }
   }
-  Fake().Store.erase({L"Settings", L"Filter"});
-  LoadSettings();
-  EXPECT_EQ(General.TextWidth, 80);
-  EXPECT_EQ(Filter.FilterSize, 0);
-  EXPECT_EQ(Format.SubLevel, 0);
+  EXPECT_TRUE(LoadSettings().empty());
+  Fake().Store.clear();
+  SaveSettings();
+  for (const Known& known : kKnown) {
+    EXPECT_EQ((Fake().Store[{known.Section, known.Key}]), known.Default) << Narrow(known.Key);
+  }
 }
 
 TEST(Settings, AFilterFileCarriesTheExSettingsAlone) {
@@ -597,11 +598,51 @@ TEST(Settings, AFractionOfAWholeNumberIsRounded) {
   EXPECT_EQ(LoadWith(L"Settings", L"FontSize", L"32767.5").size(), 1u) << "rounds to more than there is room for";
 }
 
+TEST(Settings, CodesTakeEveryNumberOfTheirWidth) {
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, bool> rows[] = {
+      {L"Format", L"SubLevel", L"-2147483648", true}, {L"Format", L"SubLevel", L"-2147483649", false},
+      {L"Format", L"SubLevel", L"2147483647", true},  {L"Format", L"SubLevel", L"2147483648", false},
+      {L"Filter", L"OrderBy", L"-32768", true},       {L"Filter", L"OrderBy", L"-32769", false},
+      {L"Filter", L"OrderBy", L"32767", true},        {L"Filter", L"OrderBy", L"32768", false},
+  };
+  for (const auto& [section, key, value, fits] : rows) {
+    EXPECT_EQ(LoadWith(section, key, value).empty(), fits) << Narrow(value);
+    if (fits) {
+      SaveSettings();
+      EXPECT_EQ((Fake().Store[{section, key}]), value);
+    }
+    Fake().Store.clear();
+  }
+}
+
 TEST(Settings, DatesAreReadWithAnyCharacterBetweenTheNumbers) {
   for (const wchar_t* text : {L"1999/09/25", L"1999-9-25", L"1999.09.25", L" 1999 9 25 "}) {
     EXPECT_TRUE(LoadWith(L"Filter", L"FilterDateMin", text).empty());
     EXPECT_EQ(Filter.DateMin, 36428);  // 1999-09-25
     Filter.DateMin = 0;
+  }
+}
+
+TEST(Settings, OnlyDaysOfTheCalendarAreDates) {
+  const std::pair<const wchar_t*, bool> rows[] = {
+      {L"99/12/31", false},   {L"100/01/01", false},     {L"1752/09/13", false}, {L"1752/09/14", true},
+      {L"9999/12/31", true},  {L"10000/01/01", false},   {L"2001/00/15", false}, {L"2001/01/15", true},
+      {L"2001/12/15", true},  {L"2001/13/15", false},    {L"2001/01/00", false}, {L"2001/01/01", true},
+      {L"2001/01/31", true},  {L"2001/01/32", false},    {L"2001/04/30", true},  {L"2001/04/31", false},
+      {L"2001/02/28", true},  {L"2001/02/29", false},    {L"2004/02/29", true},  {L"2004/02/30", false},
+      {L"1900/02/29", false}, {L"2000/02/29", true},     {L"2000/01/30", true},  {L"2000/03/31", true},
+      {L"2001/6/7", true},    {L"2001/06/07x", false},   {L"2001/06/", false},   {L"2001//07", false},
+      {L"/06/07", false},     {L"2001/06/07/08", false},
+  };
+  for (const auto& [text, valid] : rows) {
+    EXPECT_EQ(LoadWith(L"Filter", L"FilterDateMin", text).empty(), valid) << Narrow(text);
+  }
+  for (const wchar_t* last : {L"01/31", L"02/28", L"03/31", L"04/30", L"05/31", L"06/30", L"07/31", L"08/31", L"09/30",
+                              L"10/31", L"11/30", L"12/31"}) {
+    std::wstring day = L"2001/" + std::wstring(last);
+    EXPECT_TRUE(LoadWith(L"Filter", L"FilterDateMin", day).empty()) << Narrow(day);
+    ++day.back();
+    EXPECT_FALSE(LoadWith(L"Filter", L"FilterDateMin", day).empty()) << Narrow(day);
   }
 }
 
@@ -614,11 +655,14 @@ TEST(Settings, DatesAreWrittenWithSlashesWhateverTheLocale) {
 }
 
 TEST(Settings, MarginsAreWrittenInTheUsersNumberFormat) {
-  Fake().Locale.DecimalSeparator = L",";
-  LoadWith(L"Settings", L"MarginLeft", L"12,5");
-  EXPECT_EQ(General.MarginLeft, 12.5F);
-  SaveGeneralSettings();
-  EXPECT_EQ((Fake().Store[{L"Settings", L"MarginLeft"}]), L"12,5");
+  for (const std::wstring separator : {L".", L",", L"\u066B", L"/"}) {  // English, German, Arabic, Persian
+    Fake().Locale.DecimalSeparator = separator;
+    LoadWith(L"Settings", L"MarginLeft", L"12" + separator + L"5");
+    EXPECT_EQ(General.MarginLeft, 12.5F) << testing::PrintToString(separator);
+    General.MarginLeft = 17.25F;
+    SaveGeneralSettings();
+    EXPECT_EQ((Fake().Store[{L"Settings", L"MarginLeft"}]), L"17" + separator + L"25");
+  }
 }
 
 TEST(Settings, AMarginFromAnotherCountryIsReadAsItWasMeant) {
@@ -735,22 +779,36 @@ TEST(Settings, ADestinationWithoutAMeaningLeavesTheOneBefore) {
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Screen);
 }
 
+std::vector<std::wstring> KeysSavedBy(void (*save)()) {
+  Fake().Store.clear();
+  save();
+  std::vector<std::wstring> keys;
+  for (const auto& [place, value] : Fake().Store) {
+    keys.push_back(place.first + L'.' + place.second);
+  }
+  return keys;
+}
+
 TEST(Settings, DialogsSaveTheirOwnGroupAlone) {
+  using testing::ElementsAre;
   LoadSettings();
-  SaveFilterSettings();
-  EXPECT_EQ(Fake().Store.size(), 9u);
-  Fake().Store.clear();
-  SaveFormatSettings();
-  EXPECT_EQ(Fake().Store.size(), 3u);
-  Fake().Store.clear();
-  SaveListingStyle();
-  EXPECT_EQ(Fake().Store.size(), 1u);
-  Fake().Store.clear();
-  SavePrinterSettings();
-  EXPECT_EQ(Fake().Store.size(), 5u);
-  Fake().Store.clear();
-  SaveGeneralSettings();
-  EXPECT_EQ(Fake().Store.size(), 21u);
+  // Sections and keys in the order of the alphabet.
+  EXPECT_THAT(KeysSavedBy(SaveFilterSettings),
+              ElementsAre(L"Filter.Attr", L"Filter.Filter", L"Filter.FilterDateMax", L"Filter.FilterDateMin",
+                          L"Filter.FilterName", L"Filter.FilterSize", L"Filter.FilterSizeMin", L"Filter.OrderAZ",
+                          L"Filter.OrderBy"));
+  EXPECT_THAT(KeysSavedBy(SaveFormatSettings), ElementsAre(L"Format.FShow", L"Format.SubLevel", L"Format.TShow"));
+  EXPECT_THAT(KeysSavedBy(SaveListingStyle), ElementsAre(L"Settings.Format"));
+  EXPECT_THAT(KeysSavedBy(SavePrinterSettings),
+              ElementsAre(L"Settings.PrinterCopies", L"Settings.PrinterDuplex", L"Settings.PrinterName",
+                          L"Settings.PrinterPaperBin", L"Settings.PrinterQuality"));
+  EXPECT_THAT(KeysSavedBy(SaveGeneralSettings),
+              ElementsAre(L"Settings.DateFormat", L"Settings.EmptyDirs", L"Settings.ExitWhenDone",
+                          L"Settings.FilesFirst", L"Settings.Font80HF", L"Settings.FontName", L"Settings.FontNameHF",
+                          L"Settings.FontSize", L"Settings.FontSizeHF", L"Settings.Footer", L"Settings.Header",
+                          L"Settings.Inches", L"Settings.Language", L"Settings.MarginBottom", L"Settings.MarginLeft",
+                          L"Settings.MarginRight", L"Settings.MarginTop", L"Settings.Port", L"Settings.TextHeight",
+                          L"Settings.TextViewer", L"Settings.TextWidth"));
 }
 
 TEST(Settings, AStoreThatCannotBeWrittenIsAnError) {

@@ -1,5 +1,6 @@
 #include "app/StartUp.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <new>
@@ -9,6 +10,8 @@
 #include "app/mdlVars.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeSession.h"
+#include "output/mdlPrint.h"
+#include "scan/mdlScan.h"
 
 namespace folivant {
 namespace {
@@ -104,6 +107,18 @@ TEST_F(StartUp, ASentFileIsAListOfPathsAndStaysAsItIsSpelled) {
   EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"c:\\data\\a.TXT");
 }
 
+TEST_F(StartUp, ASentRelativeFileIsReadInTheCurrentDirectory) {
+  Tree().File(L"C:\\Work\\mine.txt", "C:\\Data\\A.txt\r\n");
+  Start(L"mine.txt");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
+  mdlVars::OutputFile = L"C:\\Out\\list.csv";
+  mdlVars::OutputKind = OutputKind::Csv;
+  OutputDriver output(mdlVars::Run());
+  NoProgress progress;
+  RunListing(output, progress);
+  EXPECT_THAT(Fake().Content(L"C:\\Out\\list.csv"), testing::HasSubstr("\r\nA.txt;C:\\Data;5 b;"));
+}
+
 TEST_F(StartUp, TheStyleOfASentFileIsNotSavedWhenTheWindowCloses) {
   Store(L"Format", L"3");
   Store(L"Path", L"C:\\Work");
@@ -121,6 +136,14 @@ TEST_F(StartUp, ASentPathThatIsGoneLeavesTheStoredDirectory) {
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
+TEST_F(StartUp, ASentPathThatIsGoneLooksAtTheStoredDirectoryAgain) {
+  Store(L"Path", L"c:\\data\\");
+  Store(L"Format", L"5");
+  Start(L"C:\\Nowhere");
+  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::NoSubdirectories);
+}
+
 TEST_F(StartUp, WithoutAnyPrinterTheWindowOpensWithTheFileDestination) {
   Start(L"");
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File);
@@ -130,6 +153,7 @@ TEST_F(StartUp, WithAPrinterTheStoredDestinationStays) {
   Session().Printers = {L"Laser"};
   Start(L"");
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Printer);
+  EXPECT_EQ(mdlVars::Printer.PrinterName, L"Laser") << "the default printer, for the options to show";
 }
 
 TEST_F(StartUp, SwitchesWithoutAFilterFileAreAProblem) {
@@ -176,6 +200,39 @@ TEST_F(StartUp, WithoutGoTheWindowOpensWithTheSwitchesInPlaceAndNothingIsStored)
   EXPECT_EQ(mdlVars::FilterFile, L"C:\\sets\\a.fvf");
   EXPECT_FALSE(mdlVars::UseFilterFile);
   EXPECT_TRUE(Fake().Store.empty());
+}
+
+TEST_F(StartUp, TheOutputLetterIsTheDestinationWhateverTheFilterFileSays) {
+  Session().Printers = {L"Laser"};
+  const struct {
+    const wchar_t* letter;
+    OutputTarget target;
+    OutputKind kind;
+  } rows[] = {
+      {L"p", OutputTarget::Printer, OutputKind::Printer},   {L"t", OutputTarget::File, OutputKind::Text},
+      {L"a", OutputTarget::File, OutputKind::TabDelimited}, {L"h", OutputTarget::File, OutputKind::Html},
+      {L"c", OutputTarget::File, OutputKind::Csv},          {L"x", OutputTarget::File, OutputKind::Xml},
+  };
+  for (const auto& row : rows) {
+    for (const char* stored : {"0", "1", "2"}) {
+      Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nPath=C:\\Data\r\nOutputTo=" + std::string(stored) + "\r\n");
+      Start(std::wstring(L"/f C:\\sets\\a.fvf /t ") + row.letter);
+      EXPECT_EQ(mdlVars::OutputTo, row.target) << stored << " in the file, /t " << static_cast<char>(*row.letter);
+      EXPECT_EQ(mdlVars::OutputKind, row.kind);
+    }
+  }
+  EXPECT_EQ(Session().Shown, 18);
+}
+
+TEST_F(StartUp, WithoutAnOutputLetterTheDestinationIsThatOfTheFilterFile) {
+  Session().Printers = {L"Laser"};
+  for (const OutputTarget target : {OutputTarget::Printer, OutputTarget::File, OutputTarget::Screen}) {
+    Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=" + std::to_string(static_cast<int>(target)) + "\r\n");
+    mdlVars::OutputKind = OutputKind::Text;
+    Start(L"/f C:\\sets\\a.fvf");
+    EXPECT_EQ(mdlVars::OutputTo, target);
+    EXPECT_EQ(mdlVars::OutputKind, target == OutputTarget::Printer ? OutputKind::Printer : OutputKind::Text);
+  }
 }
 
 TEST_F(StartUp, AnInvalidDirectorySilentlyLeavesThatOfTheFilterFile) {
@@ -237,6 +294,12 @@ TEST_F(StartUp, CancellingTheSaveDialogEndsWithoutAListing) {
   EXPECT_EQ(mdlVars::OutputKind, OutputKind::Xml);
   EXPECT_TRUE(Fake().Messages.empty());
   EXPECT_EQ(Session().Shown, 0);
+}
+
+TEST_F(StartUp, ARunThatEndsWithoutAListingFails) {
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=5\r\nPath=C:\\Data\r\n");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g"), kExitFailed);
+  EXPECT_EQ(Fake().Messages.size(), 1u) << "no Find window is open";
 }
 
 TEST_F(StartUp, AScreenDestinationAsksForATextFile) {
@@ -409,10 +472,14 @@ TEST_F(SendTo, RemovalDeletesTheTargetOfEveryProfileAndNothingElse) {
 }
 
 TEST_F(SendTo, RemovalDeletesTheOwnTargetWhereverItLies) {
-  Fake().SendToFolder = L"C:\\Users\\me\\AppData\\Roaming\\Microsoft\\Windows\\SendTo";
-  Tree().File(*Fake().SendToFolder + L"\\Folivant.s2f", "");
-  EXPECT_EQ(Start(L"/deletesendto"), kExitDone);
-  EXPECT_EQ(Tree().Find(*Fake().SendToFolder + L"\\Folivant.s2f"), nullptr);
+  Tree().Dir(L"C:\\Closed").Unreadable();
+  for (const std::wstring folder : {L"C:\\Users\\me\\AppData\\Roaming\\Microsoft\\Windows\\SendTo",
+                                    L"C:\\Users\\me\\Senden an", L"C:\\Closed\\me\\SendTo", L"D:\\SendTo"}) {
+    Fake().SendToFolder = folder;
+    Tree().File(folder + L"\\Folivant.s2f", "");
+    EXPECT_EQ(Start(L"/deletesendto"), kExitDone);
+    EXPECT_EQ(Tree().Find(folder + L"\\Folivant.s2f"), nullptr) << testing::PrintToString(folder);
+  }
 }
 
 TEST_F(SendTo, RemovalWithoutASendToFolderDoesNothing) {

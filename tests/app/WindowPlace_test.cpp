@@ -11,7 +11,8 @@ TEST(WindowPlace, ComesBackFromItsText) {
 }
 
 TEST(WindowPlace, IsNothingFromAnyOtherText) {
-  for (const wchar_t* text : {L"", L",", L"1", L"1,", L",1", L"1,2,3", L"a,b", L"1;2", L" 1,2", L"99999999999,1"}) {
+  for (const wchar_t* text :
+       {L"", L",", L"1", L"1,", L",1", L"1,2,3", L"a,b", L"1;2", L" 1,2", L"99999999999,1", L"\x0131,2"}) {
     EXPECT_EQ(ParseWindowPlace(text), std::nullopt) << testing::PrintToString(std::wstring(text));
   }
 }

@@ -31,8 +31,9 @@ TEST(DateValueTest, ADayOutOfItsMonthIsCarriedOver) {
 }
 
 TEST(DateValueTest, EverySecondSurvivesTheWayThereAndBack) {
-  const platform::CalendarTime times[] = {{1899, 12, 30, 0, 0, 0},   {1980, 1, 1, 0, 0, 1},   {1999, 9, 30, 10, 15, 0},
-                                          {2000, 2, 29, 23, 59, 59}, {2039, 12, 31, 0, 0, 0}, {1700, 5, 6, 7, 8, 9}};
+  const platform::CalendarTime times[] = {{1899, 12, 30, 0, 0, 0},    {1980, 1, 1, 0, 0, 1},   {1999, 9, 30, 10, 15, 0},
+                                          {2000, 2, 29, 23, 59, 59},  {2039, 12, 31, 0, 0, 0}, {1700, 5, 6, 7, 8, 9},
+                                          {1899, 12, 29, 23, 59, 59}, {1899, 12, 29, 0, 0, 0}, {1899, 12, 29, 0, 0, 1}};
   for (const platform::CalendarTime& time : times) {
     EXPECT_TRUE(SameTime(ToCalendarTime(ToDateValue(time)), time)) << time.Year;
   }

@@ -92,9 +92,10 @@ TEST(Numbers, WhatIsNoNumberIsNoneWhateverTheLocale) {
   for (const Locale* const locale :
        {&kAmerican, &kGerman, &kFrench, &kPolish, &kSwiss, &kPersian, &kArabic, &kOwn, &kUngrouped}) {
     fakes::Fake().Locale = *locale;
-    for (const wchar_t* const text : {L"",     L" ",      L"abc",  L"1a",  L"a1",   L"--1", L"1-",    L"+",     L"-",
-                                      L"+-1",  L"0x10",   L"nan",  L"inf", L"1e",   L"e5",  L"1,2,3", L"1.2.3", L"1..2",
-                                      L"1,.2", L"\u0663", L"1\t2", L"%1",  L"1 e5", L"- 1", L"1;5"}) {
+    for (const wchar_t* const text :
+         {L"",     L" ",   L"abc",  L"1a",  L"a1",  L"--1",   L"1-",    L"+",    L"-",    L"+-1",
+          L"0x10", L"nan", L"inf",  L"1e",  L"e5",  L"1,2,3", L"1.2.3", L"1..2", L"1,.2", L"\u0663",
+          L"1\t2", L"%1",  L"1 e5", L"- 1", L"1;5", L"1-2",   L"1+2",   L"++1"}) {
       for (const auto& read : {StoredWhole, TypedWhole, StoredFraction, TypedFraction}) {
         EXPECT_TRUE(std::isnan(read(text))) << Named(*locale, text) << " is " << read(text);
       }

@@ -109,11 +109,11 @@ bool RemoveFile(const std::wstring& path) {
 }
 
 bool PathExists(std::wstring_view path) {
-  return Fake().Tree.Find(path) != nullptr;
+  return Fake().Tree.Find(AbsolutePath(std::wstring(path))) != nullptr;
 }
 
 bool IsDirectory(std::wstring_view path) {
-  const FakeNode* node = Fake().Tree.Find(path);
+  const FakeNode* node = Fake().Tree.Find(AbsolutePath(std::wstring(path)));
   return node != nullptr && node->IsDirectory();
 }
 
@@ -122,7 +122,7 @@ std::wstring CurrentDirectory() {
 }
 
 std::wstring AbsolutePath(const std::wstring& path) {
-  if (path.substr(1, 2) == L":\\" || path.starts_with(L"\\\\")) {
+  if (path.empty() || path.substr(1, 2) == L":\\" || path.starts_with(L"\\\\")) {
     return path;
   }
   if (path.starts_with(L"\\")) {
@@ -160,7 +160,7 @@ std::wstring VolumeLabel(const std::wstring& root) {
 }
 
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
-  const auto found = Fake().FreeSpace.find(RootOf(directory));
+  const auto found = Fake().FreeSpace.find(directory.starts_with(L"\\\\") ? directory : RootOf(directory));
   return found == Fake().FreeSpace.end() ? std::nullopt : std::optional(found->second);
 }
 

@@ -28,6 +28,7 @@ FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state
   const FakeNode* node = fakes::Tree().Find(directory);
   if (node != nullptr && node->IsDirectory() && !node->Unreadable) {
     *state_ = {node, shortNames, 0, false};
+    fakes::Fake().ShortNamesAsked += shortNames == ShortNames::Read ? 1 : 0;
   }
 }
 
@@ -74,6 +75,7 @@ std::optional<FoundEntry> FindEntry(std::wstring_view path) {
 }
 
 std::optional<FileIdentity> IdentityOf(std::wstring_view directory) {
+  ++fakes::Fake().IdentitiesAsked;
   const FakeNode* node = fakes::Tree().Find(directory);
   if (node == nullptr || !node->IsDirectory() || node->Unreadable) {
     return std::nullopt;

@@ -138,6 +138,9 @@ struct ForeignWindow::State {
     const auto item = Field<std::int32_t>(record, 4);
     const auto column = Field<std::int32_t>(record, 8);
     const std::uint64_t text = is32 ? Field<std::uint32_t>(record, 20) : Field<std::uint64_t>(record, 24);
+    if (Window->SilentFrom && item >= *Window->SilentFrom) {
+      return 0;
+    }
     const auto capacity = static_cast<std::size_t>(Field<std::int32_t>(record, is32 ? 24 : 32));
     const std::string& cell = Window->Rows.at(static_cast<std::size_t>(item)).at(static_cast<std::size_t>(column));
     const std::size_t length = std::min(cell.size(), capacity - 1);
@@ -159,6 +162,7 @@ RecordLayout ForeignWindow::Layout() const {
   return state_->Window->Layout;
 }
 std::uint64_t ForeignWindow::Reserve(std::size_t size) {
+  ++FindWindows().Blocks;
   state_->Block.assign(size, std::byte{0});
   state_->Address = Layout() == RecordLayout::Bits32 ? 0x0045'0000 : 0x0000'7FFE'0001'0000;
   return state_->Address;
@@ -178,7 +182,7 @@ std::int64_t ForeignWindow::Send(std::uint32_t message, std::uint64_t wParam, st
   EXPECT_EQ(0u, wParam);
   if (message == 4100) {  // how many rows
     EXPECT_EQ(0u, lParam);
-    return static_cast<std::int64_t>(state_->Window->Rows.size());
+    return state_->Window->ClaimedRows.value_or(static_cast<std::int64_t>(state_->Window->Rows.size()));
   }
   EXPECT_EQ(4101u, message);
   ++FindWindows().GetItemMessages;

@@ -28,6 +28,8 @@ struct FakeWindow {
   std::vector<std::vector<std::string>> Rows = {};  ///< five ANSI texts each
   std::optional<FakeFailure> Refuses = {};          ///< the owner may not be opened
   std::optional<int> DiesAtCall = {};               ///< the call, from 1, that finds the owner gone
+  std::optional<std::int64_t> ClaimedRows = {};     ///< what it answers in place of the number of its rows
+  std::optional<std::int32_t> SilentFrom = {};      ///< the row, from 0, from which on it gives no text
 };
 
 /// A mapping as other programs see it.
@@ -42,6 +44,7 @@ struct FakeFindWindows {
   std::map<std::wstring, FakeMapping> Mappings;
   int Calls = 0;            ///< Write, Read and Send together
   int GetItemMessages = 0;  ///< requests for a cell
+  int Blocks = 0;           ///< of memory reserved in owners
 
   // The dialog
   int DialogsShown = 0;

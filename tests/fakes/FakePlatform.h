@@ -52,7 +52,11 @@ struct FakePlatform {
   std::wstring ProgramFolder = L"C:\\Program Files\\Folivant";
   std::optional<std::wstring> SendToFolder;
   std::map<std::wstring, std::wstring> Labels;            ///< by root: "C:\"
-  std::map<std::wstring, platform::DiskSpace> FreeSpace;  ///< by root; a missing one cannot be asked
+  std::map<std::wstring, platform::DiskSpace> FreeSpace;  ///< by root, network paths whole; else unknown
+
+  // How often the walk asked for what costs time
+  int IdentitiesAsked = 0;
+  int ShortNamesAsked = 0;  ///< enumerations
 
   // Stores: section and key to value
   std::map<std::pair<std::wstring, std::wstring>, std::wstring> Store;

@@ -79,10 +79,14 @@ int CompareText(std::wstring_view a, std::wstring_view b) {
 }
 
 void AppendSortKey(std::wstring_view text, std::string& keys) {
+  // In the manner of UTF-8, whose bytes sort as its characters do: eight letters fill one step of the sorting.
   for (const wchar_t c : text) {
     const auto code = static_cast<std::uint32_t>(Lower(c));
-    for (const int shift : {16, 8, 0}) {
-      keys.push_back(static_cast<char>(code >> shift & 0xFF));
+    const int more = code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr std::uint32_t kLeads[] = {0, 0xC0, 0xE0, 0xF0};
+    keys.push_back(static_cast<char>(kLeads[more] | code >> (6 * more)));
+    for (int left = more - 1; left >= 0; --left) {
+      keys.push_back(static_cast<char>(0x80U | (code >> (6 * left) & 0x3FU)));
     }
   }
 }

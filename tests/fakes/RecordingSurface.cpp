@@ -17,8 +17,15 @@ bool Same(double a, double b) {
 
 class RecordingSurface final : public platform::PageSurface {
  public:
-  RecordingSurface(RecordingPrinter& printer, platform::PrintJob job) : printer_(printer), job_(std::move(job)) {}
-  ~RecordingSurface() override { AbortDocument(); }
+  RecordingSurface(RecordingPrinter& printer, platform::PrintJob job) : printer_(printer), job_(std::move(job)) {
+    ++printer_.Open;
+  }
+  RecordingSurface(const RecordingSurface&) = delete;
+  RecordingSurface& operator=(const RecordingSurface&) = delete;
+  ~RecordingSurface() override {
+    AbortDocument();
+    --printer_.Open;
+  }
 
   platform::PageArea Area() const override {
     const platform::PageArea area = printer_.Area;

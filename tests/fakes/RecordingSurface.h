@@ -42,6 +42,7 @@ class RecordingPrinter {
   int Pages = 0;                         ///< of the last document
   int Ended = 0;                         ///< documents that went to the printer
   int Aborted = 0;                       ///< documents that were thrown away
+  int Open = 0;                          ///< surfaces that somebody holds
   std::size_t Measured = 0;              ///< how often a text was measured
 
   RecordingPrinter();

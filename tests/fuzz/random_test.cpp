@@ -2,6 +2,7 @@
 // same inputs on every machine. What is asserted are truths that hold for every input.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <random>
@@ -16,6 +17,7 @@
 #include "platform/ProfileText.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "scan/ListingTest.h"
 #include "shell/PathListLines.h"
 #include "ui/Language.h"
 
@@ -66,7 +68,9 @@ const std::vector<std::string> kPaths = {"C:\\",
                                          "\xD0\x96",
                                          "\xF0\x9F\x98\x80",
                                          "\xED\xA0\x80",
-                                         "\0"};
+                                         "C:\\Data\\a",
+                                         "C:\\Data\\A.A",
+                                         std::string(1, '\0')};
 const std::vector<std::string> kSwitches = {
     "/f",   "/d", "/t", "/o", "/g", "/", " ", "\"", "C:\\sets\\a.fvf", "C:\\Data", ".", "p", "t", "x", "/deletesendto",
     "list", "\\"};
@@ -151,18 +155,59 @@ TEST(RandomPathLists, LinesHoldNoEndsAndAreNotBlank) {
   }
 }
 
+/// What a run that lists a path list told: rows, all of files that are there, or an error.
+class ListedPaths final : public RecordingWriter {
+ public:
+  std::size_t Rows = 0;
+  void FindList(std::span<const FoundItem> rows) override {
+    RecordingWriter::FindList(rows);
+    Rows = rows.size();
+    for (const FoundItem& row : rows) {
+      EXPECT_NE(fakes::Tree().Find(row.InFolder + L'\\' + row.Name), nullptr) << testing::PrintToString(row.Name);
+    }
+  }
+};
+
 TEST(RandomPathLists, EveryListIsListedOrIsOneError) {
   Source source(3);
   fakes::Tree().Dir(L"C:\\Data").File(L"a").Dir(L"a.a");
-  fakes::Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nOutputTo=1\r\n");
-  for (int i = 0; i < 300; ++i) {
-    fakes::Tree().File(L"C:\\list", source.Bytes(kPaths, 12));
-    fakes::Fake().Messages.clear();
-    LoadFilterFile(L"C:\\sets\\a.fvf");
-    Start(L"C:\\list");
-    EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
-    EXPECT_TRUE(fakes::Fake().Messages.empty());
+  mdlVars::Format.ListingStyle = ListingStyle::PathListFile;
+  mdlVars::Tree.StartPath = L"C:\\list";
+  int withRows = 0;
+  int withErrors = 0;
+  int withoutPaths = 0;
+  for (int i = 0; i < 3000; ++i) {
+    const std::string bytes = source.Bytes(kPaths, 10);
+    fakes::Tree().File(L"C:\\list", bytes);
+    ListedPaths listed;
+    NoProgress progress;
+    try {
+      RunListing(listed, progress);
+      EXPECT_THAT(listed.Events, testing::ElementsAre(L"begin", L"find", L"end")) << bytes;
+      withRows += listed.Rows > 0 ? 1 : 0;
+    } catch (const RuntimeError& error) {
+      EXPECT_THAT(listed.Events, testing::ElementsAre(L"begin", L"abort")) << bytes;
+      if (error.Action() == FailedAction::ListPaths) {
+        EXPECT_EQ(error.Object(), L"C:\\list");
+        ++withoutPaths;
+      } else {
+        EXPECT_EQ(error.Action(), FailedAction::ReadFile);
+        EXPECT_NE(error.Object(), L"");
+        ++withErrors;
+      }
+    }
   }
+  EXPECT_GE(withoutPaths, 50) << "too few lists of lines that are no paths";
+  EXPECT_GE(withRows, 50) << "too few lists of files that are there";
+  EXPECT_GE(withErrors, 50) << "too few lists of files that are not";
+}
+
+std::vector<BadSetting> LoadFrom(const std::wstring& filterFile) {
+  mdlVars::FilterFile = filterFile;
+  mdlVars::UseFilterFile = true;
+  std::vector<BadSetting> bad = LoadSettings();
+  mdlVars::UseFilterFile = false;
+  return bad;
 }
 
 TEST(RandomFilterFiles, EveryBadValueIsReportedAndTheRestHasDefaultsOrValues) {
@@ -185,18 +230,27 @@ TEST(RandomFilterFiles, EveryBadValueIsReportedAndTheRestHasDefaultsOrValues) {
                                           "True",
                                           "\r\n",
                                           "[x]\r\n"};
+  int reported = 0;
   for (int i = 0; i < 2000; ++i) {
-    fakes::Tree().File(L"C:\\a.fvf", source.Bytes(lines, 60));
-    fakes::Fake().Messages.clear();
+    const std::string bytes = source.Bytes(lines, 60);
+    fakes::Tree().File(L"C:\\a.fvf", bytes);
     mdlVars::Format.SubLevel = 77;
-    LoadFilterFile(L"C:\\a.fvf");
-    EXPECT_FALSE(mdlVars::UseFilterFile);
+    mdlVars::Filter.NameOn = false;
+    const std::vector<BadSetting> bad = LoadFrom(L"C:\\a.fvf");
     EXPECT_NE(mdlVars::Format.SubLevel, 77);
     EXPECT_LE(fakes::Fake().Messages.size(), 1u) << "one for all that is bad";
     for (const AttributeChoice choice : mdlVars::Filter.Attributes) {
       EXPECT_LE(static_cast<int>(choice), 2);
     }
+    // One key, followed from the bytes to the member: four digits, and where there is none the default.
+    const std::wstring value = Trim(ProfileText(bytes).Read(L"Folivant 3.5", L"Filter").value_or(L"1000"));
+    const bool good = std::min(value.find_first_not_of(L"0123456789"), value.size()) >= 4;
+    const auto isFilter = [](const BadSetting& setting) { return setting.Key == L"Filter"; };
+    EXPECT_EQ(std::ranges::count_if(bad, isFilter), good ? 0 : 1) << bytes;
+    EXPECT_EQ(mdlVars::Filter.NameOn, !good || value.front() != L'0') << bytes;
+    reported += good ? 0 : 1;
   }
+  EXPECT_GE(reported, 50) << "too few bad values";
 }
 
 TEST(RandomLanguageFiles, EveryTextIsThereAndShort) {

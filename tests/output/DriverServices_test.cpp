@@ -98,6 +98,11 @@ TEST(FreeSpaceLine, ReportsMoreThanFourGigabytes) {
   EXPECT_EQ(FreeSpaceLine(L"C:\\Data", TestTexts()), L"6,144 Mb free of 8,192 Mb.");
 }
 
+TEST(FreeSpaceLine, AsksNetworkPathsWithABackslashAtTheirEnd) {
+  fakes::Fake().FreeSpace[L"\\\\server\\share\\"] = {1'024, 2'048};
+  EXPECT_EQ(FreeSpaceLine(L"\\\\server\\share", TestTexts()), L"1,024 b  free of 2,048 b .");
+}
+
 class Closings : public WriterFixture {};
 
 TEST_F(Closings, DependOnTheStyle) {

@@ -55,6 +55,10 @@ TEST(ShortenName, CountsWidthsBelowZeroAsZero) {
 
 TEST(CharacterMeasure, HasNoCharactersBelowZero) {
   EXPECT_EQ(CharacterMeasure::Characters(-4.5), 0U);
+  EXPECT_EQ(CharacterMeasure::Characters(0), 0U);
+  EXPECT_EQ(CharacterMeasure::Characters(0.5), 0U);
+  EXPECT_EQ(CharacterMeasure::Characters(0.7), 1U);
+  EXPECT_EQ(CharacterMeasure::Characters(1), 1U);
   EXPECT_EQ(CharacterMeasure::Characters(2.5), 2U);
   EXPECT_EQ(CharacterMeasure::Characters(3.5), 4U);
 }

@@ -142,6 +142,16 @@ TEST_F(HtmlPage, EscapesSizesAndNothingElse) {
   EXPECT_EQ(Body().at(3), "<tr><td><n>&<td><d>&<td>&lt;s&gt;&amp;\"'&amp;lt;<td><t>&<td><a>& </tr>");
 }
 
+TEST_F(HtmlPage, LeavesTheSizesOfTheDirectoryViewAsTheyAre) {
+  Style(ListingStyle::DirectoryView);
+  Format.Directories = {.Size = true};
+  Texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"<&");
+  writer_.BeginListing();
+  writer_.DirectoryViewEntry({L"<A>&", L"C:\\", 0, 0, Currency::FromWhole(5), 0, {}});
+  writer_.AbortListing();
+  EXPECT_EQ(Body().at(1), "<tr><td><A>&<td>5 <&</tr>");
+}
+
 TEST_F(HtmlPage, WritesAFindListFourLinesToARow) {
   Style(ListingStyle::FindWindow);
   Tree.FindWindowTitle = L"Find: <all>";

@@ -14,6 +14,7 @@ namespace {
 
 TEST_F(PageWriter, TheJobCarriesThePrinterSettings) {
   general.Portrait = false;
+  tree.StartPathOnDisk = L"C:\\DATA";
   Begin(ListingStyle::NoSubdirectories);
   ASSERT_EQ(printer.Jobs.size(), 1U);
   const platform::PrintJob& job = printer.Jobs[0];
@@ -252,9 +253,11 @@ TEST_F(PageWriter, ClosingLinesNeverRunIntoTheFooter) {
 TEST_F(PageWriter, ACancelledRunPrintsNothing) {
   Begin(ListingStyle::IncludeSubdirectories);
   ListDirectory(L"C:\\Data", 100);
+  EXPECT_EQ(printer.Open, 1);
   writer.AbortListing();
   EXPECT_EQ(printer.Ended, 0);
   EXPECT_EQ(printer.Aborted, 1);
+  EXPECT_EQ(printer.Open, 0);
 }
 
 /// Counts how often events get through; the user cancels at the first of them, if at all.
@@ -295,6 +298,7 @@ TEST_F(PageWriter, OneRunFollowsAnother) {
   Begin(ListingStyle::NoSubdirectories).EndListing();
   EXPECT_EQ(printer.Ended, 2);
   EXPECT_EQ(printer.Aborted, 0);
+  EXPECT_EQ(printer.Open, 0) << "the printer is let go";
   EXPECT_NO_THROW(printer.Find(1, L"H 1"));
 }
 

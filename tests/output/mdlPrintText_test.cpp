@@ -1,5 +1,7 @@
 #include "output/mdlPrintText.h"
 
+#include <gmock/gmock.h>
+
 #include "output/WriterFixture.h"
 
 namespace folivant {
@@ -185,6 +187,29 @@ TEST_F(PlainText, KeepsAnEmptyFieldsSeparator) {
   FileRecord entry = File(L"   ");
   entry.AttrText = L"     ";
   EXPECT_EQ(EntryLine(csv_, entry), ";;");
+}
+
+TEST_F(PlainText, KeepsTheBlanksInsideAField) {
+  General.Header = L" h h ";
+  Texts.Set(static_cast<std::size_t>(Text::DirectoryCaption), L"d d");
+  Texts.Set(static_cast<std::size_t>(Text::FilesCaption), L"f f");
+  Texts.Set(static_cast<std::size_t>(Text::NameCaption), L"n n");
+  Texts.Set(static_cast<std::size_t>(Text::SizeCaption), L"s s");
+  Style(ListingStyle::DirectoryView);
+  Format.Directories = {.Files = true};
+  csv_.BeginListing();
+  csv_.DirectoryViewEntry({L"a b", L"", 1, 7, {}, 7, {}});
+  csv_.AbortListing();
+  EXPECT_EQ(Written(), "h h;\r\n\r\n\r\nd d;f f;\r\na b;7;\r\n");
+
+  Style(ListingStyle::NoSubdirectories);
+  Format.Files = {.Name = true, .Size = true};
+  FileRecord entry = File(L"a b");
+  entry.SizeText = L"1 b ";
+  csv_.BeginListing();
+  List(csv_, L"C:\\", {entry});
+  csv_.AbortListing();
+  EXPECT_THAT(Written(), testing::EndsWith("\r\nn n;s s;\r\n\r\na b;1 b;\r\n\r\nthe summary;\r\n\r\n"));
 }
 
 TEST_F(PlainText, TrimsBlanksOnly) {

@@ -147,6 +147,16 @@ TEST_F(XmlDocument, NestsTheDirectoryViewUnderItsRoot) {
                               "<directory><name>C:\\Data\\B</name>", "</directory>", "</directory>", "</xml>"}));
 }
 
+TEST_F(XmlDocument, LeavesTheSizesOfTheDirectoryViewAsTheyAre) {
+  Style(ListingStyle::DirectoryView);
+  Format.Directories = {.Size = true};
+  Texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"<&");
+  writer_.BeginListing();
+  writer_.DirectoryViewEntry({L"A", L"C:\\<A>&", 0, 0, Currency::FromWhole(5), 0, {}});
+  writer_.AbortListing();
+  EXPECT_EQ(Body(), (LineList{"<directory><name>C:\\<A>&</name><size>5 <&</size>"}));
+}
+
 TEST_F(XmlDocument, BreaksOffWhenCancelled) {
   WriteTree({Directory(L"A", 0), FileAt(L"a", 1), Directory(L"B", 1)});
   writer_.AbortListing();

@@ -122,6 +122,8 @@ TEST(WithDefaultExtension, AppendsTheExtensionOfTheKind) {
   EXPECT_EQ(WithDefaultExtension(L"C:\\list", OutputKind::TabDelimited), L"C:\\list.txt");
   EXPECT_EQ(WithDefaultExtension(L"C:\\list", OutputKind::Html), L"C:\\list.html");
   EXPECT_EQ(WithDefaultExtension(L"C:\\list", OutputKind::Xml), L"C:\\list.xml");
+  EXPECT_EQ(WithDefaultExtension(L"C:\\list", OutputKind::Printer), L"C:\\list.txt");
+  EXPECT_EQ(WithDefaultExtension(L"C:\\list", static_cast<OutputKind>(9)), L"C:\\list.txt");
 }
 
 TEST(WithDefaultExtension, GivesCsvFilesTxt) {

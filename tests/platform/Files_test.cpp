@@ -199,6 +199,7 @@ TEST(Files, MakesPathsAbsolute) {
   EXPECT_EQ(AbsolutePath(L"\\a.txt"), current.substr(0, 2) + L"\\a.txt");
   EXPECT_EQ(AbsolutePath(L"c:\\A\\b.txt"), L"c:\\A\\b.txt");
   EXPECT_EQ(AbsolutePath(L"\\\\server\\share\\a"), L"\\\\server\\share\\a");
+  EXPECT_EQ(AbsolutePath(L""), L"");
 }
 
 TEST(Files, KeepsTheBackslashOfARoot) {

@@ -26,9 +26,8 @@ class FileRecordsTest : public ListingTest {
                                 platform::LocalOffset()};
     FileRecordFiller filler(settings);
     platform::FindData entry = Entry;
-    FileRecord record = filler.FillFileRecord(entry, level, Texts);
+    const FileRecord record = filler.FillFileRecord(entry, level, Texts);
     Key = record.SortKey;
-    record.SizeText = Texts.Add(record.SizeText);
     return record;
   }
   std::wstring KeyFor(OrderBy by) {

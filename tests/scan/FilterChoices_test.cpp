@@ -6,12 +6,10 @@ namespace folivant {
 namespace {
 
 TEST(AttributeChoiceOf, TakesTheLastOneSet) {
-  EXPECT_EQ(AttributeChoiceOf(true, false, false), AttributeChoice::MustNotHave);
-  EXPECT_EQ(AttributeChoiceOf(false, true, false), AttributeChoice::MustHave);
-  EXPECT_EQ(AttributeChoiceOf(false, false, true), AttributeChoice::DoNotCare);
-  EXPECT_EQ(AttributeChoiceOf(true, true, false), AttributeChoice::MustHave);
-  EXPECT_EQ(AttributeChoiceOf(true, true, true), AttributeChoice::DoNotCare);
-  EXPECT_EQ(AttributeChoiceOf(false, false, false), AttributeChoice::MustNotHave);
+  EXPECT_EQ(AttributeChoiceOf(true, false), AttributeChoice::MustHave);
+  EXPECT_EQ(AttributeChoiceOf(false, true), AttributeChoice::DoNotCare);
+  EXPECT_EQ(AttributeChoiceOf(true, true), AttributeChoice::DoNotCare);
+  EXPECT_EQ(AttributeChoiceOf(false, false), AttributeChoice::MustNotHave);
 }
 
 TEST(OrderByOf, NamesEachButton) {

@@ -21,6 +21,7 @@ TEST(PreviewPictureOf, CountsFrom200AndHasNoneForThePathList) {
   EXPECT_EQ(PreviewPictureOf(ListingStyle::DirectoryView), 203);
   EXPECT_EQ(PreviewPictureOf(ListingStyle::FindWindow), 205);
   EXPECT_EQ(PreviewPictureOf(ListingStyle::PathListFile), std::nullopt);
+  EXPECT_EQ(PreviewPictureOf(static_cast<ListingStyle>(-1)), std::nullopt);
 }
 
 }  // namespace

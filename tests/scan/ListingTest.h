@@ -114,6 +114,18 @@ class ListingTest : public testing::Test {
     RunListing(Writer, Watcher);
     return Writer.Events;
   }
+  /// Lists C:\Data in `style`; how often events got through before each event of the listing, after the one before it.
+  std::vector<int> PumpsBetweenEvents(ListingStyle style) {
+    std::vector<int> pumps;
+    int before = Watcher.Pumped;
+    Writer.OnEvent = [&] {
+      pumps.push_back(Watcher.Pumped - before);
+      before = Watcher.Pumped;
+    };
+    List(style);
+    Writer.OnEvent = [] {};
+    return pumps;
+  }
 
   RecordingWriter Writer;
   RecordingProgress Watcher;

@@ -32,6 +32,10 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"a?c", L"ac", false},
       {L"?", L"", false},
       {L"a#", L"a7", true},
+      {L"a#", L"a0", true},
+      {L"a#", L"a9", true},
+      {L"a#", L"a/", false},  // the neighbours of the digits
+      {L"a#", L"a:", false},
       {L"a#", L"ax", false},
       {L"a#", L"a\x0663", false},  // a digit of another script
       {L"[abc]", L"b", true},
@@ -41,6 +45,12 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"[a-c]x", L"dx", false},
       {L"[!a-c]x", L"dx", true},
       {L"[!a-c]x", L"bx", false},
+      {L"[!a]", L"b", true},
+      {L"[!a]", L"a", false},
+      {L"[!a]", L"!", true},
+      {L"[a-c][0-9]", L"b7", true},
+      {L"[a-c][0-9]", L"7b", false},
+      {L"[a-c][0-9]", L"bb", false},
       {L"[a-c0-9_]", L"7", true},
       {L"[a-c0-9_]", L"_", true},
       {L"[a-c0-9_]", L"d", false},
@@ -119,6 +129,19 @@ TEST(NamePatternsTest, ANameWithoutExtensionCountsAsEndingInADot) {
   EXPECT_TRUE(Passes(L"*.", L"readme"));
   EXPECT_FALSE(Passes(L"*.", L"readme.txt"));
   EXPECT_TRUE(Passes(L"*.*", L"readme"));
+}
+
+TEST(NamePatternsTest, ANameOfFullLengthIsComparedToItsEnd) {
+  const std::wstring name(251, L'n');
+  EXPECT_TRUE(Passes(L"*.txt", name + L".txt"));
+  EXPECT_FALSE(Passes(L"*.txt", name + L".txu"));
+  EXPECT_TRUE(Passes(L"n*.,-*.bak", name + name)) << "longer than any system's";
+}
+
+TEST(NamePatternsTest, ADottedPatternIsNotEveryPattern) {
+  EXPECT_TRUE(Passes(L"*.?", L"a.c"));
+  EXPECT_FALSE(Passes(L"*.?", L"a.txt"));
+  EXPECT_FALSE(Passes(L"?.*", L"ab.txt"));
 }
 
 TEST(NamePatternsTest, AnEmptyPieceKeepsEverything) {

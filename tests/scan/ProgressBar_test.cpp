@@ -47,6 +47,14 @@ TEST(CreepingBar, SinksAgainAndStopsBelowTheProgress) {
   EXPECT_FLOAT_EQ(bar.Value(), 0) << "never below the progress";
 }
 
+TEST(CreepingBar, GoesOnWhereTheCreepHasJustReachedTheProgress) {
+  CreepingBar bar;
+  bar.SetProgress(1);
+  EXPECT_TRUE(bar.Tick()) << "one step, so both are 1";
+  EXPECT_TRUE(bar.Tick());
+  EXPECT_NEAR(bar.Value(), 1.95, 1e-4);
+}
+
 TEST(CreepingBar, TheFirstTickAfterTheWholeRunEndsTheCreep) {
   CreepingBar bar;
   bar.SetProgress(100);

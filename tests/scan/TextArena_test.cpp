@@ -45,5 +45,14 @@ TEST(TextArenaTest, ClearingReusesTheFirstBlock) {
   EXPECT_EQ(arena.Add(L"b").data(), first);
 }
 
+TEST(TextArenaTest, AFirstBlockOfAnySizeIsReusedWhole) {
+  TextArena arena;
+  const std::wstring longText(200'000, L'x');
+  const wchar_t* first = arena.Add(longText).data();
+  arena.Clear();
+  EXPECT_EQ(arena.Add(longText).data(), first);
+  EXPECT_NE(arena.Add(L"b").data(), first + longText.size()) << "it is full";
+}
+
 }  // namespace
 }  // namespace folivant

@@ -57,6 +57,7 @@ TEST_F(TreeStyleTest, BelowTheDepthLimitNobodyKnowsThatADirectoryIsUnreadable) {
   Tree().Dir(L"C:\\Data\\Sub\\Open").File(L"a");
   mdlVars::Format.SubLevel = 1;
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"1 Locked", L"1 Open", L"end"));
+  EXPECT_FALSE(mdlVars::Tree.Unreadable);
 }
 
 TEST_F(TreeStyleTest, ANegativeSubLevelListsTheStartDirectoryAlone) {

@@ -78,15 +78,23 @@ TEST_F(MdlScanTest, ARunAfterACancelledOneIsNotCancelled) {
 
 TEST_F(MdlScanTest, EventsRunWhileATreeIsWritten) {
   Tree().Dir(L"C:\\Data").File(L"a").File(L"b").File(L"c");
-  int atFirstEntry = 0;
-  Writer.OnEvent = [&] {
-    if (Writer.Events.back().find(L" a") != std::wstring::npos) {
-      atFirstEntry = Watcher.Pumped;
-    }
-  };
-  List(ListingStyle::TreeStyle);
-  EXPECT_GE(Watcher.Pumped, atFirstEntry + 2) << "b and c";
-  Writer.OnEvent = [] {};
+  // Before the run; for the directory and its three entries, and before the first line; before each further line.
+  EXPECT_THAT(PumpsBetweenEvents(kTree), ElementsAre(1, 0, 4 + 1, 1, 1, 0));
+}
+
+TEST_F(MdlScanTest, EventsRunWhileADirectoryViewIsWritten) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B");
+  // Before the run; for three directories and two entries, and before the first line; before each further line.
+  EXPECT_THAT(PumpsBetweenEvents(kView), ElementsAre(1, 5 + 1, 1, 1, 0));
+}
+
+TEST_F(MdlScanTest, TheWriterKnowsWhoWatchesWhileTheRunLasts) {
+  Tree().Dir(L"C:\\Data");
+  const Progress* during = nullptr;
+  Writer.OnEvent = [&] { during = mdlVars::Run().Watcher; };
+  List(kDeep);
+  EXPECT_EQ(during, &Watcher);
+  EXPECT_EQ(mdlVars::Run().Watcher, nullptr);
 }
 
 TEST_F(MdlScanTest, ThePageNumberStartsAtZero) {
@@ -188,6 +196,7 @@ TEST_F(MdlScanTest, ShortNamesAreListedOnlyWhenSomethingShowsThem) {
   Tree().Dir(L"C:\\Data").File(L"Long name.text").Short(L"LONGNA~1.TEX").File(L"SHORT.TXT");
   Writer.Details = true;
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text||0 b "));
+  EXPECT_EQ(fakes::Fake().ShortNamesAsked, 0);
   mdlVars::Format.Files.DosName = true;
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text|longna~1.tex|0 b "));
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L" Short.txt|short.txt|0 b "));

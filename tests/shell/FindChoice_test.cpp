@@ -29,6 +29,15 @@ TEST(FindChoice, ListsFindWindowsTopmostFirst) {
   EXPECT_TRUE(choice.IsPending());
 }
 
+TEST(FindChoice, LooksAfreshEachTime) {
+  FindWindows().TopLevel = {FindWindow(10, L"Find: one", {}), FindWindow(30, L"Find: two", {})};
+  FindChoice choice;
+  choice.FindCandidates();
+  FindWindows().TopLevel = {FindWindow(30, L"Find: two", {})};
+  choice.FindCandidates();
+  EXPECT_EQ(std::vector<std::wstring>{L"Find: two"}, Titles(choice));
+}
+
 TEST(FindChoice, WantsEveryStyleBit) {
   for (std::uint32_t bit = 1; bit != 0; bit <<= 1) {
     FindWindows().TopLevel = {FindWindow(10, L"Find", {})};

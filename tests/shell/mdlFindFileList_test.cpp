@@ -58,6 +58,17 @@ class PathList : public testing::Test {
     PrintFromFileList(rows, progress);
     return rows;
   }
+  /// The path that the error names which reading such a list ends with.
+  static std::wstring ErrorOf(const std::string& bytes) {
+    try {
+      Read(bytes);
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Action(), FailedAction::ReadFile);
+      return error.Object();
+    }
+    ADD_FAILURE() << "no error";
+    return {};
+  }
   static std::vector<std::wstring> NamesOf(const std::string& bytes) {
     std::vector<std::wstring> names;
     for (const FoundItem& item : Read(bytes).Items) {
@@ -199,6 +210,53 @@ TEST_F(PathList, ALineThatIsLongerThanAnyPathIsNamedByItsBeginning) {
   }
 }
 
+const std::string kUtf8Mark = "\xEF\xBB\xBF";
+
+TEST_F(PathList, Utf8HoldsTheFirstAndLastCharacterOfEachLength) {
+  const std::pair<std::string, std::wstring> rows[] = {
+      {"\x7E", L"\x7E"},
+      {"\xC2\x80", L"\x80"},
+      {"\xDF\xBF", L"\x7FF"},
+      {"\xE0\xA0\x80", L"\x800"},
+      {"\xED\x9F\xBF", L"\xD7FF"},
+      {"\xEE\x80\x80", L"\xE000"},
+      {"\xEF\xBF\xBF", L"\xFFFF"},
+      {"\xF0\x90\x80\x80", L"\U00010000"},
+      {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"},
+  };
+  for (const auto& [bytes, character] : rows) {
+    const std::wstring name = L"X" + character + L"x" + character;
+    Tree().Dir(L"C:\\Data").File(name);
+    EXPECT_EQ(NamesOf(kUtf8Mark + "C:\\Data\\X" + bytes + "x" + bytes), Names{name});
+  }
+}
+
+TEST_F(PathList, WhatIsNoUtf8BecomesTheReplacementCharacter) {
+  const std::string rows[] = {"\x80",
+                              "\xBF",
+                              "\xC3",
+                              "\xC0\x80",
+                              "\xC1\xBF",
+                              "\xE0\x9F\xBF",
+                              "\xE2\x82",
+                              "\xE2\x82\xC0",
+                              "\xED\xA0\x80",
+                              "\xED\xBF\xBF",
+                              "\xF0\x8F\xBF\xBF",
+                              "\xF0\x9F\x98",
+                              "\xF4\x90\x80\x80",
+                              "\xF5\x80\x80\x80",
+                              "\xF8\x80\x80\x80",
+                              "\xFF"};
+  for (const std::string& bytes : rows) {
+    const std::wstring named = ErrorOf(kUtf8Mark + "C:\\Data\\X" + bytes + "x.txt");
+    ASSERT_TRUE(named.starts_with(L"C:\\Data\\X") && named.ends_with(L"x.txt")) << testing::PrintToString(named);
+    const std::wstring between = named.substr(9, named.size() - 14);
+    EXPECT_EQ(between, std::wstring(between.size(), L'\xFFFD')) << testing::PrintToString(bytes);
+    EXPECT_FALSE(between.empty()) << testing::PrintToString(bytes);
+  }
+}
+
 TEST_F(PathList, AFileOfAMarkAloneIsEmpty) {
   EXPECT_TRUE(NamesOf("\xFF\xFE").empty());
   EXPECT_TRUE(NamesOf("\xEF\xBB\xBF").empty());
@@ -226,6 +284,7 @@ TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Action(), FailedAction::ReadFile);
     EXPECT_EQ(error.Object(), L"C:\\Data\\gone.txt");
+    EXPECT_EQ(error.SystemCode(), 0u) << "nothing but the path is told";
   }
   EXPECT_EQ(rows.Lists, 0);
   EXPECT_EQ(mdlVars::Tree.FoundCount, 0);

@@ -62,6 +62,11 @@ Rows ManyRows(int count) {
   return rows;
 }
 
+/// The list view inside the only Find window.
+fakes::FakeWindow& OnlyList() {
+  return FindWindows().TopLevel.at(0).Children.at(0).Children.at(0);
+}
+
 std::string Capture(Progress& progress) {
   RecordingWriter writer;
   try {
@@ -160,6 +165,30 @@ TEST(PrintFromFind, ListsAnEmptyResultList) {
   WatchedRun run;
   EXPECT_EQ("lists 1 rows 0", Capture(run));
   EXPECT_EQ(0, mdlVars::Tree.FoundCount);
+  EXPECT_EQ(0, FindWindows().Blocks);
+}
+
+TEST(PrintFromFind, AListThatClaimsLessThanNoRowsIsEmpty) {
+  FindWindows().TopLevel = {FindWindow(10, L"Find: confused", TwoRows())};
+  OnlyList().ClaimedRows = -1;
+  WatchedRun run;
+  EXPECT_EQ("lists 1 rows 0", Capture(run));
+  EXPECT_EQ(0, mdlVars::Tree.FoundCount);
+}
+
+TEST(PrintFromFind, ACellThatTheListLeavesAloneIsEmpty) {
+  // Rows are read in blocks of sixty-four: row 64 takes the place that row 0 had before.
+  FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(65))};
+  OnlyList().SilentFrom = 64;
+  RecordingWriter writer;
+  WatchedRun run;
+  PrintFromFind(writer, run);
+  ASSERT_EQ(65u, writer.Rows.size());
+  EXPECT_EQ(L"n63", writer.Rows[63].Name);
+  for (const std::wstring& text :
+       {writer.Rows[64].Name, writer.Rows[64].InFolder, writer.Rows[64].Size, writer.Rows[64].Modified}) {
+    EXPECT_EQ(L"", text);
+  }
 }
 
 TEST(PrintFromFind, StopsAfterTheRowInWhichTheRunIsCancelled) {
@@ -193,6 +222,7 @@ TEST(PrintFromFind, CrossesIntoTheOtherProgramAtMostFiveTimesARow) {
   WatchedRun run;
   EXPECT_EQ("lists 1 rows 10000", Capture(run));
   EXPECT_EQ(40'000, FindWindows().GetItemMessages);
+  EXPECT_EQ(1, FindWindows().Blocks);
   EXPECT_LE(FindWindows().Calls, 50'000);
   // The number of rows, each cell's message, and two copies for each of the 157 blocks of up to 64 rows.
   EXPECT_EQ(1 + 40'000 + 2 * 157, FindWindows().Calls);
@@ -212,7 +242,7 @@ TEST(PrintFromFind, CutsCellsToWhatFitsIn260Bytes) {
 
 TEST(PrintFromFind, Serves32BitOwners) {
   FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(100))};
-  FindWindows().TopLevel[0].Children[0].Children[0].Layout = platform::RecordLayout::Bits32;
+  OnlyList().Layout = platform::RecordLayout::Bits32;
   RecordingWriter writer;
   WatchedRun run;
   PrintFromFind(writer, run);
@@ -223,7 +253,7 @@ TEST(PrintFromFind, Serves32BitOwners) {
 
 TEST(PrintFromFind, ReportsAnOwnerThatMayNotBeOpened) {
   FindWindows().TopLevel = {FindWindow(10, L"Find: elevated", TwoRows())};
-  FindWindows().TopLevel[0].Children[0].Children[0].Refuses = fakes::AccessDenied();
+  OnlyList().Refuses = fakes::AccessDenied();
   WatchedRun run;
   EXPECT_EQ("error 5", Capture(run));
 }
@@ -232,7 +262,7 @@ TEST(PrintFromFind, ReportsAnOwnerThatEndsBeforeOrWhileItIsRead) {
   for (const int call : {1, 2, 3, 150, 258}) {
     FindWindows().Calls = 0;
     FindWindows().TopLevel = {FindWindow(10, L"Find", ManyRows(100))};
-    FindWindows().TopLevel[0].Children[0].Children[0].DiesAtCall = call;
+    OnlyList().DiesAtCall = call;
     WatchedRun run;
     EXPECT_EQ("error 1400", Capture(run)) << call;
     EXPECT_EQ(0, FindWindows().DialogsOpen);

@@ -22,7 +22,7 @@ Messages English() {
 TEST(ErrorText, NamesActionObjectAndTheSystemsWords) {
   Messages texts;
   texts.Set(162, L"Cannot write \"%1\": %2 (%3)");
-  const RuntimeError error(FailedAction::WriteFile, L"D:\\list.txt", L"The disk is full.\r\n", 112);
+  const RuntimeError error(FailedAction::WriteFile, L"D:\\list.txt", L"The disk is full. \r\n", 112);
   EXPECT_EQ(ErrorText(error, texts), L"Cannot write \"D:\\list.txt\": The disk is full. (112)");
 }
 
@@ -37,6 +37,11 @@ TEST(ErrorText, LeavesASentenceThatHasNoPlaceForTheSystemsWordsAsItIs) {
   texts.Set(188, L"This font cannot be printed (%1)!");
   EXPECT_EQ(ErrorText(RuntimeError(FailedAction::UseFont, L"Arial, 0", {}, 0), texts),
             L"This font cannot be printed (Arial, 0)!");
+}
+
+TEST(ErrorText, ShowsANumberWithoutWordsAndWordsWithoutANumber) {
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"x", {}, 5), English()), L"161 \"x\":  (5)");
+  EXPECT_EQ(ErrorText(RuntimeError(FailedAction::ReadFile, L"x", L"no", 0), English()), L"161 \"x\": no (0)");
 }
 
 TEST(ErrorText, ShowsTheFactsWhenTheTextIsMissing) {
@@ -81,8 +86,8 @@ TEST(ErrorText, HasOneTextForEachAction) {
       {FailedAction::WriteFile, L"162 \"x\": no (5)"},  {FailedAction::WriteSetting, L"165 \"x\": no (5)"},
       {FailedAction::Print, L"166 \"x\": no (5)"},      {FailedAction::StartProgram, L"167 \"x\": no (5)"},
       {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::UseMargins, L"187 \"x\": no (5)"},
-      {FailedAction::UseFont, L"188 \"x\": no (5)"},
-      {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::OpenWindow, L"186 \"x\": no (5)"},
+      {FailedAction::UseFont, L"188 \"x\": no (5)"},    {FailedAction::ReadWindow, L"168 \"x\": no (5)"},
+      {FailedAction::OpenWindow, L"186 \"x\": no (5)"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ErrorText(RuntimeError(row.action, L"x", L"no", 5), English()), row.expected);

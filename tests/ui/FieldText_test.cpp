@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/FakePlatform.h"
+
 namespace folivant {
 namespace {
 

@@ -198,6 +198,16 @@ TEST(ListLanguages, NamesEveryFileThatSaysItsLanguage) {
   EXPECT_EQ(found[4].Name, std::wstring(99, L'x'));
 }
 
+TEST(ListLanguages, AFlagIsThePositionThatItsTextBeginsWith) {
+  const std::pair<const char*, int> rows[] = {
+      {"0", 0},  {"7", 7},  {"12", 12}, {"12 of 20", 12},           {"007", 7}, {"9999", 9'999}, {"10000", 0},
+      {"-1", 0}, {"x1", 0}, {"", 0},    {"12345678901234567890", 0}};
+  for (const auto& [text, flag] : rows) {
+    File(L"english.ini", std::string("[Messages]\r\nLanguage=English\r\nFlag=") + text + "\r\n");
+    EXPECT_EQ(ListLanguages(kFolder).at(0).Flag, flag) << text;
+  }
+}
+
 TEST(ListLanguages, AnUnreadableFileIsNotListed) {
   File(L"english.ini", "[Messages]\r\nLanguage=English\r\n");
   Fake().FailReads[kFolder + L"\\english.ini"] = fakes::AccessDenied();

@@ -265,6 +265,7 @@ TEST_F(HostFiles, EndsWhenTheFolderVanishes) {
   FindData data;
   EXPECT_FALSE(files.Next(data));
   EXPECT_FALSE(files.Next(data));
+  EXPECT_TRUE(files.Failed());
 }
 
 }  // namespace
