@@ -26,14 +26,15 @@ class FindListing : public DesktopTest {
     return std::make_unique<Program>(L"/f " + filter + L" /t " + letter + L" /o " + Output() + L" /g");
   }
   /// The main window with style 5, the screen as destination, and a viewer that ends at once.
-  std::unique_ptr<Program> Open() const {
+  std::unique_ptr<Program> Open() {
     WriteStore(L"Settings", L"TextViewer", ProgramFolder() + L"\\FindStandIn.exe");
     auto program = std::make_unique<Program>(L"/f " + filter);
-    const Window main = program->WaitForWindow(L"Folivant");
-    main.Click(optScreen);  // a machine without a printer has the file destination selected
-    main.Press(cmdOK);
+    Main = program->WaitForWindow(L"Folivant");
+    Main.Click(optScreen);  // a machine without a printer has the file destination selected
+    Main.Press(cmdOK);
     return program;
   }
+  Window Main;  ///< of the program that was opened last
   std::wstring Output() const { return scratch / L"list.txt"; }
 
   static Window Dialog(const Program& program) { return program.WaitForWindow(Message(206)); }
@@ -208,9 +209,8 @@ TEST_F(FindListing, CancelAndCloseBoxEndTheRunWithoutAListing) {
 TEST_F(FindListing, ARunFromTheMainWindowListsToo) {
   const StandIn window(L"Find: from the window", kTwoRows);
   const auto program = Open();
-  const Window main = program->WaitForWindow(L"Folivant");
   EXPECT_TRUE(WaitUntil([&] { return ScreenFile().find("Find: from the window") != std::string::npos; }));
-  EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+  EXPECT_TRUE(WaitUntil([&] { return Main.IsEnabled(); }));
 }
 
 TEST_F(FindListing, WithoutInnerWindowsTheWaitGoesOnUntilTheRunIsCancelled) {
@@ -242,11 +242,10 @@ TEST_F(FindListing, WithoutInnerWindowsACommandLineRunFails) {
 TEST_F(FindListing, AnOwnerThatDiesIsNamedAndTheProgramGoesOn) {
   const StandIn window(L"Find: mortal", std::vector<std::string>(300, "a\tb\tc\td\te"), L"dies-after 500");
   const auto program = Open();
-  const Window main = program->WaitForWindow(L"Folivant");
-  const Window box = program->WaitForWindow(L"Folivant", main);
+  const Window box = program->WaitForWindow(L"Folivant", Main);
   EXPECT_NE(box.BoxText().find(L"Find: mortal"), std::wstring::npos) << "names the window";
   box.Answer(IDOK);
-  EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+  EXPECT_TRUE(WaitUntil([&] { return Main.IsEnabled(); }));
 }
 
 TEST_F(FindListing, AnOwnerThatMayNotBeOpenedIsNamed) {
