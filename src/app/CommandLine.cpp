@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "base/mdlFileRoutines.h"
+#include "output/OutputKinds.h"
 
 namespace folivant {
 namespace {
@@ -58,30 +59,11 @@ CommandLine ReadCommandLine(const std::wstring& line) {
   return command;
 }
 
-std::optional<OutputKind> OutputKindOf(wchar_t letter) {
-  switch (letter) {
-    case L'p':
-      return OutputKind::Printer;
-    case L't':
-      return OutputKind::Text;
-    case L'a':
-      return OutputKind::TabDelimited;
-    case L'h':
-      return OutputKind::Html;
-    case L'c':
-      return OutputKind::Csv;
-    case L'x':
-      return OutputKind::Xml;
-    default:
-      return std::nullopt;
-  }
-}
-
 std::wstring WithSwitchExtension(const std::wstring& fileName, OutputKind kind) {
   if (fileName.find(L'.') != fileName.npos) {
     return fileName;
   }
-  return fileName + (kind == OutputKind::Html ? L".html" : L".txt");
+  return fileName + std::wstring(RowOf(kind).SwitchExtension);
 }
 
 }  // namespace folivant

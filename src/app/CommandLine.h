@@ -28,8 +28,6 @@ struct CommandLine {
 };
 CommandLine ReadCommandLine(const std::wstring& line);
 
-/// The output kind of a "/t" letter; nothing for an unknown one.
-std::optional<OutputKind> OutputKindOf(wchar_t letter);
 /// `fileName` with ".html" (HTML) or ".txt" (all others, CSV and XML too, on purpose) where it holds no dot anywhere.
 std::wstring WithSwitchExtension(const std::wstring& fileName, OutputKind kind);
 

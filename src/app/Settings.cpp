@@ -103,7 +103,7 @@ std::span<const Setting> Settings() {
        SwitchGroup{{&format.Directories.Files, &format.Directories.Size, &format.Directories.TotalFiles,
                     &format.Directories.TotalSize}}},
 
-      {G::Path, Ex, kSettings, L"Path", nullptr, &mdlVars::Tree.StartPath},
+      {G::Path, Ex, kSettings, L"Path", nullptr, &mdlVars::Start.Shown},
       {G::Destination, Ex, kSettings, L"OutputTo", L"0", &mdlVars::OutputTo},
   };
   return settings;
@@ -168,7 +168,7 @@ bool IsSaved(const Setting& setting) {
     case Group::Style:
       return mdlVars::Format.ListingStyle != ListingStyle::PathListFile;
     case Group::Path:
-      return platform::IsDirectory(mdlVars::Tree.StartPath);
+      return platform::IsDirectory(mdlVars::Start.Shown);
     default:
       return true;
   }
@@ -225,8 +225,8 @@ std::vector<BadSetting> LoadSettings() {
   for (const Setting& setting : Settings()) {
     Load(store, setting, bad);
   }
-  mdlVars::Tree.StartPath = WithBackslashes(mdlVars::Tree.StartPath);
-  mdlVars::Tree.StartPathOnDisk = mdlVars::Tree.StartPath;
+  mdlVars::Start.Shown = WithBackslashes(mdlVars::Start.Shown);
+  mdlVars::Start.OnDisk = mdlVars::Start.Shown;
   return bad;
 }
 

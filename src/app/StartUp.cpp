@@ -9,12 +9,14 @@
 #include "app/Settings.h"
 #include "app/mdlVars.h"
 #include "base/mdlFileRoutines.h"
+#include "output/OutputKinds.h"
 #include "output/mdlPrint.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
 #include "scan/Progress.h"
 #include "scan/mdlScan.h"
+#include "shell/mdlFind.h"
 #include "ui/ErrorText.h"
 #include "ui/Help.h"
 #include "ui/Language.h"
@@ -33,17 +35,20 @@ ExitStatus CommandLineError(const std::wstring& detail) {
   return kExitFailed;
 }
 
+bool SetDirectory(const std::wstring& path) {
+  return SetStartPath(path, mdlVars::Start, mdlVars::Format);
+}
+
 void SetCurrentDirectoryAgain() {
-  SetStartPath(std::wstring(mdlVars::Tree.StartPath));
+  SetDirectory(std::wstring(mdlVars::Start.Shown));
 }
 
 /// What Send To gives: a directory to list, or a file whose lines are the paths to list.
 void ApplyPath(const std::wstring& path) {
   if (!path.empty() && platform::PathExists(path) && !platform::IsDirectory(path)) {
     mdlVars::Format.ListingStyle = ListingStyle::PathListFile;
-    mdlVars::Tree.StartPath = path;
-    mdlVars::Tree.StartPathOnDisk = path;
-  } else if (path.empty() || !SetStartPath(path)) {
+    mdlVars::Start = {path, path};
+  } else if (path.empty() || !SetDirectory(path)) {
     SetCurrentDirectoryAgain();
   }
 }
@@ -70,12 +75,12 @@ Ending ApplyOutputLetter(std::optional<wchar_t> letter) {
     }
     return std::nullopt;
   }
-  const std::optional<OutputKind> kind = OutputKindOf(*letter);
-  if (!kind) {
+  const OutputKindRow* const row = RowOfLetter(*letter);
+  if (row == nullptr) {
     return CommandLineError(mdlVars::Texts[Text::UnknownOutputType]);
   }
-  mdlVars::OutputKind = *kind;
-  mdlVars::OutputTo = *kind == OutputKind::Printer ? OutputTarget::Printer : OutputTarget::File;
+  mdlVars::OutputKind = row->Kind;
+  mdlVars::OutputTo = row->Kind == OutputKind::Printer ? OutputTarget::Printer : OutputTarget::File;
   return std::nullopt;
 }
 
@@ -91,13 +96,16 @@ ExitStatus RunAtOnce() {
   if (!HasDestination()) {
     return kExitFailed;
   }
-  OutputDriver output(mdlVars::Run());
-  NoProgress progress;
-  RunListing(output, progress);
-  if (mdlVars::Tree.Cancelled) {
+  OutputDriver output;
+  output.Choose(mdlVars::OutputKind);
+  FindCapture rows;
+  NoProgress nobody;
+  ListingRun run = mdlVars::MakeRun(nobody);
+  RunListing(run, output, rows);
+  if (run.Cancelled) {
     return kExitFailed;
   }
-  return mdlVars::Tree.Unreadable ? kExitUnreadable : kExitDone;
+  return run.Unreadable ? kExitUnreadable : kExitDone;
 }
 
 /// The switches in their fixed order, whatever their order on the line.
@@ -111,7 +119,7 @@ Ending ParseCommandLine(const std::wstring& line) {
     return ending;
   }
   if (command.Directory) {
-    SetStartPath(*command.Directory);  // one that is not valid leaves the directory of the filter file, silently
+    SetDirectory(*command.Directory);  // one that is not valid leaves the directory of the filter file, silently
   }
   if (const Ending ending = ApplyOutputLetter(command.OutputLetter)) {
     return ending;

@@ -9,6 +9,7 @@
 #include "app/mdlVars.h"
 #include "output/Columns.h"
 #include "output/EntryFormatting.h"
+#include "output/OutputKinds.h"
 #include "output/mdlPrint.h"
 #include "platform/Files.h"
 #include "platform/Store.h"
@@ -19,6 +20,7 @@
 #include "scan/frmFormat.h"
 #include "scan/frmProgress.h"
 #include "scan/mdlScan.h"
+#include "shell/mdlFind.h"
 #include "ui/frmBase.h"
 #include "ui/frmOptions.h"
 
@@ -36,26 +38,20 @@ constexpr Binding<NoRecord> kCaptions[] = {
     {cmdCancel, Text::Close},        {cmdHelp, Text::Help},
 };
 
-/// The types of the save dialog; their order is that of the file kinds. The last two are the same in every language.
-std::wstring OutputTypes(const Messages& texts) {
-  return texts[Text::TypeText] + L"|*.txt|" + texts[Text::TypeTabDelimited] + L"|*.txt|" + texts[Text::TypeHtml] +
-         L"|*.htm*|CSV-file|*.csv|XML file|*.xml";
-}
-
 /// The save dialog of the common dialogs, opened on the process's current directory.
 class CDTextfile final : public DestinationChooser {
  public:
   explicit CDTextfile(HWND owner) : owner_(owner) {}
   std::optional<Choice> AskForFile(const Choice& preset) override {
     platform::FileDialog dialog;
-    dialog.Types = OutputTypes(mdlVars::Texts);
+    dialog.Types = SaveDialogTypes(mdlVars::Texts);
     dialog.FileName = preset.FileName;
-    dialog.TypeIndex = preset.Kind == OutputKind::Printer ? 1 : static_cast<int>(preset.Kind) + 1;
+    dialog.TypeIndex = SaveDialogIndexOf(preset.Kind);
     dialog.Folder = platform::CurrentDirectory();
     if (!platform::AskForSaveName(owner_, dialog)) {
       return std::nullopt;
     }
-    return Choice{dialog.FileName, static_cast<OutputKind>(dialog.TypeIndex - 1)};
+    return Choice{dialog.FileName, KindAtSaveDialogIndex(dialog.TypeIndex)};
   }
 
  private:
@@ -64,7 +60,7 @@ class CDTextfile final : public DestinationChooser {
 
 class frmMain final : public frmBase, private TextMeasure {
  public:
-  frmMain() : frmBase(dlgMain), driver_(mdlVars::Run()) {}
+  frmMain() : frmBase(dlgMain) {}
 
   int Run() {
     Create(nullptr);
@@ -96,6 +92,7 @@ class frmMain final : public frmBase, private TextMeasure {
   void lblPath_Drop(const std::wstring& path);
 
   bool ChooseDestination();
+  bool RunOnce();
   void FinishRun();
   void SaveEverything();
   void Unload();
@@ -104,6 +101,7 @@ class frmMain final : public frmBase, private TextMeasure {
   double WidthOf(std::wstring_view text) const override { return WidthOfText(std::wstring(text)); }
 
   OutputDriver driver_;
+  FindCapture rows_;
   DestinationChooser::Choice file_;  ///< what the save dialog shows next
   std::unique_ptr<platform::DropTarget> drop_;
   bool running_ = false;
@@ -209,8 +207,8 @@ void frmMain::MakePathLabel() {
   }
   RECT label{};
   GetClientRect(Item(lblPath), &label);
-  SetText(lblPath, FitPathToWidth(mdlVars::Tree.StartPath, static_cast<double>(label.right), *this));
-  SetToolTip(lblPath, mdlVars::Tree.StartPath);
+  SetText(lblPath, FitPathToWidth(mdlVars::Start.Shown, static_cast<double>(label.right), *this));
+  SetToolTip(lblPath, mdlVars::Start.Shown);
 }
 
 void frmMain::SetOutputTo(OutputTarget target) {
@@ -239,15 +237,14 @@ void frmMain::ShowEverything() {
 }
 
 void frmMain::cmdBrowse_Click() {
-  const auto folder =
-      platform::BrowseForFolder(Window(), mdlVars::Texts[Text::BrowseTitle], mdlVars::Tree.StartPathOnDisk);
-  if (folder && SetStartPath(*folder)) {
+  const auto folder = platform::BrowseForFolder(Window(), mdlVars::Texts[Text::BrowseTitle], mdlVars::Start.OnDisk);
+  if (folder && SetStartPath(*folder, mdlVars::Start, mdlVars::Format)) {
     ShowEverything();
   }
 }
 
 void frmMain::lblPath_Drop(const std::wstring& path) {
-  SetStartPath(path);
+  SetStartPath(path, mdlVars::Start, mdlVars::Format);
   ShowEverything();
 }
 
@@ -299,13 +296,18 @@ void frmMain::cmdOK_Click() {
   if (running_ || !ChooseDestination()) {
     return;
   }
-  {
-    RunGuard guard(*this);
-    RunListing(driver_, guard.Progress());
-  }
-  if (!mdlVars::Tree.Cancelled) {
+  if (RunOnce()) {
     FinishRun();
   }
+}
+
+/// False when the user cancelled the run.
+bool frmMain::RunOnce() {
+  RunGuard guard(*this);
+  driver_.Choose(mdlVars::OutputKind);
+  ListingRun run = mdlVars::MakeRun(guard.Progress());
+  RunListing(run, driver_, rows_);
+  return !run.Cancelled;
 }
 
 void frmMain::FinishRun() {

@@ -7,12 +7,11 @@ PrinterSettings Printer;
 FilterSettings Filter;
 ListingFormat Format;
 OutputTarget OutputTo = OutputTarget::Printer;
-ScanTree Tree;
+LongPath Start;
 
 folivant::OutputKind OutputKind = folivant::OutputKind::Text;
 std::wstring OutputFile;
 std::wstring DatePattern;
-std::int16_t PageNumber = 0;
 
 std::wstring FilterFile;
 bool UseFilterFile = false;
@@ -21,9 +20,16 @@ Messages Texts;
 std::wstring HelpFile;
 std::wstring ManualFile;
 
-ListingRun& Run() {
-  static ListingRun run{Texts, General, Printer, Filter, Format, Tree, OutputKind, OutputFile, DatePattern, PageNumber};
-  return run;
+ListingRun MakeRun(Progress& watcher) {
+  return {.Texts = Texts,
+          .General = General,
+          .Printer = Printer,
+          .Filter = Filter,
+          .Format = Format,
+          .Start = Start,
+          .OutputFile = OutputFile,
+          .DatePattern = DatePattern,
+          .Watcher = watcher};
 }
 
 }  // namespace folivant::mdlVars

@@ -2,15 +2,14 @@
 // and the windows use this header; the listing engine gets what it needs as parameters.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "base/GeneralSettings.h"
-#include "output/ListingRun.h"
 #include "output/OutputKind.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"
-#include "scan/ScanTree.h"
+#include "scan/ListingRun.h"
+#include "scan/NameRules.h"
 #include "ui/Messages.h"
 
 namespace folivant::mdlVars {
@@ -20,12 +19,11 @@ extern PrinterSettings Printer;
 extern FilterSettings Filter;
 extern ListingFormat Format;
 extern OutputTarget OutputTo;
-extern ScanTree Tree;  ///< its StartPath is the current directory of the program
+extern LongPath Start;  ///< the directory to list; with a file as argument, the file that names the paths
 
 extern folivant::OutputKind OutputKind;
 extern std::wstring OutputFile;
 extern std::wstring DatePattern;
-extern std::int16_t PageNumber;
 
 extern std::wstring FilterFile;
 extern bool
@@ -35,7 +33,7 @@ extern Messages Texts;
 extern std::wstring HelpFile;    ///< full path
 extern std::wstring ManualFile;  ///< full path of the page that stands in for it
 
-/// The records above as writers see them.
-ListingRun& Run();
+/// A run of what these records say now, watched by `watcher`.
+ListingRun MakeRun(Progress& watcher);
 
 }  // namespace folivant::mdlVars

@@ -1,6 +1,7 @@
 #include "output/Columns.h"
 
 #include "base/mdlFileRoutines.h"
+#include "ui/ValueText.h"
 
 namespace folivant {
 namespace {

@@ -8,10 +8,11 @@
 #include <string>
 #include <string_view>
 
-#include "output/EntryFormatting.h"
+#include "output/EntryTexts.h"
+#include "scan/DirNode.h"
+#include "scan/FoundRows.h"
 #include "scan/ListingFormat.h"
-#include "scan/ScanTree.h"
-#include "ui/Text.h"
+#include "ui/Messages.h"
 
 namespace folivant {
 
@@ -34,19 +35,20 @@ inline constexpr CellLayout kAttributesLayout = {Alignment::AsItStands, 0, 6};
 struct EntryColumn {
   bool FileColumns::*Shown;
   Text Caption;
-  std::wstring_view FileRecord::*Value;
+  void (EntryTexts::*AppendValue)(const FileRecord& entry, std::wstring& out);
   CellLayout Layout;
   std::wstring_view Element;  ///< in XML documents
   bool Escaped;               ///< in HTML and XML documents; by design the size texts alone
 };
 inline constexpr EntryColumn kNameColumn = {
-    &FileColumns::Name, Text::NameCaption, &FileRecord::Name, {}, L"name", false};
+    &FileColumns::Name, Text::NameCaption, &EntryTexts::AppendName, {}, L"name", false};
 /// All but the name, in the order in which they follow it.
 inline constexpr std::array<EntryColumn, 4> kFurtherColumns = {{
-    {&FileColumns::DosName, Text::DosNameCaption, &FileRecord::DosName, kDosNameLayout, L"dosname", false},
-    {&FileColumns::Size, Text::SizeCaption, &FileRecord::SizeText, kSizeLayout, L"size", true},
-    {&FileColumns::Date, Text::DateCaption, &FileRecord::DateText, kDateLayout, L"date", false},
-    {&FileColumns::Attributes, Text::AttributesCaption, &FileRecord::AttrText, kAttributesLayout, L"attr", false},
+    {&FileColumns::DosName, Text::DosNameCaption, &EntryTexts::AppendDosName, kDosNameLayout, L"dosname", false},
+    {&FileColumns::Size, Text::SizeCaption, &EntryTexts::AppendSize, kSizeLayout, L"size", true},
+    {&FileColumns::Date, Text::DateCaption, &EntryTexts::AppendDate, kDateLayout, L"date", false},
+    {&FileColumns::Attributes, Text::AttributesCaption, &EntryTexts::AppendAttributes, kAttributesLayout, L"attr",
+     false},
 }};
 
 /// A column of the directory view. All are right-aligned in kDirectoryColumnWidth characters of plain text.
@@ -58,7 +60,7 @@ struct DirectoryColumn {
   void (*AppendValue)(const DirNode& node, const Messages& texts, std::wstring& out);
   std::wstring_view Element;  ///< in XML documents
 };
-inline constexpr std::size_t kDirectoryColumnWidth = 10;
+inline constexpr std::size_t kDirectoryColumnWidth = 10;  ///< characters
 extern const std::array<DirectoryColumn, 4> kDirectoryColumns;
 
 /// A column of the file lists. In plain text the folder is twice as wide as the name.

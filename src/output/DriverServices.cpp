@@ -5,10 +5,11 @@
 #include "platform/Clock.h"
 #include "platform/Files.h"
 #include "scan/NameRules.h"
+#include "ui/ValueText.h"
 
 namespace folivant {
 
-std::wstring ExpandHeaderFooter(HeaderFooter which, const ListingRun& run) {
+std::wstring ExpandHeaderFooter(HeaderFooter which, const ListingRun& run, std::int16_t page) {
   std::wstring text = which == HeaderFooter::Header ? run.General.Header : run.General.Footer;
   const bool tree = !run.Format.IsFileList();
   const platform::CalendarTime now = platform::Now();
@@ -16,13 +17,13 @@ std::wstring ExpandHeaderFooter(HeaderFooter which, const ListingRun& run) {
   const auto replace = [&text](std::wstring_view placeholder, std::wstring_view replacement) {
     text = ReplaceAll(text, placeholder, replacement);
   };
-  replace(L"%p", tree ? run.Tree.StartPath : std::wstring());
-  replace(L"%l", tree && text.find(L"%l") != text.npos ? DriveLabel(run.Tree.StartPath, run.Texts) : std::wstring());
+  replace(L"%p", tree ? run.Start.Shown : std::wstring());
+  replace(L"%l", tree && text.find(L"%l") != text.npos ? DriveLabel(run.Start.Shown, run.Texts) : std::wstring());
   replace(L"%f", tree && run.Filter.NameOn ? run.Filter.FilterName : std::wstring());
   replace(L"%g", tree ? FilterDescription(run.Filter, run.Texts) : std::wstring());
   replace(L"%d", FormatDate(now, run.DatePattern));
   replace(L"%t", FormatDate(now, kTimePattern));
-  replace(L"%n", std::to_wstring(run.PageNumber));
+  replace(L"%n", std::to_wstring(page));
   return text;
 }
 
@@ -35,7 +36,7 @@ std::wstring DriveLabel(const std::wstring& root, const Messages& texts) {
 }
 
 std::wstring TotalsLine(const ListingRun& run) {
-  return TotalsSentence(run.Tree.Totals, run.Texts);
+  return TotalsSentence(run.Totals, run.Texts);
 }
 
 std::wstring FreeSpaceLine(const std::wstring& path, const Messages& texts) {
@@ -50,7 +51,7 @@ std::vector<std::wstring> ClosingSentences(const ListingRun& run) {
     sentences.push_back(TotalsLine(run));
   }
   if (streamed || run.Format.IsCollected() || run.Format.ListingStyle == ListingStyle::NoSubdirectories) {
-    sentences.push_back(FreeSpaceLine(run.Tree.StartPathOnDisk, run.Texts));
+    sentences.push_back(FreeSpaceLine(run.Start.OnDisk, run.Texts));
   }
   return sentences;
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "output/ListingRun.h"
+#include "scan/ListingRun.h"
 
 namespace folivant {
 
@@ -12,8 +12,8 @@ enum class HeaderFooter { Header, Footer };
 
 /// The "Header" or "Footer" setting with %p %l %f %g %d %t %n replaced, in this order and each everywhere; a
 /// replacement is scanned for the placeholders that follow in the order. In the file lists %p, %l, %f and %g become
-/// empty.
-std::wstring ExpandHeaderFooter(HeaderFooter which, const ListingRun& run);
+/// empty. Files have no pages: their `page` is 0.
+std::wstring ExpandHeaderFooter(HeaderFooter which, const ListingRun& run, std::int16_t page = 0);
 /// The volume label of a path that begins with a drive letter, re-cased by ProperName, or the language's text for none.
 std::wstring DriveLabel(const std::wstring& root, const Messages& texts);
 std::wstring TotalsLine(const ListingRun& run);

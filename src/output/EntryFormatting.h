@@ -1,35 +1,14 @@
-// The formatting rules that the scanner and all writers share: size texts, counts, dates, and the sentences at the end
-// of a listing.
+// The sentences of a listing: its totals, the free space, the filter.
 #pragma once
 
-#include <cstdint>
 #include <string>
-#include <string_view>
 
-#include "base/Currency.h"
-#include "base/DateValue.h"
 #include "platform/Files.h"
 #include "scan/FilterSettings.h"
-#include "scan/ScanTree.h"
+#include "scan/ListingRun.h"
 #include "ui/Messages.h"
 
 namespace folivant {
-
-/// The size text of listings: at most four digits, thousands grouped, one blank, two unit characters ("9,999 kb").
-/// ScaleSize (base/mdlFileRoutines.h) chooses the unit. Beyond terabytes the number grows past four digits.
-std::wstring FormatSize(Currency bytes, const Messages& texts);
-/// The same appended to a text: what the scanner uses for every entry.
-void AppendSize(Currency bytes, const Messages& texts, std::wstring& out);
-
-/// The pattern of a "DateFormat" setting (0 "dd/mm/yy" to 5 "yyyy/mm/dd"); empty for another index: the previous
-/// pattern stays in force then.
-std::wstring_view DatePatternOf(std::int32_t dateFormat);
-/// Hours and minutes of a day of 24 hours.
-inline constexpr std::wstring_view kTimePattern = L"hh:nn";
-/// `pattern` is made of "dd", "mm" (month), "yy", "yyyy", "hh", "nn" (minute) and other characters; "/" becomes the
-/// user's date separator, everything else stands as it is.
-std::wstring FormatDate(const platform::CalendarTime& time, std::wstring_view pattern);
-void AppendDate(const platform::CalendarTime& time, std::wstring_view pattern, std::wstring& out);
 
 /// "12 files, 3 directories, 1,204 kb"
 std::wstring TotalsSentence(const RunTotals& totals, const Messages& texts);

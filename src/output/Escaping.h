@@ -1,36 +1,19 @@
-// The escaping of the markup writers. HTML and XML documents share one rule.
+// The escaping of the markup writers, for HTML and XML documents alike. Names, paths and dates go into markup as they
+// are, by design: only a size text is escaped.
 #pragma once
 
+#include <cstddef>
 #include <string>
-#include <string_view>
 
 namespace folivant {
 
-/// Appends `text` with "&", "<" and ">" as entities; quotes stay as they are.
-inline void AppendEscaped(std::wstring_view text, std::wstring& out) {
-  for (const wchar_t c : text) {
-    switch (c) {
-      case L'&':
-        out += L"&amp;";
-        break;
-      case L'<':
-        out += L"&lt;";
-        break;
-      case L'>':
-        out += L"&gt;";
-        break;
-      default:
-        out += c;
-    }
-  }
-}
-
-/// Names, paths and dates go into markup as they are, by design: only a size text is escaped.
-inline void AppendValue(std::wstring_view text, bool escaped, std::wstring& out) {
-  if (escaped) {
-    AppendEscaped(text, out);
-  } else {
-    out += text;
+/// Puts entities in the place of "&", "<" and ">" in what `line` holds from `start` on; quotes stay as they are.
+inline void EscapeFrom(std::size_t start, std::wstring& line) {
+  constexpr const wchar_t* kSpecial = L"&<>";
+  for (std::size_t at = line.find_first_of(kSpecial, start); at != line.npos;) {
+    const wchar_t* const entity = line[at] == L'&' ? L"&amp;" : line[at] == L'<' ? L"&lt;" : L"&gt;";
+    line.replace(at, 1, entity);
+    at = line.find_first_of(kSpecial, at + 4);
   }
 }
 

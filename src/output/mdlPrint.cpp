@@ -1,44 +1,12 @@
 #include "output/mdlPrint.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "base/mdlFileRoutines.h"
-#include "output/mdlPrintHTML.h"
-#include "output/mdlPrintPrinter.h"
-#include "output/mdlPrintText.h"
-#include "output/mdlPrintXML.h"
+#include "output/OutputKinds.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 
 namespace folivant {
 namespace {
-
-template <class Writer, auto... arguments>
-std::unique_ptr<ListingWriter> Make(ListingRun& run) {
-  return std::make_unique<Writer>(run, arguments...);
-}
-
-struct OutputKindRow {
-  OutputKind Kind;
-  std::wstring_view Extension;  ///< for a file name without one
-  std::unique_ptr<ListingWriter> (*MakeWriter)(ListingRun& run);
-};
-constexpr OutputKindRow kOutputKinds[] = {
-    {OutputKind::Text, L".txt", Make<TextWriter, kPlainText>},
-    {OutputKind::TabDelimited, L".txt", Make<TextWriter, kTabDelimited>},
-    {OutputKind::Html, L".html", Make<HtmlWriter>},
-    {OutputKind::Csv, L".txt", Make<TextWriter, kCsv>},  // not ".csv", on purpose
-    {OutputKind::Xml, L".xml", Make<XmlWriter>},
-    {OutputKind::Printer, L".txt", Make<PrinterWriter>},  // a name given for a printed listing; nothing writes it
-};
-
-/// Position in kOutputKinds and among the driver's writers; std::size(kOutputKinds) for a kind that has no row.
-std::size_t RowOf(OutputKind kind) {
-  const auto* row = std::find_if(std::begin(kOutputKinds), std::end(kOutputKinds),
-                                 [kind](const OutputKindRow& candidate) { return candidate.Kind == kind; });
-  return static_cast<std::size_t>(row - std::begin(kOutputKinds));
-}
 
 bool MayOverwrite(const std::wstring& fileName, const Messages& texts) {
   const std::wstring question =
@@ -49,49 +17,38 @@ bool MayOverwrite(const std::wstring& fileName, const Messages& texts) {
 
 }  // namespace
 
-OutputDriver::OutputDriver(ListingRun& run) : run_(run) {
-  for (const OutputKindRow& row : kOutputKinds) {
-    writers_.push_back(row.MakeWriter(run));
+OutputDriver::OutputDriver() {
+  for (const OutputKindRow& row : OutputKinds()) {
+    writers_[row.Kind] = row.MakeWriter();
   }
+  Choose(OutputKind::Text);
 }
 
 OutputDriver::~OutputDriver() = default;
 
-void OutputDriver::BeginListing() {
-  current_ = writers_.at(RowOf(run_.OutputKind)).get();
-  current_->BeginListing();
+void OutputDriver::Choose(OutputKind kind) {
+  current_ = writers_.at(kind).get();
+}
+
+void OutputDriver::BeginListing(ListingRun& run) {
+  run_ = &run;
+  current_->BeginListing(run);
+}
+
+bool OutputDriver::IsListed(const DirectoryListing& directory) const {
+  const bool root = directory.Level == 0;
+  return root || !directory.Order.empty() || run_->General.EmptyDirs;
 }
 
 void OutputDriver::ListDirectory(const DirectoryListing& directory) {
-  const bool root = directory.Level == 0;
-  if (root || !directory.Order.empty() || run_.General.EmptyDirs) {
+  if (IsListed(directory)) {
     current_->ListDirectory(directory);
   }
 }
 
-void OutputDriver::BeginTree(std::wstring_view root) {
-  current_->BeginTree(root);
-}
-
-void OutputDriver::TreeEntry(const FileRecord& entry) {
-  current_->TreeEntry(entry);
-}
-
-void OutputDriver::DirectoryViewEntry(const DirNode& node) {
-  current_->DirectoryViewEntry(node);
-}
-
-void OutputDriver::FindList(std::span<const FoundItem> rows) {
-  current_->FindList(rows);
-}
-
-void OutputDriver::EndListing() {
-  current_->EndListing();
-}
-
-void OutputDriver::AbortListing() noexcept {
-  if (current_ != nullptr) {
-    current_->AbortListing();
+void OutputDriver::ListPaths(const DirectoryListing& directory) {
+  if (IsListed(directory)) {
+    current_->ListPaths(directory);
   }
 }
 
@@ -112,8 +69,7 @@ std::wstring WithDefaultExtension(const std::wstring& fileName, OutputKind kind)
   if (GetFileName(fileName).find(L'.') != std::wstring::npos) {
     return fileName;
   }
-  const std::size_t row = RowOf(kind);
-  return fileName + std::wstring(row < std::size(kOutputKinds) ? kOutputKinds[row].Extension : L".txt");
+  return fileName + std::wstring(RowOf(kind).DialogExtension);
 }
 
 std::wstring ScreenFileName() {

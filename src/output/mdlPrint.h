@@ -1,14 +1,14 @@
-// The output driver: it forwards listing events to the writer of the current output kind and offers the services that
-// all writers share. A new output kind is one row in the table of mdlPrint.cpp.
+// The output driver: it forwards listing events to the writer of the current output kind, and finds the file that they
+// are written to.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
-#include "output/ListingRun.h"
+#include "output/OutputKind.h"
+#include "scan/ListingRun.h"
 #include "scan/ListingWriter.h"
 
 namespace folivant {
@@ -17,22 +17,29 @@ namespace folivant {
 /// A directory other than the root without listed entries is dropped here unless "EmptyDirs" is on.
 class OutputDriver final : public ListingWriter {
  public:
-  explicit OutputDriver(ListingRun& run);
+  OutputDriver();
   ~OutputDriver() override;
 
-  void BeginListing() override;
+  /// The kind of the runs that follow; plain text until it is called.
+  void Choose(OutputKind kind);
+
+  void BeginListing(ListingRun& run) override;
   void ListDirectory(const DirectoryListing& directory) override;
-  void BeginTree(std::wstring_view root) override;
-  void TreeEntry(const FileRecord& entry) override;
-  void DirectoryViewEntry(const DirNode& node) override;
-  void FindList(std::span<const FoundItem> rows) override;
-  void EndListing() override;
-  void AbortListing() noexcept override;
+  void ListPaths(const DirectoryListing& directory) override;
+  void BeginTree(std::wstring_view root) override { current_->BeginTree(root); }
+  void TreeEntry(const FileRecord& entry) override { current_->TreeEntry(entry); }
+  void BeginDirectoryView() override { current_->BeginDirectoryView(); }
+  void DirectoryViewEntry(const DirNode& node) override { current_->DirectoryViewEntry(node); }
+  void FindList(const FoundRows& rows) override { current_->FindList(rows); }
+  void EndListing() override { current_->EndListing(); }
+  void AbortListing() noexcept override { current_->AbortListing(); }
 
  private:
-  ListingRun& run_;
-  std::vector<std::unique_ptr<ListingWriter>> writers_;
-  ListingWriter* current_ = nullptr;
+  bool IsListed(const DirectoryListing& directory) const;
+
+  std::map<OutputKind, std::unique_ptr<ListingWriter>> writers_;
+  ListingWriter* current_;
+  const ListingRun* run_ = nullptr;
 };
 
 /// What the save dialog offers and answers; the windows implement it, a test plays it.

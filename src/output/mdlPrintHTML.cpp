@@ -4,6 +4,7 @@
 #include "output/Columns.h"
 #include "output/DriverServices.h"
 #include "output/Escaping.h"
+#include "output/FileWriter.h"
 #include "platform/Text.h"
 
 namespace folivant {
@@ -49,6 +50,184 @@ void AppendIndent(std::int32_t level, std::wstring& line) {
   }
 }
 
+class HtmlWriter final : public FileWriter {
+ public:
+  void ListDirectory(const DirectoryListing& directory) override;
+  void ListPaths(const DirectoryListing& directory) override;
+  void BeginTree(std::wstring_view root) override;
+  void TreeEntry(const FileRecord& entry) override;
+  void BeginDirectoryView() override;
+  void DirectoryViewEntry(const DirNode& node) override;
+  void FindList(const FoundRows& rows) override;
+
+ private:
+  void Begin() override;
+  void End() override;
+  void WriteHeading(std::wstring_view path);
+  void WriteSummary(std::wstring_view summary);
+  void AppendLinkedName(std::wstring_view directory, const FileRecord& entry);
+  void EndEntry(const FileRecord& entry);
+
+  std::wstring name_;  ///< buffer
+};
+
+void HtmlWriter::Begin() {
+  const std::wstring header = ExpandHeaderFooter(HeaderFooter::Header, Run());
+  File().WriteLine(L"<html><head><title>");
+  File().WriteLine(header);
+  File().WriteLine(L"</title></head><body>");
+  File().WriteLine(L"<font face=\"", Run().General.FontName, L"\">");
+  if (Run().Format.ListingStyle != ListingStyle::FullPathList) {
+    File().WriteLine(L"<h3>", header, L"</h3>");
+  }
+}
+
+void HtmlWriter::BeginDirectoryView() {
+  std::wstring& line = File().Line();
+  line.append(kTable).append(L"<th>").append(Run().Texts[Text::DirectoryCaption]);
+  for (const DirectoryColumn& column : kDirectoryColumns) {
+    if (Run().Format.Directories.*column.Shown) {
+      line.append(L"<th>").append(Run().Texts[column.Caption]);
+    }
+  }
+  File().WriteLine(L"</tr>");
+}
+
+void HtmlWriter::WriteHeading(std::wstring_view path) {
+  std::wstring& line = File().Line();
+  line += L"<a name='";
+  AppendAnchor(path, {}, line);
+  File().WriteLine(L"'/>");
+  line.append(L"<h4>").append(Run().Texts[Text::DirectoryHeading]).append(L" ").append(path);
+  File().WriteLine(L"</h4>");
+  line += kTable;
+  if (Run().Format.Files.*kNameColumn.Shown) {
+    line.append(L"<th>").append(Run().Texts[kNameColumn.Caption]);
+  }
+  for (const EntryColumn& column : kFurtherColumns) {
+    if (Run().Format.Files.*column.Shown) {
+      line.append(L"<th>").append(Run().Texts[column.Caption]);
+    }
+  }
+  File().WriteLine(L"</tr>");
+}
+
+void HtmlWriter::ListDirectory(const DirectoryListing& directory) {
+  WriteHeading(directory.Path);
+  for (const std::uint32_t index : directory.Order) {
+    const FileRecord& entry = directory.Records[index];
+    File().Line() += L"<tr>";
+    if (Run().Format.Files.*kNameColumn.Shown) {
+      File().Line() += L"<td>";
+      if (directory.SubdirectoriesFollow && entry.IsDirectory()) {
+        AppendLinkedName(directory.Path, entry);
+      } else {
+        Texts().AppendName(entry, File().Line());
+      }
+    }
+    EndEntry(entry);
+  }
+  WriteSummary(directory.Summary);
+}
+
+void HtmlWriter::AppendLinkedName(std::wstring_view directory, const FileRecord& entry) {
+  name_.clear();
+  Texts().AppendName(entry, name_);
+  File().Line() += L"<a href='#";
+  AppendAnchor(directory, name_, File().Line());
+  File().WriteLine(L"'>");
+  File().WriteLine(name_, L"</a>", {});
+}
+
+/// The columns that follow the name.
+void HtmlWriter::EndEntry(const FileRecord& entry) {
+  std::wstring& line = File().Line();
+  for (const EntryColumn& column : kFurtherColumns) {
+    if (Run().Format.Files.*column.Shown) {
+      line += L"<td>";
+      const std::size_t start = line.size();
+      (Texts().*column.AppendValue)(entry, line);
+      if (column.Escaped) {
+        EscapeFrom(start, line);
+      }
+    }
+  }
+  File().WriteLine(L"</tr>");
+}
+
+void HtmlWriter::WriteSummary(std::wstring_view summary) {
+  // The two rows stand behind the table's end tag, on purpose.
+  File().WriteLine(L"</table>");
+  File().WriteLine(L"<tr><td>&nbsp;</tr>");
+  File().WriteLine(L"<tr><td>&nbsp;&nbsp;&nbsp;<td>", summary, L"</tr></table><br>");
+}
+
+void HtmlWriter::ListPaths(const DirectoryListing& directory) {
+  const std::wstring path = AddBackslash(directory.Path);
+  for (const std::uint32_t index : directory.Order) {
+    File().Line() += path;
+    Texts().AppendName(directory.Records[index], File().Line());
+    File().WriteLine(L"<br>");
+  }
+}
+
+void HtmlWriter::BeginTree(std::wstring_view root) {
+  WriteHeading(root);
+}
+
+void HtmlWriter::TreeEntry(const FileRecord& entry) {
+  std::wstring& line = File().Line();
+  line += L"<tr>";
+  if (Run().Format.Files.*kNameColumn.Shown) {
+    line += L"<td>";
+    AppendIndent(entry.Level, line);
+    Texts().AppendName(entry, line);
+  }
+  EndEntry(entry);
+}
+
+void HtmlWriter::DirectoryViewEntry(const DirNode& node) {
+  std::wstring& line = File().Line();
+  line += L"<tr><td>";
+  AppendIndent(node.Level, line);
+  line += node.Name;
+  for (const DirectoryColumn& column : kDirectoryColumns) {
+    if (Run().Format.Directories.*column.Shown) {
+      line += L"<td>";
+      column.AppendValue(node, Run().Texts, line);
+    }
+  }
+  File().WriteLine(L"</tr>");
+}
+
+void HtmlWriter::FindList(const FoundRows& rows) {
+  File().WriteLine(L"<h4>", rows.Title, L"</h4>");
+  File().WriteLine(kTable);
+  for (const FoundColumn& column : kFoundColumns) {
+    File().WriteLine(L"<th>", Run().Texts[column.Caption], &column == &kFoundColumns.back() ? L"</tr>" : L"");
+  }
+  File().EndLine();
+  for (const FoundItem& row : rows.Items) {
+    for (const FoundColumn& column : kFoundColumns) {
+      File().WriteLine(&column == &kFoundColumns.front() ? L"<tr><td>" : L"<td>", row.*column.Value,
+                       &column == &kFoundColumns.back() ? L"</tr>" : L"");
+    }
+    if (Run().IsCancelled()) {
+      return;  // the table stays open, on purpose
+    }
+  }
+  File().WriteLine(L"</table>");
+}
+
+void HtmlWriter::End() {
+  if (Run().Format.IsCollected()) {
+    File().WriteLine(L"</table><br>");
+  }
+  for (const std::wstring& sentence : ClosingSentences(Run())) {
+    File().WriteLine(L"<br>", sentence, {});
+  }
+}
+
 }  // namespace
 
 void AppendAnchor(std::wstring_view directory, std::wstring_view name, std::wstring& out) {
@@ -60,162 +239,8 @@ void AppendAnchor(std::wstring_view directory, std::wstring_view name, std::wstr
   platform::LowerInto(std::wstring_view(out).substr(start), out.data() + start);
 }
 
-void HtmlWriter::BeginListing() {
-  file_.Open(run_.OutputFile);
-  const std::wstring header = ExpandHeaderFooter(HeaderFooter::Header, run_);
-  file_.WriteLine(L"<html><head><title>");
-  file_.WriteLine(header);
-  file_.WriteLine(L"</title></head><body>");
-  file_.WriteLine(L"<font face=\"", run_.General.FontName, L"\">");
-  if (run_.Format.ListingStyle != ListingStyle::FullPathList) {
-    file_.WriteLine(L"<h3>", header, L"</h3>");
-  }
-  if (run_.Format.ListingStyle == ListingStyle::DirectoryView) {
-    WriteDirectoryViewHead();
-  }
-}
-
-void HtmlWriter::WriteDirectoryViewHead() {
-  std::wstring& line = file_.Line();
-  line.append(kTable).append(L"<th>").append(run_.Texts[Text::DirectoryCaption]);
-  for (const DirectoryColumn& column : kDirectoryColumns) {
-    if (run_.Format.Directories.*column.Shown) {
-      line.append(L"<th>").append(run_.Texts[column.Caption]);
-    }
-  }
-  file_.WriteLine(L"</tr>");
-}
-
-void HtmlWriter::WriteHeading(std::wstring_view path) {
-  std::wstring& line = file_.Line();
-  line += L"<a name='";
-  AppendAnchor(path, {}, line);
-  file_.WriteLine(L"'/>");
-  line.append(L"<h4>").append(run_.Texts[Text::DirectoryHeading]).append(L" ").append(path);
-  file_.WriteLine(L"</h4>");
-  line += kTable;
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    line.append(L"<th>").append(run_.Texts[kNameColumn.Caption]);
-  }
-  for (const EntryColumn& column : kFurtherColumns) {
-    if (run_.Format.Files.*column.Shown) {
-      line.append(L"<th>").append(run_.Texts[column.Caption]);
-    }
-  }
-  file_.WriteLine(L"</tr>");
-}
-
-void HtmlWriter::WriteEntry(std::wstring_view directory, const FileRecord& entry) {
-  std::wstring& line = file_.Line();
-  line += L"<tr>";
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    AppendNameCell(directory, entry);
-  }
-  for (const EntryColumn& column : kFurtherColumns) {
-    if (run_.Format.Files.*column.Shown) {
-      line += L"<td>";
-      AppendValue(entry.*column.Value, column.Escaped, line);
-    }
-  }
-  file_.WriteLine(L"</tr>");
-}
-
-void HtmlWriter::AppendNameCell(std::wstring_view directory, const FileRecord& entry) {
-  std::wstring& line = file_.Line();
-  line += L"<td>";
-  const bool linked = run_.Format.ListingStyle == ListingStyle::IncludeSubdirectories && entry.IsDirectory();
-  if (linked) {
-    line += L"<a href='#";
-    AppendAnchor(directory, entry.Name, line);
-    file_.WriteLine(L"'>");
-  }
-  if (run_.Format.ListingStyle == ListingStyle::TreeStyle) {
-    AppendIndent(entry.Level, line);
-  }
-  line += entry.Name;
-  if (linked) {
-    file_.WriteLine(L"</a>");
-  }
-}
-
-void HtmlWriter::WriteFooter(std::wstring_view summary) {
-  // The two rows stand behind the table's end tag, on purpose.
-  file_.WriteLine(L"</table>");
-  file_.WriteLine(L"<tr><td>&nbsp;</tr>");
-  file_.WriteLine(L"<tr><td>&nbsp;&nbsp;&nbsp;<td>", summary, L"</tr></table><br>");
-}
-
-void HtmlWriter::ListDirectory(const DirectoryListing& directory) {
-  if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
-    return WriteFullPaths(directory);
-  }
-  WriteHeading(directory.Path);
-  for (const std::uint32_t index : directory.Order) {
-    WriteEntry(directory.Path, directory.Records[index]);
-  }
-  WriteFooter(directory.Summary);
-}
-
-void HtmlWriter::WriteFullPaths(const DirectoryListing& directory) {
-  const std::wstring path = AddBackslash(directory.Path);
-  for (const std::uint32_t index : directory.Order) {
-    file_.WriteLine(path, directory.Records[index].Name, L"<br>");
-  }
-}
-
-void HtmlWriter::BeginTree(std::wstring_view root) {
-  WriteHeading(root);
-}
-
-void HtmlWriter::TreeEntry(const FileRecord& entry) {
-  WriteEntry({}, entry);
-}
-
-void HtmlWriter::DirectoryViewEntry(const DirNode& node) {
-  std::wstring& line = file_.Line();
-  line += L"<tr><td>";
-  AppendIndent(node.Level, line);
-  line += node.Name;
-  for (const DirectoryColumn& column : kDirectoryColumns) {
-    if (run_.Format.Directories.*column.Shown) {
-      line += L"<td>";
-      column.AppendValue(node, run_.Texts, line);
-    }
-  }
-  file_.WriteLine(L"</tr>");
-}
-
-void HtmlWriter::FindList(std::span<const FoundItem> rows) {
-  file_.WriteLine(L"<h4>", run_.Tree.FindWindowTitle, L"</h4>");
-  file_.WriteLine(kTable);
-  for (const FoundColumn& column : kFoundColumns) {
-    file_.WriteLine(L"<th>", run_.Texts[column.Caption], &column == &kFoundColumns.back() ? L"</tr>" : L"");
-  }
-  file_.EndLine();
-  for (const FoundItem& row : rows) {
-    for (const FoundColumn& column : kFoundColumns) {
-      file_.WriteLine(&column == &kFoundColumns.front() ? L"<tr><td>" : L"<td>", row.*column.Value,
-                      &column == &kFoundColumns.back() ? L"</tr>" : L"");
-    }
-    if (run_.Tree.Cancelled) {
-      return;  // the table stays open, on purpose
-    }
-  }
-  file_.WriteLine(L"</table>");
-}
-
-void HtmlWriter::EndListing() {
-  if (run_.Format.IsCollected()) {
-    file_.WriteLine(L"</table><br>");
-  }
-  for (const std::wstring& sentence : ClosingSentences(run_)) {
-    file_.WriteLine(L"<br>", sentence, {});
-  }
-  file_.Close();
-}
-
-void HtmlWriter::AbortListing() noexcept {
-  file_.Abandon();
+std::unique_ptr<ListingWriter> MakeHtmlWriter() {
+  return std::make_unique<HtmlWriter>();
 }
 
 }  // namespace folivant

@@ -3,12 +3,18 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "base/Lengths.h"
 #include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
 #include "output/DriverServices.h"
 #include "output/NameShortening.h"
+#include "output/Page.h"
+#include "output/PageLayout.h"
+#include "scan/ListingRun.h"
 #include "ui/PageMargins.h"
 
 namespace folivant {
@@ -37,14 +43,64 @@ std::wstring CutCaption(std::wstring_view caption, double room, const TextMeasur
   return cut += kDots;
 }
 
-}  // namespace
+class PrinterWriter final : public ListingWriter {
+ public:
+  void BeginListing(ListingRun& run) override;
+  void ListDirectory(const DirectoryListing& directory) override;
+  void ListPaths(const DirectoryListing& directory) override;
+  void BeginTree(std::wstring_view root) override;
+  void TreeEntry(const FileRecord& entry) override;
+  void DirectoryViewEntry(const DirNode& node) override;
+  void FindList(const FoundRows& rows) override;
+  void EndListing() override;
+  void AbortListing() noexcept override;
 
-void PrinterWriter::BeginListing() {
-  page_ = MakePage(platform::OpenPageSurface(PrintJobOf(run_.Printer, run_.General.Portrait)), run_.General);
-  layout_ = LayOut(*page_, run_.General, run_.Format, run_.Texts);
+ private:
+  void BeginPages(const std::wstring& listed);
+  void StartPage();
+  void DrawCentred(std::wstring_view text, double y);
+  /// Whether a new page was begun, because less than these line heights were left.
+  bool BreakPage(double linesToKeepFree);
+  /// The same between lines of the listing: events get through at the new page, and may cancel the run.
+  void BreakPageInBody(double linesToKeepFree);
+  void BreakPageBeforeLine();
+
+  void DrawStyleCaptions();
+  void DrawEntryCaptions();
+  void DrawDirectoryCaptions();
+  void DrawFoundCaptions();
+  /// At, or ending at, an offset from the line origin; a right-aligned caption keeps three blanks free before it.
+  void DrawCaption(double position, Alignment alignment, std::wstring_view caption);
+  void DrawCell(double position, Alignment alignment, std::wstring_view text);
+
+  void DirectoryHeading(std::wstring_view path);
+  void DirectorySummary(std::wstring_view summary);
+  void EntryLine(const FileRecord& entry, std::int32_t indent);
+  void FoundLine(const FoundItem& row);
+  void ClosingLine(std::wstring_view text);
+
+  void DrawAtOrigin(std::wstring_view text) { page_->Draw(layout_.Origin, text); }
+  void DrawName(double x, std::wstring_view name, double width);
+  void StartIndented(std::int32_t level);
+
+  // From the beginning of a listing to its end.
+  ListingRun* run_ = nullptr;
+  std::optional<EntryTexts> texts_;
+  std::unique_ptr<Page> page_;
+  PageLayout layout_;
+  std::int16_t pageNumber_ = 0;  ///< of the page that was started last, from 1
+  std::wstring text_;            ///< the line being put together
+};
+
+void PrinterWriter::BeginListing(ListingRun& run) {
+  run_ = &run;
+  texts_.emplace(run);
+  pageNumber_ = 0;
+  page_ = MakePage(platform::OpenPageSurface(PrintJobOf(run_->Printer, run_->General.Portrait)), run_->General);
+  layout_ = LayOut(*page_, run_->General, run_->Format, run_->Texts);
   // The user chooses a Find window later, and the document is named after it.
-  if (run_.Format.ListingStyle != ListingStyle::FindWindow) {
-    BeginPages(run_.Tree.StartPath);
+  if (run_->Format.ListingStyle != ListingStyle::FindWindow) {
+    BeginPages(run_->Start.Shown);
   }
 }
 
@@ -55,10 +111,10 @@ void PrinterWriter::BeginPages(const std::wstring& listed) {
 }
 
 void PrinterWriter::StartPage() {
-  ++run_.PageNumber;
+  ++pageNumber_;
   page_->Select(Page::Face::HeaderFooter);
-  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, run_), layout_.BodyBottom - layout_.LineHeight);
-  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, run_), layout_.HeaderTop);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Footer, *run_, pageNumber_), layout_.BodyBottom - layout_.LineHeight);
+  DrawCentred(ExpandHeaderFooter(HeaderFooter::Header, *run_, pageNumber_), layout_.HeaderTop);
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();
@@ -81,8 +137,8 @@ bool PrinterWriter::BreakPage(double linesToKeepFree) {
 }
 
 void PrinterWriter::BreakPageInBody(double linesToKeepFree) {
-  if (BreakPage(linesToKeepFree) && run_.Watcher != nullptr) {
-    run_.Watcher->LetEventsThrough();  // a directory may fill hundreds of pages
+  if (BreakPage(linesToKeepFree)) {
+    run_->Watcher.LetEventsThrough();  // a directory may fill hundreds of pages
   }
 }
 
@@ -90,58 +146,53 @@ void PrinterWriter::BreakPageBeforeLine() {
   BreakPageInBody(kLinesBelowLine);
 }
 
-/// Nothing of a cancelled run is printed, so nothing more of it is drawn.
-bool PrinterWriter::Cancelled() const {
-  return run_.Tree.Cancelled || (run_.Watcher != nullptr && run_.Watcher->Cancelled());
-}
-
 void PrinterWriter::DrawStyleCaptions() {
-  if (run_.Format.IsFileList()) {
+  if (run_->Format.IsFileList()) {
     DrawFoundCaptions();
-  } else if (run_.Format.ListingStyle == ListingStyle::DirectoryView) {
+  } else if (run_->Format.ListingStyle == ListingStyle::DirectoryView) {
     DrawDirectoryCaptions();
-  } else if (run_.Format.ListingStyle != ListingStyle::FullPathList) {
+  } else if (run_->Format.ListingStyle != ListingStyle::FullPathList) {
     DrawEntryCaptions();
   }
   page_->EndLine();
 }
 
 void PrinterWriter::DrawEntryCaptions() {
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    DrawAtOrigin(run_.Texts[kNameColumn.Caption]);
+  if (run_->Format.Files.*kNameColumn.Shown) {
+    DrawAtOrigin(run_->Texts[kNameColumn.Caption]);
   }
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
-    if (run_.Format.Files.*column.Shown) {
-      DrawCaption(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
+    if (run_->Format.Files.*column.Shown) {
+      DrawCaption(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, run_->Texts[column.Caption]);
     }
   }
 }
 
 void PrinterWriter::DrawDirectoryCaptions() {
-  DrawAtOrigin(run_.Texts[Text::DirectoryCaption]);
+  DrawAtOrigin(run_->Texts[Text::DirectoryCaption]);
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
-    if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
+    if (run_->Format.Directories.*kDirectoryColumns[i].Shown) {
       const double begin = i == 0 ? layout_.Directories.NameWidth : layout_.Directories.Ends[i - 1];
       const double room = layout_.Directories.Ends[i] - begin - page_->RememberedWidthOf(L" ");
       page_->DrawEndingAt(layout_.Origin + layout_.Directories.Ends[i],
-                          CutCaption(run_.Texts[kDirectoryColumns[i].Caption], room, *page_));
+                          CutCaption(run_->Texts[kDirectoryColumns[i].Caption], room, *page_));
     }
   }
 }
 
 void PrinterWriter::DrawFoundCaptions() {
-  DrawAtOrigin(run_.Texts[Text::NameCaption]);
-  page_->Draw(layout_.Origin + layout_.Found.Folder, run_.Texts[Text::FolderCaption]);
-  DrawCaption(layout_.Found.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
-  page_->Draw(layout_.Origin + layout_.Found.Date, run_.Texts[Text::DateCaption]);
+  DrawAtOrigin(run_->Texts[Text::NameCaption]);
+  page_->Draw(layout_.Origin + layout_.Found.Folder, run_->Texts[Text::FolderCaption]);
+  DrawCaption(layout_.Found.SizeEnd, Alignment::Right, run_->Texts[Text::SizeCaption]);
+  page_->Draw(layout_.Origin + layout_.Found.Date, run_->Texts[Text::DateCaption]);
 }
 
 void PrinterWriter::DirectoryHeading(std::wstring_view path) {
   BreakPageInBody(kLinesBelowHeading);
   page_->EndLine();
   page_->Select(Page::Face::Heading);
-  text_ = run_.Texts[Text::DirectoryHeading];
+  text_ = run_->Texts[Text::DirectoryHeading];
   text_ += L' ';
   text_ += path;
   DrawAtOrigin(FitHeading(text_, layout_.HeadingWidth, *page_));
@@ -159,32 +210,31 @@ void PrinterWriter::DirectorySummary(std::wstring_view summary) {
   page_->EndLine();
 }
 
+// Nothing of a cancelled run is printed, so nothing more of it is drawn.
+
 void PrinterWriter::ListDirectory(const DirectoryListing& directory) {
-  if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
-    return FullPathLines(directory);
-  }
-  if (Cancelled()) {
+  if (run_->IsCancelled()) {
     return;
   }
   DirectoryHeading(directory.Path);
   for (const std::uint32_t index : directory.Order) {
-    EntryLine(directory.Records[index], directory.Records[index].Name);
-    if (Cancelled()) {
+    EntryLine(directory.Records[index], 0);
+    if (run_->IsCancelled()) {
       return;
     }
   }
   DirectorySummary(directory.Summary);
 }
 
-void PrinterWriter::FullPathLines(const DirectoryListing& directory) {
+void PrinterWriter::ListPaths(const DirectoryListing& directory) {
   const std::wstring folder = AddBackslash(directory.Path);
   for (const std::uint32_t index : directory.Order) {
     BreakPageBeforeLine();
-    if (Cancelled()) {
+    if (run_->IsCancelled()) {
       return;
     }
     text_ = folder;
-    text_ += directory.Records[index].Name;
+    texts_->AppendName(directory.Records[index], text_);
     DrawAtOrigin(FitPathToWidth(text_, layout_.UsableWidth, *page_));
     page_->EndLine();
   }
@@ -195,19 +245,23 @@ void PrinterWriter::BeginTree(std::wstring_view root) {
 }
 
 void PrinterWriter::TreeEntry(const FileRecord& entry) {
-  if (!Cancelled()) {
-    EntryLine(entry, Indented(entry.Level, entry.Name));
+  if (!run_->IsCancelled()) {
+    EntryLine(entry, entry.Level);
   }
 }
 
-void PrinterWriter::EntryLine(const FileRecord& entry, std::wstring_view name) {
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    DrawName(layout_.Origin, name, layout_.Entries.NameWidth);
+void PrinterWriter::EntryLine(const FileRecord& entry, std::int32_t indent) {
+  if (run_->Format.Files.*kNameColumn.Shown) {
+    StartIndented(indent);
+    texts_->AppendName(entry, text_);
+    DrawName(layout_.Origin, text_, layout_.Entries.NameWidth);
   }
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
-    if (run_.Format.Files.*column.Shown) {
-      DrawCell(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, entry.*column.Value);
+    if (run_->Format.Files.*column.Shown) {
+      text_.clear();
+      ((*texts_).*column.AppendValue)(entry, text_);
+      DrawCell(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, text_);
     }
   }
   page_->EndLine();
@@ -233,12 +287,14 @@ void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
   if (node.Level == 0) {
     DrawAtOrigin(FitPathToWidth(node.Path, layout_.Directories.NameWidth, *page_));
   } else {
-    DrawName(layout_.Origin, Indented(node.Level, node.Name), layout_.Directories.NameWidth);
+    StartIndented(node.Level);
+    text_ += node.Name;
+    DrawName(layout_.Origin, text_, layout_.Directories.NameWidth);
   }
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
-    if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
+    if (run_->Format.Directories.*kDirectoryColumns[i].Shown) {
       text_.clear();
-      kDirectoryColumns[i].AppendValue(node, run_.Texts, text_);
+      kDirectoryColumns[i].AppendValue(node, run_->Texts, text_);
       page_->DrawEndingAt(layout_.Origin + layout_.Directories.Ends[i], text_);
     }
   }
@@ -246,19 +302,19 @@ void PrinterWriter::DirectoryViewEntry(const DirNode& node) {
   BreakPageBeforeLine();
 }
 
-void PrinterWriter::FindList(std::span<const FoundItem> rows) {
-  if (run_.Format.ListingStyle == ListingStyle::FindWindow) {
-    BeginPages(run_.Tree.FindWindowTitle);
+void PrinterWriter::FindList(const FoundRows& rows) {
+  if (run_->Format.ListingStyle == ListingStyle::FindWindow) {
+    BeginPages(rows.Title);
   }
   page_->Select(Page::Face::Heading);
-  DrawAtOrigin(run_.Tree.FindWindowTitle);
+  DrawAtOrigin(rows.Title);
   page_->EndLine();
   page_->Select(Page::Face::Listing);
   page_->EndLine();
   DrawFoundCaptions();
   page_->EndLine();
   page_->EndLine();
-  for (auto row = rows.begin(); row != rows.end() && !Cancelled(); ++row) {
+  for (auto row = rows.Items.begin(); row != rows.Items.end() && !run_->IsCancelled(); ++row) {
     FoundLine(*row);
   }
 }
@@ -273,10 +329,10 @@ void PrinterWriter::FoundLine(const FoundItem& row) {
 }
 
 void PrinterWriter::EndListing() {
-  if (run_.Format.IsCollected()) {
+  if (run_->Format.IsCollected()) {
     page_->EndLine();
   }
-  for (const std::wstring& sentence : ClosingSentences(run_)) {
+  for (const std::wstring& sentence : ClosingSentences(*run_)) {
     ClosingLine(sentence);
   }
   page_->EndDocument();
@@ -305,9 +361,14 @@ void PrinterWriter::DrawName(double x, std::wstring_view name, double width) {
   }
 }
 
-std::wstring_view PrinterWriter::Indented(std::int32_t level, std::wstring_view name) {
+void PrinterWriter::StartIndented(std::int32_t level) {
   text_.assign(kIndent * static_cast<std::size_t>(std::max(level, 0)), L' ');
-  return text_ += name;
+}
+
+}  // namespace
+
+std::unique_ptr<ListingWriter> MakePrinterWriter() {
+  return std::make_unique<PrinterWriter>();
 }
 
 }  // namespace folivant

@@ -1,9 +1,15 @@
+// Every line is put together in the file's buffer: a cell is appended, then padded or cut in place, then, in a
+// delimited file, trimmed and closed by its separator.
 #include "output/mdlPrintText.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <string>
 
 #include "base/mdlFileRoutines.h"
+#include "output/Columns.h"
 #include "output/DriverServices.h"
+#include "output/FileWriter.h"
 #include "output/NameShortening.h"
 
 namespace folivant {
@@ -14,27 +20,29 @@ constexpr std::size_t kIndent = 3;
 /// The length of the directory caption that the padding after it assumes, whatever the language, on purpose.
 constexpr double kAssumedCaption = 9;
 
-void AppendPaddedRight(std::wstring_view text, std::size_t width, std::wstring& line) {
-  line += text.substr(0, width);
-  line.append(width - std::min(width, text.size()), L' ');
+/// Pads or cuts what the line holds from `start` on, on the right.
+void PadRight(std::size_t start, std::size_t width, std::wstring& line) {
+  line.resize(start + width, L' ');
 }
 
-/// Padded on the left; a longer text loses its start.
-void AppendPaddedLeft(std::wstring_view text, std::size_t width, std::wstring& line) {
-  const std::size_t shown = std::min(width, text.size());
-  line.append(width - shown, L' ');
-  line += text.substr(text.size() - shown);
+/// The same on the left; a longer text loses its start.
+void PadLeft(std::size_t start, std::size_t width, std::wstring& line) {
+  const std::size_t length = line.size() - start;
+  if (length < width) {
+    line.insert(start, width - length, L' ');
+  } else {
+    line.erase(start, length - width);
+  }
 }
 
-void AppendCell(std::wstring_view text, const CellLayout& layout, std::wstring& line) {
-  line += kGap;
+void FitCell(std::size_t start, const CellLayout& layout, std::wstring& line) {
   switch (layout.Align) {
     case Alignment::Left:
-      return AppendPaddedRight(text, layout.Width, line);
+      return PadRight(start, layout.Width, line);
     case Alignment::Right:
-      return AppendPaddedLeft(text, layout.Width, line);
+      return PadLeft(start, layout.Width, line);
     case Alignment::AsItStands:
-      line += text;
+      return;
   }
 }
 
@@ -42,46 +50,75 @@ void AppendIndent(std::int32_t level, std::wstring& line) {
   line.append(kIndent * static_cast<std::size_t>(std::max(level, 0)), L' ');
 }
 
-}  // namespace
+class TextWriter final : public FileWriter {
+ public:
+  explicit TextWriter(wchar_t separator) : separator_(separator) {}
 
-void TextWriter::BeginListing() {
-  file_.Open(run_.OutputFile);
-  nameWidth_ = NameWidth();
-  if (run_.Format.ListingStyle != ListingStyle::FullPathList) {
-    WriteField(ExpandHeaderFooter(HeaderFooter::Header, run_));
-    file_.EndLine();
-    file_.EndLine();
-  }
-  if (run_.Format.ListingStyle == ListingStyle::DirectoryView) {
-    WriteDirectoryViewCaptions();
+  void ListDirectory(const DirectoryListing& directory) override;
+  void ListPaths(const DirectoryListing& directory) override;
+  void BeginTree(std::wstring_view root) override;
+  void TreeEntry(const FileRecord& entry) override;
+  void BeginDirectoryView() override;
+  void DirectoryViewEntry(const DirNode& node) override;
+  void FindList(const FoundRows& rows) override;
+
+ private:
+  void Begin() override;
+  void End() override;
+
+  void SetNameWidth(double width) { nameWidth_ = std::max(width, 0.0); }
+  double EntryNameWidth() const;
+  double DirectoryNameWidth() const;
+
+  void WriteHeading(std::wstring_view path);
+  void WriteEntry(const FileRecord& entry, std::int32_t indent);
+  void AppendFoundCell(const FoundColumn& column, std::wstring_view text);
+  /// Makes what the line holds from `start` on a name of `width` characters: shortened, and padded. A delimited file
+  /// shows names whole.
+  void FitName(std::size_t start, double width);
+  /// The field filter, for what the line holds from `start` on.
+  void EndField(std::size_t start);
+  /// One field as a line of its own.
+  void WriteField(std::wstring_view field);
+
+  const wchar_t separator_;
+  double nameWidth_ = 0;  ///< characters; a fraction in the file lists, never below zero
+};
+
+void TextWriter::Begin() {
+  if (Run().Format.ListingStyle != ListingStyle::FullPathList) {
+    WriteField(ExpandHeaderFooter(HeaderFooter::Header, Run()));
+    File().EndLine();
+    File().EndLine();
   }
 }
 
-double TextWriter::NameWidth() const {
-  double width = run_.General.TextWidth;
-  if (run_.Format.IsFileList()) {
-    width = (width - 26) / 3 - 2;
-  } else if (run_.Format.ListingStyle == ListingStyle::DirectoryView) {
-    for (const DirectoryColumn& column : kDirectoryColumns) {
-      width -= run_.Format.Directories.*column.Shown ? kDirectoryColumnWidth : 0;
-    }
-  } else {
-    for (const EntryColumn& column : kFurtherColumns) {
-      width -= run_.Format.Files.*column.Shown ? static_cast<double>(column.Layout.Room) : 0;
-    }
+double TextWriter::EntryNameWidth() const {
+  double width = Run().General.TextWidth;
+  for (const EntryColumn& column : kFurtherColumns) {
+    width -= Run().Format.Files.*column.Shown ? static_cast<double>(column.Layout.Room) : 0;
   }
-  return std::max(width, 0.0);
+  return width;
 }
 
-void TextWriter::WriteDirectoryViewCaptions() {
-  std::wstring& line = file_.Line();
-  line += run_.Texts[Text::DirectoryCaption];
+double TextWriter::DirectoryNameWidth() const {
+  double width = Run().General.TextWidth;
+  for (const DirectoryColumn& column : kDirectoryColumns) {
+    width -= Run().Format.Directories.*column.Shown ? static_cast<double>(kDirectoryColumnWidth) : 0;
+  }
+  return width;
+}
+
+void TextWriter::BeginDirectoryView() {
+  SetNameWidth(DirectoryNameWidth());
+  std::wstring& line = File().Line();
+  line += Run().Texts[Text::DirectoryCaption];
   line.append(CharacterMeasure::Characters(nameWidth_ - kAssumedCaption), L' ');
   EndField(0);
   for (const DirectoryColumn& column : kDirectoryColumns) {
-    if (run_.Format.Directories.*column.Shown) {
+    if (Run().Format.Directories.*column.Shown) {
       const std::size_t start = line.size();
-      const std::wstring& caption = run_.Texts[column.Caption];
+      const std::wstring& caption = Run().Texts[column.Caption];
       // A caption is never cut, unlike the values below it.
       const std::size_t blanks = kDirectoryColumnWidth - std::min(kDirectoryColumnWidth, caption.size());
       line.append(column.CaptionBlanks.value_or(blanks), L' ');
@@ -89,80 +126,82 @@ void TextWriter::WriteDirectoryViewCaptions() {
       EndField(start);
     }
   }
-  file_.EndLine();
+  File().EndLine();
 }
 
 void TextWriter::WriteHeading(std::wstring_view path) {
-  file_.EndLine();
-  file_.WriteLine(run_.Texts[Text::DirectoryHeading], L" ", path);
-  file_.EndLine();
-  std::wstring& line = file_.Line();
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    AppendPaddedRight(run_.Texts[kNameColumn.Caption], CharacterMeasure::Characters(nameWidth_), line);
+  SetNameWidth(EntryNameWidth());
+  File().EndLine();
+  File().WriteLine(Run().Texts[Text::DirectoryHeading], L" ", path);
+  File().EndLine();
+  std::wstring& line = File().Line();
+  if (Run().Format.Files.*kNameColumn.Shown) {
+    line += Run().Texts[kNameColumn.Caption];
+    PadRight(0, CharacterMeasure::Characters(nameWidth_), line);
     EndField(0);
   }
   for (const EntryColumn& column : kFurtherColumns) {
-    if (run_.Format.Files.*column.Shown) {
+    if (Run().Format.Files.*column.Shown) {
       const std::size_t start = line.size();
-      AppendCell(run_.Texts[column.Caption], column.Layout, line);
+      line += kGap;
+      line += Run().Texts[column.Caption];
+      FitCell(start + kGap.size(), column.Layout, line);
       EndField(start);
     }
   }
-  file_.EndLine();
-  file_.EndLine();
+  File().EndLine();
+  File().EndLine();
 }
 
-void TextWriter::TreeEntry(const FileRecord& entry) {
-  const bool indented = run_.Format.ListingStyle == ListingStyle::TreeStyle;
-  std::wstring& line = file_.Line();
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    if (indented) {
-      AppendIndent(entry.Level, line);
-    }
+void TextWriter::WriteEntry(const FileRecord& entry, std::int32_t indent) {
+  std::wstring& line = File().Line();
+  if (Run().Format.Files.*kNameColumn.Shown) {
+    AppendIndent(indent, line);
     // In a delimited file the indent stands before the field, so that it survives the trimming.
     const std::size_t field = separator_ == kPlainText ? 0 : line.size();
-    line += entry.Name;
+    (Texts().*kNameColumn.AppendValue)(entry, line);
     FitName(0, nameWidth_);
     EndField(field);
   }
   for (const EntryColumn& column : kFurtherColumns) {
-    if (run_.Format.Files.*column.Shown) {
+    if (Run().Format.Files.*column.Shown) {
       const std::size_t start = line.size();
-      AppendCell(entry.*column.Value, column.Layout, line);
+      line += kGap;
+      (Texts().*column.AppendValue)(entry, line);
+      FitCell(start + kGap.size(), column.Layout, line);
       EndField(start);
     }
   }
-  file_.EndLine();
+  File().EndLine();
 }
 
 void TextWriter::FitName(std::size_t start, double width) {
   if (separator_ != kPlainText) {
     return;
   }
-  std::wstring& line = file_.Line();
+  std::wstring& line = File().Line();
   if (static_cast<double>(line.size() - start) > width) {
     line.replace(start, line.npos, ShortenName(std::wstring_view(line).substr(start), width, CharacterMeasure()));
   }
-  line.resize(start + CharacterMeasure::Characters(width), L' ');
+  PadRight(start, CharacterMeasure::Characters(width), line);
 }
 
 void TextWriter::ListDirectory(const DirectoryListing& directory) {
-  if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
-    return WriteFullPaths(directory);
-  }
   WriteHeading(directory.Path);
   for (const std::uint32_t index : directory.Order) {
-    TreeEntry(directory.Records[index]);
+    WriteEntry(directory.Records[index], 0);
   }
-  file_.EndLine();
+  File().EndLine();
   WriteField(directory.Summary);
-  file_.EndLine();
+  File().EndLine();
 }
 
-void TextWriter::WriteFullPaths(const DirectoryListing& directory) {
+void TextWriter::ListPaths(const DirectoryListing& directory) {
   const std::wstring path = AddBackslash(directory.Path);
   for (const std::uint32_t index : directory.Order) {
-    file_.WriteLine(path, directory.Records[index].Name, {});
+    File().Line() += path;
+    Texts().AppendName(directory.Records[index], File().Line());
+    File().EndLine();
   }
 }
 
@@ -170,73 +209,72 @@ void TextWriter::BeginTree(std::wstring_view root) {
   WriteHeading(root);
 }
 
+void TextWriter::TreeEntry(const FileRecord& entry) {
+  WriteEntry(entry, entry.Level);
+}
+
 void TextWriter::DirectoryViewEntry(const DirNode& node) {
-  std::wstring& line = file_.Line();
+  std::wstring& line = File().Line();
   AppendIndent(node.Level, line);
   line += node.Name;
   FitName(0, nameWidth_);
   EndField(0);
   for (const DirectoryColumn& column : kDirectoryColumns) {
-    if (run_.Format.Directories.*column.Shown) {
+    if (Run().Format.Directories.*column.Shown) {
       const std::size_t start = line.size();
-      value_.clear();
-      column.AppendValue(node, run_.Texts, value_);
-      AppendPaddedLeft(value_, kDirectoryColumnWidth, line);
+      column.AppendValue(node, Run().Texts, line);
+      PadLeft(start, kDirectoryColumnWidth, line);
       EndField(start);
     }
   }
-  file_.EndLine();
+  File().EndLine();
 }
 
-void TextWriter::FindList(std::span<const FoundItem> rows) {
-  file_.WriteLine(run_.Tree.FindWindowTitle);
-  file_.EndLine();
+void TextWriter::FindList(const FoundRows& rows) {
+  SetNameWidth((static_cast<double>(Run().General.TextWidth) - 26) / 3 - 2);
+  File().WriteLine(rows.Title);
+  File().EndLine();
   for (const FoundColumn& column : kFoundColumns) {
-    AppendFoundCell(column, run_.Texts[column.Caption]);
+    AppendFoundCell(column, Run().Texts[column.Caption]);
   }
-  file_.EndLine();
-  file_.EndLine();
-  for (const FoundItem& row : rows) {
+  File().EndLine();
+  File().EndLine();
+  for (const FoundItem& row : rows.Items) {
     for (const FoundColumn& column : kFoundColumns) {
       AppendFoundCell(column, row.*column.Value);
     }
-    file_.EndLine();
+    File().EndLine();
   }
 }
 
 void TextWriter::AppendFoundCell(const FoundColumn& column, std::wstring_view text) {
-  std::wstring& line = file_.Line();
+  std::wstring& line = File().Line();
   const std::size_t start = line.size();
+  line += &column == kFoundColumns.data() ? std::wstring_view() : kGap;
+  const std::size_t cell = line.size();
+  line += text;
   if (column.NameWidths == 0) {
-    AppendCell(text, column.Layout, line);
+    FitCell(cell, column.Layout, line);
   } else {
-    line += &column == kFoundColumns.data() ? std::wstring_view() : kGap;
-    const std::size_t name = line.size();
-    line += text;
-    FitName(name, nameWidth_ * column.NameWidths);
+    FitName(cell, nameWidth_ * column.NameWidths);
   }
   EndField(start);
 }
 
-void TextWriter::EndListing() {
-  if (run_.Format.IsCollected()) {
-    file_.EndLine();
+void TextWriter::End() {
+  if (Run().Format.IsCollected()) {
+    File().EndLine();
   }
-  for (const std::wstring& sentence : ClosingSentences(run_)) {
+  for (const std::wstring& sentence : ClosingSentences(Run())) {
     WriteField(sentence);
   }
-  file_.Close();
-}
-
-void TextWriter::AbortListing() noexcept {
-  file_.Abandon();
 }
 
 void TextWriter::EndField(std::size_t start) {
   if (separator_ == kPlainText) {
     return;
   }
-  std::wstring& line = file_.Line();
+  std::wstring& line = File().Line();
   const std::size_t last = line.find_last_not_of(L' ');
   line.resize(last == line.npos ? start : std::max(start, last + 1));
   line.erase(start, std::min(line.find_first_not_of(L' ', start), line.size()) - start);
@@ -244,9 +282,15 @@ void TextWriter::EndField(std::size_t start) {
 }
 
 void TextWriter::WriteField(std::wstring_view field) {
-  file_.Line() += field;
+  File().Line() += field;
   EndField(0);
-  file_.EndLine();
+  File().EndLine();
+}
+
+}  // namespace
+
+std::unique_ptr<ListingWriter> MakeTextWriter(wchar_t separator) {
+  return std::make_unique<TextWriter>(separator);
 }
 
 }  // namespace folivant

@@ -2,55 +2,84 @@
 
 #include "base/mdlFileRoutines.h"
 #include "output/Columns.h"
+#include "output/EntryFormatting.h"
 #include "output/Escaping.h"
+#include "output/FileWriter.h"
 #include "platform/Clock.h"
+#include "ui/ValueText.h"
 
 namespace folivant {
 namespace {
 
 constexpr std::wstring_view kEndDirectory = L"</directory>";
 
-}  // namespace
+void AppendStartTag(std::wstring_view element, std::wstring& line) {
+  line.append(L"<").append(element).append(L">");
+}
 
-void XmlWriter::BeginListing() {
-  file_.Open(run_.OutputFile);
+void AppendEndTag(std::wstring_view element, std::wstring& line) {
+  line.append(L"</").append(element).append(L">");
+}
+
+class XmlWriter final : public FileWriter {
+ public:
+  void ListDirectory(const DirectoryListing& directory) override;
+  void ListPaths(const DirectoryListing& directory) override;
+  void BeginTree(std::wstring_view root) override;
+  void TreeEntry(const FileRecord& entry) override;
+  void DirectoryViewEntry(const DirNode& node) override;
+  void FindList(const FoundRows& rows) override;
+
+ private:
+  void Begin() override;
+  void End() override;
+  void WriteDirectoryTag(std::wstring_view path);
+  void WriteFile(const FileRecord& entry);
+  void AppendColumns(const FileRecord& entry);
+  void AppendColumn(const EntryColumn& column, const FileRecord& entry);
+  void CloseDirectoriesAbove(std::int32_t level);
+
+  /// Directory elements that an entry of the tree or of the directory view opened and that are not closed yet. Only the
+  /// end of a listing empties it: the run after a cancelled one begins by closing that one's directories, on purpose.
+  std::int16_t openDirectories_ = 0;
+};
+
+void XmlWriter::Begin() {
   const platform::CalendarTime now = platform::Now();
-  file_.WriteLine(L"<xml><generator>Folivant 4.0</generator><options><format>");
-  if (const std::optional<Text> style = StyleCaption(run_.Format.ListingStyle)) {
-    file_.WriteLine(run_.Texts[*style]);
+  File().WriteLine(L"<xml><generator>Folivant 4.0</generator><options><format>");
+  if (const std::optional<Text> style = StyleCaption(Run().Format.ListingStyle)) {
+    File().WriteLine(Run().Texts[*style]);
   }
-  file_.WriteLine(L"</format><filter>");
-  file_.WriteLine(FilterDescription(run_.Filter, run_.Texts));
-  file_.WriteLine(L"</filter><date>");
-  file_.WriteLine(FormatDate(now, run_.DatePattern));
-  file_.WriteLine(L"</date><time>");
-  file_.WriteLine(FormatDate(now, kTimePattern));
-  file_.WriteLine(L"</time></options>");
+  File().WriteLine(L"</format><filter>");
+  File().WriteLine(FilterDescription(Run().Filter, Run().Texts));
+  File().WriteLine(L"</filter><date>");
+  File().WriteLine(FormatDate(now, Run().DatePattern));
+  File().WriteLine(L"</date><time>");
+  File().WriteLine(FormatDate(now, kTimePattern));
+  File().WriteLine(L"</time></options>");
 }
 
 void XmlWriter::WriteDirectoryTag(std::wstring_view path) {
-  file_.WriteLine(L"<directory><name>", path, L"</name>");
+  File().WriteLine(L"<directory><name>", path, L"</name>");
 }
 
 void XmlWriter::ListDirectory(const DirectoryListing& directory) {
   WriteDirectoryTag(directory.Path);
-  if (run_.Format.ListingStyle == ListingStyle::FullPathList) {
-    return WriteFullPaths(directory);
-  }
   for (const std::uint32_t index : directory.Order) {
-    TreeEntry(directory.Records[index]);
+    WriteFile(directory.Records[index]);
   }
-  file_.WriteLine(L"<summary>", directory.Summary, L"</summary></directory>");
+  File().WriteLine(L"<summary>", directory.Summary, L"</summary></directory>");
 }
 
-void XmlWriter::WriteFullPaths(const DirectoryListing& directory) {
+void XmlWriter::ListPaths(const DirectoryListing& directory) {
+  WriteDirectoryTag(directory.Path);
   const std::wstring path = AddBackslash(directory.Path);
-  std::wstring& line = file_.Line();
   for (const std::uint32_t index : directory.Order) {
-    line.append(L"<file><fullpath>").append(path).append(directory.Records[index].Name);
-    file_.WriteLine(L"</fullpath></file>");
+    File().Line().append(L"<file><fullpath>").append(path);
+    Texts().AppendName(directory.Records[index], File().Line());
+    File().WriteLine(L"</fullpath></file>");
   }
-  file_.WriteLine(kEndDirectory);
+  File().WriteLine(kEndDirectory);
 }
 
 void XmlWriter::BeginTree(std::wstring_view root) {
@@ -58,84 +87,94 @@ void XmlWriter::BeginTree(std::wstring_view root) {
 }
 
 void XmlWriter::TreeEntry(const FileRecord& entry) {
-  const bool tree = run_.Format.ListingStyle == ListingStyle::TreeStyle;
-  if (tree) {
-    CloseDirectoriesAbove(entry.Level);
+  CloseDirectoriesAbove(entry.Level);
+  if (!entry.IsDirectory()) {
+    return WriteFile(entry);
   }
-  if (tree && entry.IsDirectory()) {
-    file_.Line() += L"<directory>";
-    ++openDirectories_;
-    AppendEntryColumns(entry);
-    return;  // what it holds, or its end tag, follows on the same line
-  }
-  file_.Line() += L"<file>";
-  AppendEntryColumns(entry);
-  file_.WriteLine(L"</file>");
+  File().Line() += L"<directory>";
+  ++openDirectories_;
+  AppendColumns(entry);  // what it holds, or its end tag, follows on the same line
 }
 
-void XmlWriter::AppendEntryColumns(const FileRecord& entry) {
-  if (run_.Format.Files.*kNameColumn.Shown) {
-    AppendElement(kNameColumn.Element, entry.Name, kNameColumn.Escaped);
-  }
+void XmlWriter::WriteFile(const FileRecord& entry) {
+  File().Line() += L"<file>";
+  AppendColumns(entry);
+  File().WriteLine(L"</file>");
+}
+
+void XmlWriter::AppendColumns(const FileRecord& entry) {
+  AppendColumn(kNameColumn, entry);
   for (const EntryColumn& column : kFurtherColumns) {
-    if (run_.Format.Files.*column.Shown) {
-      AppendElement(column.Element, entry.*column.Value, column.Escaped);
-    }
+    AppendColumn(column, entry);
   }
 }
 
-void XmlWriter::AppendElement(std::wstring_view element, std::wstring_view text, bool escaped) {
-  std::wstring& line = file_.Line();
-  line.append(L"<").append(element).append(L">");
-  AppendValue(text, escaped, line);
-  line.append(L"</").append(element).append(L">");
+void XmlWriter::AppendColumn(const EntryColumn& column, const FileRecord& entry) {
+  if (!(Run().Format.Files.*column.Shown)) {
+    return;
+  }
+  std::wstring& line = File().Line();
+  AppendStartTag(column.Element, line);
+  const std::size_t start = line.size();
+  (Texts().*column.AppendValue)(entry, line);
+  if (column.Escaped) {
+    EscapeFrom(start, line);
+  }
+  AppendEndTag(column.Element, line);
 }
 
 void XmlWriter::CloseDirectoriesAbove(std::int32_t level) {
   while (openDirectories_ > level) {
-    file_.WriteLine(kEndDirectory);
+    File().WriteLine(kEndDirectory);
     --openDirectories_;
   }
 }
 
 void XmlWriter::DirectoryViewEntry(const DirNode& node) {
   CloseDirectoriesAbove(node.Level);
-  file_.Line() += L"<directory>";
+  std::wstring& line = File().Line();
+  line += L"<directory>";
   ++openDirectories_;
-  AppendElement(kNameColumn.Element, node.Path, false);
+  AppendStartTag(kNameColumn.Element, line);
+  line += node.Path;
+  AppendEndTag(kNameColumn.Element, line);
   for (const DirectoryColumn& column : kDirectoryColumns) {
-    if (run_.Format.Directories.*column.Shown) {
-      value_.clear();
-      column.AppendValue(node, run_.Texts, value_);
-      AppendElement(column.Element, value_, false);
+    if (Run().Format.Directories.*column.Shown) {
+      AppendStartTag(column.Element, line);
+      column.AppendValue(node, Run().Texts, line);
+      AppendEndTag(column.Element, line);
     }
   }
-  file_.EndLine();
+  File().EndLine();
 }
 
-void XmlWriter::FindList(std::span<const FoundItem> rows) {
-  for (const FoundItem& row : rows) {
+void XmlWriter::FindList(const FoundRows& rows) {
+  for (const FoundItem& row : rows.Items) {
     for (const FoundColumn& column : kFoundColumns) {
-      file_.Line() += &column == &kFoundColumns.front() ? L"<file>" : L"";
-      AppendElement(column.Element, row.*column.Value, false);
-      file_.WriteLine(&column == &kFoundColumns.back() ? L"</file>" : L"");
+      std::wstring& line = File().Line();
+      line += &column == &kFoundColumns.front() ? L"<file>" : L"";
+      AppendStartTag(column.Element, line);
+      line += row.*column.Value;
+      AppendEndTag(column.Element, line);
+      File().WriteLine(&column == &kFoundColumns.back() ? L"</file>" : L"");
     }
   }
 }
 
-void XmlWriter::EndListing() {
-  if (run_.Format.IsCollected()) {
+void XmlWriter::End() {
+  if (Run().Format.IsCollected()) {
     CloseDirectoriesAbove(0);
   }
-  if (run_.Format.ListingStyle == ListingStyle::TreeStyle) {
-    file_.WriteLine(kEndDirectory);
+  if (Run().Format.ListingStyle == ListingStyle::TreeStyle) {
+    File().WriteLine(kEndDirectory);
   }
-  file_.WriteLine(L"</xml>");
-  file_.Close();
+  File().WriteLine(L"</xml>");
 }
 
-void XmlWriter::AbortListing() noexcept {
-  file_.Abandon();
+}  // namespace
+
+std::unique_ptr<ListingWriter> MakeXmlWriter() {
+  return std::make_unique<XmlWriter>();
 }
 
 }  // namespace folivant

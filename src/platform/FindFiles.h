@@ -23,8 +23,7 @@ struct FindData {
   std::uint32_t Attributes = 0;
   /// UTC, 100-nanosecond units since 1601-01-01. FileDateOf (scan/FileDates.h) converts it in place, on purpose.
   std::uint64_t LastWrite = 0;
-  std::uint32_t SizeHigh = 0;
-  std::uint32_t SizeLow = 0;
+  std::uint64_t Size = 0;           ///< bytes; 0 for a directory
   std::wstring_view Name;           ///< as on disk; valid until the next call of Next
   std::wstring_view AlternateName;  ///< the 8.3 name; empty when Name is one already or when it was not asked for
 

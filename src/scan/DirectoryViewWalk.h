@@ -1,54 +1,50 @@
-// The walk of the directory view: it collects one node per directory with running totals, always of the whole tree.
+// The walk of the directory view (3): it collects one node per directory with running totals, always of the whole tree.
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <vector>
 
-#include "scan/DirectoryStack.h"
-#include "scan/Progress.h"
-#include "scan/ScanTree.h"
-#include "scan/WalkPath.h"
-#include "scan/WalkSettings.h"
+#include "scan/DepthFirstWalk.h"
+#include "scan/DirNode.h"
+#include "scan/PackedStore.h"
 
 namespace folivant {
 
-class DirectoryViewWalk {
+class DirectoryViewWalk final : public DepthFirstWalk {
  public:
-  /// All arguments outlive the walk.
-  DirectoryViewWalk(const WalkSettings& settings, ScanTree& tree, Progress& progress);
+  /// `run` outlives the walk.
+  explicit DirectoryViewWalk(ListingRun& run);
 
-  /// Fills ScanTree::DirNodes from ScanTree::StartPath, in depth-first order. A directory that cannot be read keeps
-  /// zero counts. Ends early, with the sums unfinished, once the run is cancelled.
-  void ScanDirectoryView();
+  /// After Walk: calls `list` for every node that `subLevel` admits, in depth-first order and with its Path filled,
+  /// until `stop` says so. A directory that could not be read has zero counts; after a cancelled walk the sums are
+  /// unfinished.
+  void ForEachListedNode(std::int32_t subLevel, const std::function<bool()>& stop,
+                         const std::function<void(const DirNode&)>& list) const;
 
  private:
-  /// A directory whose subdirectories are being visited.
-  struct Frame {
-    WalkPath::Mark Path;
-    std::uint32_t Node;
-    std::int32_t Share;
-    std::size_t FirstName;  ///< of its subdirectories, in names_
-    std::size_t NextName;
-    std::size_t Subdirectories;
+  void BeginDirectory(const Frame& frame) override;
+  void TakeEntry(const Frame& frame, platform::FindData& entry) override;
+  void EndDirectory(const Frame& frame) override;
+  Step Next(Frame& frame) override;
+  void LeaveDirectory(const Frame& frame) override;
+
+  /// A node as it is kept: its name is packed.
+  struct KeptNode {
+    std::uint32_t Name = 0;  ///< in names_
+    std::int32_t Level = 0;
+    std::int32_t Files = 0;
+    std::int32_t TotalFiles = 0;
+    Currency Size;
+    Currency TotalSize;
   };
+  void AddNode(std::wstring_view name, std::int32_t level);
 
-  bool Cancelled();
-  void OpenDirectory(std::uint32_t node, std::int32_t share);
-  bool EnterNextSubdirectory(Frame& frame);
-  void Leave(const Frame& frame);
-
-  const WalkSettings& settings_;
-  ScanTree& tree_;
-  Progress& progress_;
-  WalkPath path_;
-  std::vector<Frame> frames_;
-  NameStack names_;
-  Ancestors ancestors_;
+  PackedStore names_;
+  PackedRecord record_;
+  std::deque<KeptNode> nodes_;
+  std::vector<std::size_t> within_;  ///< the nodes of the directories that the walk is in
 };
-
-/// Calls `list` for every node that `subLevel` admits, in order and with its Path filled, until `stop` says so.
-void ForEachListedNode(ScanTree& tree, std::int32_t subLevel, const std::function<bool()>& stop,
-                       const std::function<void(const DirNode&)>& list);
 
 }  // namespace folivant

@@ -1,51 +1,37 @@
-// From an enumerated entry to the finished texts of its record.
+// From an enumerated entry to its record and its sort key.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "platform/FindFiles.h"
-#include "scan/ScanTree.h"
+#include "scan/FileRecord.h"
+#include "scan/ListingRun.h"
 #include "scan/TextArena.h"
-#include "scan/WalkSettings.h"
 
 namespace folivant {
 
-/// "darsh": directory, archive, read-only, system, hidden; a blank in the place of an attribute that is not set. The
-/// text lives as long as the process.
-std::wstring_view AttributeText(const platform::FindData& entry);
+/// Whether a run shows MS-DOS names or sorts by them. Without that they are neither asked for nor kept.
+platform::ShortNames ShortNamesFor(const ListingRun& run);
 
-/// Fills the records of one run. What repeats between entries (the texts of days, the size text of directories) is
-/// kept.
+/// Fills the records of one run, which outlives it.
 class FileRecordFiller {
  public:
-  explicit FileRecordFiller(const WalkSettings& settings);
+  explicit FileRecordFiller(const ListingRun& run);
 
-  /// Whether MS-DOS names are shown or sorted by. Without that they are neither asked for nor filled.
-  platform::ShortNames ShortNames() const;
-
-  /// The texts go into `texts`, but for SortKey, which is overwritten by the next call. Converts the entry's last-write
-  /// time in place, once for the date text and once more for a date sort key.
-  FileRecord FillFileRecord(platform::FindData& entry, std::int32_t level, TextArena& texts);
+  /// The names go into `texts`. `lastWrite` is what the entry's last-write time was before the filter looked at it; the
+  /// entry's own is converted in place once for the date that is shown and once more for a date sort key.
+  FileRecord FillFileRecord(platform::FindData& entry, std::uint64_t lastWrite, std::int32_t level, TextArena& texts);
+  /// Of the record that was filled last; empty when the enumeration's order stays.
+  std::wstring_view SortKey() const { return sortKey_; }
 
  private:
-  std::wstring_view AddDosName(const platform::FindData& entry, TextArena& texts) const;
-  std::wstring_view AddSize(const platform::FindData& entry, TextArena& texts);
-  std::wstring_view AddDate(std::uint64_t localFileTime, TextArena& texts);
-  std::wstring_view DayText(std::uint64_t localFileTime);
-  void MakeSortKey(platform::FindData& entry, const FileRecord& record);
+  void MakeSortKey(platform::FindData& entry);
 
-  struct Day {
-    std::uint64_t Number = ~0ULL;  ///< since 1601
-    std::wstring Text;
-  };
-
-  const WalkSettings& settings_;
-  const std::wstring directorySize_;
-  std::wstring sizeText_;
-  std::array<Day, 64> days_;  ///< by the last bits of their number: entries of a tree share a few
+  const ListingRun& run_;
+  const bool filesLead_;  ///< whether files make up the first group
+  const bool keepsShortNames_;
   std::wstring sortKey_;
 };
 

@@ -32,7 +32,7 @@ bool MatchesAttributes(const platform::FindData& entry, const FilterSettings& fi
 }  // namespace
 
 Currency FileSizeOf(const platform::FindData& entry) {
-  return Currency::FromWhole(std::uint64_t{entry.SizeHigh} << 32 | entry.SizeLow);
+  return Currency::FromWhole(entry.Size);
 }
 
 bool MatchesFilter(platform::FindData& entry, const FilterSettings& filter, const NamePatterns& patterns,

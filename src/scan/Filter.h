@@ -8,7 +8,6 @@
 
 namespace folivant {
 
-/// 0 for directories, because the system says so.
 Currency FileSizeOf(const platform::FindData& entry);
 
 /// Name, size, date, attributes, in this order; the first test that is on and fails rejects the entry. The date test

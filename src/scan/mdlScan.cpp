@@ -1,120 +1,116 @@
 #include "scan/mdlScan.h"
 
-#include "app/mdlVars.h"
-#include "output/EntryFormatting.h"
 #include "platform/Clock.h"
 #include "scan/DirectoryViewWalk.h"
-#include "scan/DirectoryWalk.h"
 #include "scan/NameRules.h"
-#include "shell/mdlFind.h"
+#include "scan/StreamingWalk.h"
+#include "scan/TreeWalk.h"
+#include "ui/ValueText.h"
 
 namespace folivant {
 namespace {
 
-using mdlVars::Tree;
-
-/// Leaves nothing behind, however a run ends: an error closes what the writer has open, and the lists are emptied.
-class RunGuard {
+/// Closes what the writer has open, however a run ends.
+class ListingGuard {
  public:
-  RunGuard(ListingWriter& output, Progress& progress) : output_(output) { mdlVars::Run().Watcher = &progress; }
-  RunGuard(const RunGuard&) = delete;
-  RunGuard& operator=(const RunGuard&) = delete;
-  ~RunGuard() {
+  ListingGuard(ListingRun& run, ListingWriter& output) : run_(run), output_(output) {}
+  ListingGuard(const ListingGuard&) = delete;
+  ListingGuard& operator=(const ListingGuard&) = delete;
+  ~ListingGuard() {
     if (!ended_) {
       output_.AbortListing();
     }
-    Tree.ReleaseLists();
-    mdlVars::Run().Watcher = nullptr;
   }
   void End() {
-    if (!Tree.Cancelled) {
+    if (!run_.IsCancelled()) {
       output_.EndListing();
       ended_ = true;
     }
   }
 
  private:
+  ListingRun& run_;
   ListingWriter& output_;
   bool ended_ = false;
 };
 
-void ChooseDatePattern() {
-  if (const std::wstring_view pattern = DatePatternOf(mdlVars::General.DateFormat); !pattern.empty()) {
-    mdlVars::DatePattern = pattern;
+void Prepare(ListingRun& run) {
+  if (const std::wstring_view pattern = DatePatternOf(run.General.DateFormat); !pattern.empty()) {
+    run.DatePattern = pattern;
   }
+  run.Patterns = run.Filter.NameOn ? NamePatterns(run.Filter.FilterName) : NamePatterns();
+  run.LocalOffset = platform::LocalOffset();
+  run.Totals = {};
+  run.Cancelled = false;
+  run.Unreadable = false;
 }
 
-void ListDirectoryView(const WalkSettings& settings, ListingWriter& output, Progress& progress) {
-  DirectoryViewWalk(settings, Tree, progress).ScanDirectoryView();
-  const auto stop = [&] {
-    progress.LetEventsThrough();
-    Tree.Cancelled |= progress.Cancelled();
-    return Tree.Cancelled;
+void ListDirectoryView(ListingRun& run, ListingWriter& output) {
+  output.BeginDirectoryView();
+  DirectoryViewWalk walk(run);
+  walk.Walk();
+  const auto stop = [&run] {
+    run.Watcher.LetEventsThrough();
+    return run.IsCancelled();
   };
-  ForEachListedNode(Tree, settings.Format.SubLevel, stop,
-                    [&](const DirNode& node) { output.DirectoryViewEntry(node); });
+  walk.ForEachListedNode(run.Format.SubLevel, stop, [&](const DirNode& node) { output.DirectoryViewEntry(node); });
 }
 
-void ListTree(const WalkSettings& settings, ListingWriter& output, Progress& progress) {
-  output.BeginTree(Tree.StartPath);
-  DirectoryWalk walk(settings, Tree, output, progress);  // owns the size text that the directories' records share
-  walk.ScanDirectory();
-  for (const std::uint32_t index : Tree.TreeList) {  // does not look at the cancel flag, on purpose
-    progress.LetEventsThrough();
-    const FileRecord& record = Tree.TreeRecords[index];
-    if (record.Level > kHiddenLevel) {
-      output.TreeEntry(record);
-    }
+void ListTree(ListingRun& run, ListingWriter& output) {
+  output.BeginTree(run.Start.Shown);
+  TreeWalk walk(run);
+  walk.Walk();
+  walk.ForEachEntry([&](const FileRecord& entry) {  // does not look at the cancel flag, on purpose
+    run.Watcher.LetEventsThrough();
+    output.TreeEntry(entry);
+  });
+}
+
+void ListRows(ListingRun& run, ListingWriter& output, const FoundRows& rows) {
+  if (!run.IsCancelled()) {
+    output.FindList(rows);
   }
 }
 
 }  // namespace
 
-bool SetStartPath(const std::wstring& path) {
+bool SetStartPath(const std::wstring& path, LongPath& start, ListingFormat& format) {
   LongPath found = GetLongPath(path);
   if (found.Shown.empty()) {
     return false;
   }
-  Tree.StartPath = std::move(found.Shown);
-  Tree.StartPathOnDisk = std::move(found.OnDisk);
-  if (mdlVars::Format.IsFileList()) {
-    mdlVars::Format.ListingStyle = ListingStyle::NoSubdirectories;
+  start = std::move(found);
+  if (format.IsFileList()) {
+    format.ListingStyle = ListingStyle::NoSubdirectories;
   }
   return true;
 }
 
-void RunListing(ListingWriter& output, Progress& progress) {
-  ChooseDatePattern();
-  progress.LetEventsThrough();
-  Tree.ResetTotals();
-  mdlVars::PageNumber = 0;
-  RunGuard guard(output, progress);
-  output.BeginListing();
-  const NamePatterns patterns = mdlVars::Filter.NameOn ? NamePatterns(mdlVars::Filter.FilterName) : NamePatterns();
-  const WalkSettings settings{mdlVars::Filter,        patterns,       mdlVars::Format,
-                              mdlVars::General,       mdlVars::Texts, mdlVars::DatePattern,
-                              platform::LocalOffset()};
-  switch (mdlVars::Format.ListingStyle) {
+void RunListing(ListingRun& run, ListingWriter& output, FoundRowSource& rows) {
+  run.Watcher.LetEventsThrough();
+  Prepare(run);
+  ListingGuard guard(run, output);
+  output.BeginListing(run);
+  switch (run.Format.ListingStyle) {
     case ListingStyle::DirectoryView:
-      ListDirectoryView(settings, output, progress);
+      ListDirectoryView(run, output);
       break;
     case ListingStyle::TreeStyle:
-      ListTree(settings, output, progress);
+      ListTree(run, output);
       break;
     case ListingStyle::FindWindow:
-      PrintFromFind(output, progress);
+      ListRows(run, output, rows.PrintFromFind(run));
       break;
     case ListingStyle::PathListFile:
-      PrintFromFileList(output, progress);
+      ListRows(run, output, rows.PrintFromFileList(run));
       break;
     case ListingStyle::NoSubdirectories:
     case ListingStyle::IncludeSubdirectories:
     case ListingStyle::FullPathList:
     default:
-      DirectoryWalk(settings, Tree, output, progress).ScanDirectory();
+      StreamingWalk(run, output).Walk();
       break;
   }
-  Tree.Cancelled |= progress.Cancelled();
   guard.End();
 }
 

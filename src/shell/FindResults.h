@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/FindWindows.h"
-#include "scan/ScanTree.h"
+#include "scan/FoundRows.h"
 
 namespace folivant {
 

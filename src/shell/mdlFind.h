@@ -1,16 +1,21 @@
 // Input of the file lists: the rows of an open shell Find window (style 5), or of a file that holds one path per line
-// (style 6). Both fill ScanTree::FoundList and then raise FindList once, unless the run was cancelled meanwhile.
+// (style 6).
 #pragma once
 
-#include "scan/ListingWriter.h"
-#include "scan/Progress.h"
+#include <string>
+
+#include "scan/FoundRows.h"
 
 namespace folivant {
 
-/// Style 5. Throws RuntimeError when the chosen window's program may not be read.
-void PrintFromFind(ListingWriter& output, Progress& progress);
-/// Style 6: reads the file named by ScanTree::StartPath. Throws RuntimeError when it, or a file that it names, is
-/// missing, and when it has lines but none is a full path.
-void PrintFromFileList(ListingWriter& output, Progress& progress);
+class FindCapture final : public FoundRowSource {
+ public:
+  FoundRows PrintFromFind(ListingRun& run) override;
+  /// The heading of the list is the title of the Find window that was listed last, on purpose; empty before the first.
+  FoundRows PrintFromFileList(ListingRun& run) override;
+
+ private:
+  std::wstring findWindowTitle_;
+};
 
 }  // namespace folivant

@@ -3,25 +3,24 @@
 #include <string_view>
 #include <vector>
 
-#include "app/mdlVars.h"
 #include "base/mdlFileRoutines.h"
-#include "output/EntryFormatting.h"
-#include "platform/Clock.h"
 #include "platform/FindFiles.h"
 #include "platform/RuntimeError.h"
 #include "scan/FileDates.h"
+#include "scan/ListingRun.h"
 #include "scan/NameRules.h"
 #include "shell/PathListLines.h"
 #include "shell/mdlFind.h"
+#include "ui/ValueText.h"
 
 namespace folivant {
 namespace {
 
-FoundItem RowOf(const LongPath& path, platform::FoundEntry entry, std::int64_t localOffset) {
-  const std::uint64_t size = (std::uint64_t{entry.Data.SizeHigh} << 32) | entry.Data.SizeLow;
-  const std::wstring pattern = mdlVars::DatePattern + L' ' + std::wstring(kTimePattern);
-  return {ProperName(GetFileName(path.Shown)), GetFolder(path.Shown), FormatSizeFixedUnits(Currency::FromWhole(size)),
-          FormatDate(FileTimeOf(entry.Data.LastWrite, localOffset), pattern)};
+FoundItem RowOf(const LongPath& path, platform::FoundEntry entry, const ListingRun& run) {
+  const std::wstring pattern = run.DatePattern + L' ' + std::wstring(kTimePattern);
+  return {ProperName(GetFileName(path.Shown)), GetFolder(path.Shown),
+          FormatSizeFixedUnits(Currency::FromWhole(entry.Data.Size)),
+          FormatDate(FileTimeOf(entry.Data.LastWrite, run.LocalOffset), pattern)};
 }
 
 bool IsFullPath(std::wstring_view line) {
@@ -36,7 +35,7 @@ std::wstring NameOf(const std::wstring& line) {
 }
 
 /// One row; nothing for a line that is no full path. Throws RuntimeError (ReadFile) for a file that is not there.
-std::optional<FoundItem> ReadRow(const std::wstring& line, std::int64_t localOffset) {
+std::optional<FoundItem> ReadRow(const std::wstring& line, const ListingRun& run) {
   const LongPath path = GetLongPath(line);
   if (path.OnDisk.empty() && !IsFullPath(WithBackslashes(line))) {
     return std::nullopt;
@@ -45,39 +44,33 @@ std::optional<FoundItem> ReadRow(const std::wstring& line, std::int64_t localOff
   if (!entry) {
     throw RuntimeError(FailedAction::ReadFile, NameOf(line), {}, 0);
   }
-  return RowOf(path, *entry, localOffset);
+  return RowOf(path, *entry, run);
 }
 
-/// All rows or none: an error leaves the list as it was.
-void ReadPathListFile(Progress& progress) {
-  const std::int64_t localOffset = platform::LocalOffset();
-  PathListLines lines(mdlVars::Tree.StartPath, progress);
+std::vector<FoundItem> ReadPathListFile(ListingRun& run) {
+  PathListLines lines(run.Start.OnDisk, run.Watcher);
   std::vector<FoundItem> rows;
   bool blank = true;
   while (const std::optional<std::wstring> line = lines.Next()) {
     blank = false;
-    if (std::optional<FoundItem> row = ReadRow(*line, localOffset)) {
+    if (std::optional<FoundItem> row = ReadRow(*line, run)) {
       rows.push_back(*std::move(row));
     }
-    progress.LetEventsThrough();
-    if (progress.Cancelled()) {
+    run.Watcher.LetEventsThrough();
+    if (run.IsCancelled()) {
       break;
     }
   }
-  if (!blank && rows.empty() && !progress.Cancelled()) {
+  if (!blank && rows.empty() && !run.IsCancelled()) {
     throw RuntimeError(FailedAction::ListPaths, lines.Path(), {}, 0);
   }
-  mdlVars::Tree.FoundCount = static_cast<std::int32_t>(rows.size());
-  mdlVars::Tree.FoundList = std::move(rows);
+  return rows;
 }
 
 }  // namespace
 
-void PrintFromFileList(ListingWriter& output, Progress& progress) {
-  ReadPathListFile(progress);
-  if (!progress.Cancelled()) {
-    output.FindList(mdlVars::Tree.FoundList);
-  }
+FoundRows FindCapture::PrintFromFileList(ListingRun& run) {
+  return {findWindowTitle_, ReadPathListFile(run)};
 }
 
 }  // namespace folivant

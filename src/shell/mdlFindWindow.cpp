@@ -1,9 +1,9 @@
 // Style 5: the rows of an open shell Find window.
 #include <string>
 
-#include "app/mdlVars.h"
 #include "platform/MessageBox.h"
 #include "platform/RuntimeError.h"
+#include "scan/ListingRun.h"
 #include "shell/FindDialog.h"
 #include "shell/FindResults.h"
 #include "shell/mdlFind.h"
@@ -12,10 +12,10 @@ namespace folivant {
 namespace {
 
 // A window that is alone is taken at once; the dialog is shown only where there is something to choose.
-void BeginChoice(FindChoice& choice, FindDialog& dialog) {
+void BeginChoice(FindChoice& choice, FindDialog& dialog, const Messages& texts) {
   choice.FindCandidates();
   if (choice.Candidates.empty()) {
-    platform::ShowMessage(mdlVars::Texts[Text::NoFindWindow], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    platform::ShowMessage(texts[Text::NoFindWindow], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
     choice.Cancel();
   } else if (choice.Candidates.size() == 1) {
     choice.Choose(0);
@@ -27,13 +27,13 @@ void BeginChoice(FindChoice& choice, FindDialog& dialog) {
 // The choice arrives through the shared handle while events run. A chosen window without a list view inside leaves the
 // handle pending and the wait goes on, on purpose; cancelling the run ends it. Where nobody watches the run, nothing
 // could: such a wait would be a process that no user can see or close, so there it is an error.
-void WaitForChoice(const FindChoice& choice, FindDialog& dialog, Progress& progress) {
-  while (choice.IsPending() && !progress.Cancelled()) {
-    if (choice.Chosen && !progress.CanCancel()) {
+void WaitForChoice(const FindChoice& choice, FindDialog& dialog, ListingRun& run) {
+  while (choice.IsPending() && !run.IsCancelled()) {
+    if (choice.Chosen && !run.Watcher.CanCancel()) {
       throw RuntimeError(FailedAction::ReadWindow, choice.FindWindowTitle, {}, 0);
     }
     dialog.LetEventsThrough();
-    progress.LetEventsThrough();
+    run.Watcher.LetEventsThrough();
   }
 }
 
@@ -46,40 +46,35 @@ void ShowShare(Progress& progress, std::int32_t row, std::int32_t count) {
   }
 }
 
-void ReadFindResults(const FindChoice& choice, Progress& progress) {
-  ScanTree& tree = mdlVars::Tree;
+std::vector<FoundItem> ReadFindResults(const FindChoice& choice, ListingRun& run) {
   FindResults results(choice.FindListHandle, choice.FindWindowTitle);
-  tree.FoundCount = results.RowCount();
-  tree.FoundList.resize(static_cast<std::size_t>(tree.FoundCount) + 1);  // one slot to spare, as ever
-  results.Read(tree.FoundList, [&](std::int32_t row) {
-    ShowShare(progress, row, tree.FoundCount);
-    progress.LetEventsThrough();
-    tree.Cancelled = tree.Cancelled || progress.Cancelled();
-    return !tree.Cancelled;
+  const std::int32_t count = results.RowCount();
+  std::vector<FoundItem> rows(static_cast<std::size_t>(count));
+  results.Read(rows, [&](std::int32_t row) {
+    ShowShare(run.Watcher, row, count);
+    run.Watcher.LetEventsThrough();
+    return !run.IsCancelled();
   });
+  return rows;
 }
 
 }  // namespace
 
-void PrintFromFind(ListingWriter& output, Progress& progress) {
-  ScanTree& tree = mdlVars::Tree;
+FoundRows FindCapture::PrintFromFind(ListingRun& run) {
   FindChoice choice;
   {
-    const auto dialog = OpenFindDialog(choice, mdlVars::Texts);
-    BeginChoice(choice, *dialog);
-    WaitForChoice(choice, *dialog, progress);
+    const auto dialog = OpenFindDialog(choice, run.Texts);
+    BeginChoice(choice, *dialog, run.Texts);
+    WaitForChoice(choice, *dialog, run);
   }
   if (choice.Chosen) {
-    tree.FindWindowTitle = choice.FindWindowTitle;
+    findWindowTitle_ = choice.FindWindowTitle;
   }
   if (choice.IsPending() || choice.IsCancelled()) {
-    tree.Cancelled = true;
-    return;
+    run.Cancelled = true;
+    return {};
   }
-  ReadFindResults(choice, progress);
-  if (!tree.Cancelled) {
-    output.FindList(std::span(tree.FoundList).first(static_cast<std::size_t>(tree.FoundCount)));
-  }
+  return {findWindowTitle_, ReadFindResults(choice, run)};
 }
 
 }  // namespace folivant

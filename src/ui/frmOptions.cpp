@@ -8,7 +8,6 @@
 
 #include "app/Settings.h"
 #include "app/mdlVars.h"
-#include "output/EntryFormatting.h"
 #include "output/PageLayout.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
@@ -20,6 +19,7 @@
 #include "ui/MarginCheck.h"
 #include "ui/PageMargins.h"
 #include "ui/PrinterChoice.h"
+#include "ui/ValueText.h"
 #include "ui/frmBase.h"
 #include "ui/frmPrinter.h"
 

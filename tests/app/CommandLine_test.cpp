@@ -75,18 +75,6 @@ TEST(ReadCommandLine, TheOutputLetterStandsBehindExactlyOneCharacter) {
   EXPECT_EQ(ReadCommandLine(L"/t").OutputLetter, L'\0');
 }
 
-TEST(OutputKindOf, KnowsSixSmallLetters) {
-  EXPECT_EQ(OutputKindOf(L'p'), OutputKind::Printer);
-  EXPECT_EQ(OutputKindOf(L't'), OutputKind::Text);
-  EXPECT_EQ(OutputKindOf(L'a'), OutputKind::TabDelimited);
-  EXPECT_EQ(OutputKindOf(L'h'), OutputKind::Html);
-  EXPECT_EQ(OutputKindOf(L'c'), OutputKind::Csv);
-  EXPECT_EQ(OutputKindOf(L'x'), OutputKind::Xml);
-  for (const wchar_t letter : {L'P', L'H', L'z', L' ', L'\0'}) {
-    EXPECT_EQ(OutputKindOf(letter), std::nullopt);
-  }
-}
-
 TEST(WithSwitchExtension, IsHtmlForHtmlAndTxtForAllElse) {
   EXPECT_EQ(WithSwitchExtension(L"list", OutputKind::Html), L"list.html");
   for (const OutputKind kind : {OutputKind::Text, OutputKind::TabDelimited, OutputKind::Csv, OutputKind::Xml}) {

@@ -127,7 +127,7 @@ TEST(Settings, FirstStartHasTheDefaults) {
   EXPECT_FALSE(Format.Files.DosName || Format.Files.Attributes);
   EXPECT_TRUE(Format.Directories.Files && Format.Directories.TotalSize);
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::Printer);
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Work");
 }
 
 TEST(Settings, LoadingWritesNothing) {
@@ -215,23 +215,23 @@ TEST(Settings, LoadingAFilterFileLeavesMachineSettingsUntouched) {
 }
 
 TEST(Settings, AFilterFileWithoutAPathGivesTheCurrentDirectory) {
-  mdlVars::Tree.StartPath = L"D:\\Before";
+  mdlVars::Start.Shown = L"D:\\Before";
   FilterFile("Format=0\r\n");
   LoadFilterFile(kFilterFile);
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
-  EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Work");
+  EXPECT_EQ(mdlVars::Start.OnDisk, L"C:\\Work");
 }
 
 TEST(Settings, AnEmptyPathCountsAsMissing) {
   for (const char* line : {"Path=\r\n", "Path=   \r\n", "Path=\"  \"\r\n"}) {
-    mdlVars::Tree.StartPath = L"D:\\Before";
+    mdlVars::Start.Shown = L"D:\\Before";
     FilterFile(line);
     LoadFilterFile(kFilterFile);
-    EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work") << line;
-    EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Work");
+    EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Work") << line;
+    EXPECT_EQ(mdlVars::Start.OnDisk, L"C:\\Work");
   }
   EXPECT_TRUE(LoadWith(L"Settings", L"Path", L"").empty());
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Work");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Work");
 }
 
 TEST(Settings, AMissingFilterFileGivesTheDefaultsOfWhatItCouldHold) {
@@ -329,12 +329,12 @@ TEST(Settings, ASavedPathComesBackWhateverItsLettersAre) {
     for (const std::string& file : before) {
       LoadSettings();
       Tree().File(kFilterFile, file);
-      mdlVars::Tree.StartPath = path;
+      mdlVars::Start.Shown = path;
       SaveFilterFile(kFilterFile);
       EXPECT_EQ(Fake().Content(kFilterFile).find('?'), std::string::npos);
-      mdlVars::Tree.StartPath.clear();
+      mdlVars::Start.Shown.clear();
       LoadFilterFile(kFilterFile);
-      EXPECT_EQ(mdlVars::Tree.StartPath, path) << Fake().Content(kFilterFile);
+      EXPECT_EQ(mdlVars::Start.Shown, path) << Fake().Content(kFilterFile);
     }
   }
 }
@@ -342,7 +342,7 @@ TEST(Settings, ASavedPathComesBackWhateverItsLettersAre) {
 TEST(Settings, AFilterFileKeepsItsEncoding) {
   Tree().Dir(L"C:\\\u0416");
   LoadSettings();
-  mdlVars::Tree.StartPath = L"C:\\\u0416";
+  mdlVars::Start.Shown = L"C:\\\u0416";
   Tree().File(kFilterFile, "; Caf\xC3\xA9\r\n[Folivant 3.5]\r\n");
   SaveFilterFile(kFilterFile);
   EXPECT_TRUE(Fake().Content(kFilterFile).starts_with("; Caf\xC3\xA9\r\n[Folivant 3.5]\r\n"));
@@ -399,7 +399,7 @@ TEST(Settings, TheStyleOfASentFileIsNotRemembered) {
 TEST(Settings, ADirectoryThatIsGoneIsNotRemembered) {
   Fake().Store[{L"Settings", L"Path"}] = L"C:\\Gone";
   LoadSettings();
-  mdlVars::Tree.StartPath = L"C:\\Gone too";
+  mdlVars::Start.Shown = L"C:\\Gone too";
   SaveSettings();
   EXPECT_EQ((Fake().Store[{L"Settings", L"Path"}]), L"C:\\Gone");
 }

@@ -12,6 +12,7 @@
 #include "fakes/FakeSession.h"
 #include "output/mdlPrint.h"
 #include "scan/mdlScan.h"
+#include "shell/mdlFind.h"
 
 namespace folivant {
 namespace {
@@ -59,7 +60,7 @@ TEST_F(StartUp, WithAnEmptyLineTheWindowOpensOnTheStoredDirectory) {
   Session().ExitStatus = 7;
   EXPECT_EQ(Start(L""), 7);
   EXPECT_EQ(Session().Shown, 1);
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Data");
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
@@ -83,7 +84,7 @@ TEST_F(StartUp, ASlashInAStoredPathSeparatesLikeABackslash) {
   Tree().Dir(L"C:\\Data\\Deep\\Er").File(L"B.txt");
   Store(L"Path", L"c:\\data/deep/er");
   Start(L"");
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data\\Deep\\Er");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Data\\Deep\\Er");
   Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=4\r\nPath=C:/Data/Deep\\Er\r\nOutputTo=1\r\n");
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /o C:\\Out\\list.txt /g"), kExitDone);
   EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\Deep\\Er\\B.txt\r\n");
@@ -92,19 +93,19 @@ TEST_F(StartUp, ASlashInAStoredPathSeparatesLikeABackslash) {
 TEST_F(StartUp, ASentDirectoryIsTheOneToList) {
   Tree().Dir(L"C:\\My Data");
   Start(L"\"C:\\My Data\"");
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\My Data");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\My Data");
   Start(L"C:\\Data");
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Data");
   Start(L"C:\\My Data\"");
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\My Data");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\My Data");
   EXPECT_EQ(Session().Shown, 3);
 }
 
 TEST_F(StartUp, ASentFileIsAListOfPathsAndStaysAsItIsSpelled) {
   Start(L"\"c:\\data\\a.TXT\"");
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"c:\\data\\a.TXT");
-  EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"c:\\data\\a.TXT");
+  EXPECT_EQ(mdlVars::Start.Shown, L"c:\\data\\a.TXT");
+  EXPECT_EQ(mdlVars::Start.OnDisk, L"c:\\data\\a.TXT");
 }
 
 TEST_F(StartUp, ASentRelativeFileIsReadInTheCurrentDirectory) {
@@ -112,10 +113,12 @@ TEST_F(StartUp, ASentRelativeFileIsReadInTheCurrentDirectory) {
   Start(L"mine.txt");
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::PathListFile);
   mdlVars::OutputFile = L"C:\\Out\\list.csv";
-  mdlVars::OutputKind = OutputKind::Csv;
-  OutputDriver output(mdlVars::Run());
-  NoProgress progress;
-  RunListing(output, progress);
+  OutputDriver output;
+  output.Choose(OutputKind::Csv);
+  FindCapture rows;
+  NoProgress nobody;
+  ListingRun run = mdlVars::MakeRun(nobody);
+  RunListing(run, output, rows);
   EXPECT_THAT(Fake().Content(L"C:\\Out\\list.csv"), testing::HasSubstr("\r\nA.txt;C:\\Data;5 b;"));
 }
 
@@ -131,7 +134,7 @@ TEST_F(StartUp, TheStyleOfASentFileIsNotSavedWhenTheWindowCloses) {
 TEST_F(StartUp, ASentPathThatIsGoneLeavesTheStoredDirectory) {
   Store(L"Path", L"C:\\Data");
   Start(L"C:\\Nowhere");
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Data");
   EXPECT_EQ(Session().Shown, 1);
   EXPECT_TRUE(Fake().Messages.empty());
 }
@@ -140,7 +143,7 @@ TEST_F(StartUp, ASentPathThatIsGoneLooksAtTheStoredDirectoryAgain) {
   Store(L"Path", L"c:\\data\\");
   Store(L"Format", L"5");
   Start(L"C:\\Nowhere");
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Data");
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::NoSubdirectories);
 }
 
@@ -192,7 +195,7 @@ TEST_F(StartUp, WithoutGoTheWindowOpensWithTheSwitchesInPlaceAndNothingIsStored)
   Tree().Dir(L"C:\\Other");
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d c:\\other /t x /o list"), 0);
   EXPECT_EQ(Session().Shown, 1);
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Other");
+  EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Other");
   EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::FullPathList);
   EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File);
   EXPECT_EQ(mdlVars::OutputKind, OutputKind::Xml);
@@ -274,7 +277,7 @@ TEST_F(StartUp, AQuotedDirectoryMayEndInABackslash) {
 
 TEST_F(StartUp, AShareThatIsNotThereIsAnUnreadableDirectory) {
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d \\\\nobody\\share /t t /o C:\\Out\\list.txt /g"), kExitUnreadable);
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"\\\\Nobody\\Share");
+  EXPECT_EQ(mdlVars::Start.Shown, L"\\\\Nobody\\Share");
   EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "");
 }
 

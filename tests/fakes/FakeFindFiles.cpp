@@ -11,8 +11,7 @@ namespace {
 void FillFrom(const FakeNode& node, FindData& data) {
   data.Attributes = node.Attributes;
   data.LastWrite = node.LastWrite;
-  data.SizeHigh = static_cast<std::uint32_t>(node.Size >> 32);
-  data.SizeLow = static_cast<std::uint32_t>(node.Size);
+  data.Size = node.Size;
 }
 
 }  // namespace

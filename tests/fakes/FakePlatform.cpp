@@ -5,33 +5,15 @@
 
 #include <memory>
 
-#include "app/mdlVars.h"
 #include "platform/RuntimeError.h"
 #include "platform/Store.h"
 
 namespace folivant::fakes {
 namespace {
 
-/// Every test begins with an empty machine and untouched run-wide records.
+/// Every test begins with an empty machine.
 class ResetBeforeEachTest final : public testing::EmptyTestEventListener {
-  void OnTestStart(const testing::TestInfo&) override {
-    Fake().Reset();
-    mdlVars::General = {};
-    mdlVars::Printer = {};
-    mdlVars::Filter = {};
-    mdlVars::Format = {};
-    mdlVars::OutputTo = OutputTarget::Printer;
-    mdlVars::Tree = ScanTree();
-    mdlVars::OutputKind = OutputKind::Text;
-    mdlVars::OutputFile.clear();
-    mdlVars::DatePattern.clear();
-    mdlVars::PageNumber = 0;
-    mdlVars::FilterFile.clear();
-    mdlVars::UseFilterFile = false;
-    mdlVars::Texts = {};
-    mdlVars::HelpFile.clear();
-    mdlVars::ManualFile.clear();
-  }
+  void OnTestStart(const testing::TestInfo&) override { Fake().Reset(); }
 };
 
 [[maybe_unused]] const bool appended = [] {

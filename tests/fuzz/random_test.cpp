@@ -19,6 +19,7 @@
 #include "platform/Text.h"
 #include "scan/ListingTest.h"
 #include "shell/PathListLines.h"
+#include "shell/mdlFind.h"
 #include "ui/Language.h"
 
 namespace folivant {
@@ -159,10 +160,10 @@ TEST(RandomPathLists, LinesHoldNoEndsAndAreNotBlank) {
 class ListedPaths final : public RecordingWriter {
  public:
   std::size_t Rows = 0;
-  void FindList(std::span<const FoundItem> rows) override {
+  void FindList(const FoundRows& rows) override {
     RecordingWriter::FindList(rows);
-    Rows = rows.size();
-    for (const FoundItem& row : rows) {
+    Rows = rows.Items.size();
+    for (const FoundItem& row : rows.Items) {
       EXPECT_NE(fakes::Tree().Find(row.InFolder + L'\\' + row.Name), nullptr) << testing::PrintToString(row.Name);
     }
   }
@@ -171,8 +172,10 @@ class ListedPaths final : public RecordingWriter {
 TEST(RandomPathLists, EveryListIsListedOrIsOneError) {
   Source source(3);
   fakes::Tree().Dir(L"C:\\Data").File(L"a").Dir(L"a.a");
-  mdlVars::Format.ListingStyle = ListingStyle::PathListFile;
-  mdlVars::Tree.StartPath = L"C:\\list";
+  fakes::RunRecords records;
+  records.Format.ListingStyle = ListingStyle::PathListFile;
+  records.Start = {L"C:\\list", L"C:\\list"};
+  FindCapture rows;
   int withRows = 0;
   int withErrors = 0;
   int withoutPaths = 0;
@@ -180,10 +183,10 @@ TEST(RandomPathLists, EveryListIsListedOrIsOneError) {
     const std::string bytes = source.Bytes(kPaths, 10);
     fakes::Tree().File(L"C:\\list", bytes);
     ListedPaths listed;
-    NoProgress progress;
+    ListingRun run = records.MakeRun();
     try {
-      RunListing(listed, progress);
-      EXPECT_THAT(listed.Events, testing::ElementsAre(L"begin", L"find", L"end")) << bytes;
+      RunListing(run, listed, rows);
+      EXPECT_THAT(listed.Events, testing::ElementsAre(L"begin", testing::StartsWith(L"find "), L"end")) << bytes;
       withRows += listed.Rows > 0 ? 1 : 0;
     } catch (const RuntimeError& error) {
       EXPECT_THAT(listed.Events, testing::ElementsAre(L"begin", L"abort")) << bytes;

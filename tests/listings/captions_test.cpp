@@ -25,7 +25,7 @@ class LanguageCaptions : public PageWriter, public ::testing::WithParamInterface
     for (std::string line; std::getline(file, line);) {
       const std::size_t equals = line.find('=');
       if (equals != line.npos && line.find_first_not_of("0123456789") == equals) {
-        texts.Set(std::stoul(line), listings::FromUtf8(line.substr(equals + 1)));
+        Texts.Set(std::stoul(line), listings::FromUtf8(line.substr(equals + 1)));
       }
     }
   }
@@ -33,19 +33,19 @@ class LanguageCaptions : public PageWriter, public ::testing::WithParamInterface
 
 TEST_P(LanguageCaptions, FitTheColumnsOfADirectoryViewOnPaper) {
   for (const int points : {8, 10, 12}) {
-    general.FontSize = static_cast<std::int16_t>(points);
+    General.FontSize = static_cast<std::int16_t>(points);
     for (unsigned shown = 0; shown < 16; ++shown) {
-      format.Directories = {(shown & 1) != 0, (shown & 2) != 0, (shown & 4) != 0, (shown & 8) != 0};
+      Format.Directories = {(shown & 1) != 0, (shown & 2) != 0, (shown & 4) != 0, (shown & 8) != 0};
       printer.SetSheet(300, 2479, 3508);
       Begin(ListingStyle::DirectoryView);
-      std::wstring expected = texts[Text::DirectoryCaption];
+      std::wstring expected = Texts[Text::DirectoryCaption];
       for (const DirectoryColumn& column : kDirectoryColumns) {
-        if (format.Directories.*column.Shown) {
-          expected += L"|" + texts[column.Caption];
+        if (Format.Directories.*column.Shown) {
+          expected += L"|" + Texts[column.Caption];
         }
       }
-      EXPECT_EQ(printer.Line(1, printer.Find(1, texts[Text::DirectoryCaption]).Y), expected) << points << " points";
-      writer.AbortListing();
+      EXPECT_EQ(printer.Line(1, printer.Find(1, Texts[Text::DirectoryCaption]).Y), expected) << points << " points";
+      writer->AbortListing();
     }
   }
 }

@@ -6,18 +6,15 @@
 #include <algorithm>
 #include <sstream>
 
-#include "app/mdlVars.h"
+#include "fakes/RunRecords.h"
 #include "listings/TreeFile.h"
 #include "output/TestTexts.h"
 #include "output/mdlPrint.h"
 #include "scan/mdlScan.h"
+#include "shell/mdlFind.h"
 
 namespace folivant::listings {
 namespace {
-
-using mdlVars::Filter;
-using mdlVars::Format;
-using mdlVars::General;
 
 const std::wstring kOutput = L"C:\\Out\\list";
 
@@ -35,8 +32,108 @@ class CancelAt final : public Progress {
   bool cancelled_ = false;
 };
 
+/// The records of a run, and how each run below sets them.
+struct Records : fakes::RunRecords {
+  FoundRows FindWindow;
+
+  /// Name, size and date in lines of 44 characters: 16 for the name.
+  void UsualColumns() {
+    General.TextWidth = 44;
+    General.Header = L"%p %d %t";
+    General.FontName = L"Courier New";
+    General.DateFormat = 5;
+    Filter.NameOn = true;
+    Filter.FilterName = L"*.*";
+    Format.Files = {.Name = true, .Size = true, .Date = true};
+    Format.Directories = {true, true, true, true};
+  }
+
+  void NamesOnly() {
+    UsualColumns();
+    General.TextWidth = 20;
+    General.Header = L"%p";
+    Filter.NameOn = false;
+    Format.Files = {.Name = true};
+    Format.Directories = {};
+  }
+
+  template <ListingStyle style>
+  void Usual() {
+    UsualColumns();
+    Format.ListingStyle = style;
+  }
+
+  void UsualView() {
+    Usual<ListingStyle::DirectoryView>();
+    General.TextWidth = 70;
+  }
+
+  void UsualFileList() {
+    UsualColumns();
+    General.TextWidth = 80;
+  }
+
+  void FindWindowRows() {
+    UsualFileList();
+    Format.ListingStyle = ListingStyle::FindWindow;
+    FindWindow.Title = L"Find: *.txt";
+    FindWindow.Items = {
+        {L"Deep.txt", L"C:\\Data\\Alpha\\Beta", L"10KB", L"1/4/2026 5:06 AM"},
+        {L"a&b <c> rather long.txt", L"C:\\Data\\Some.folder with a long name here & there", L"1KB",
+         L"1/8/2026 9:10 AM"},
+    };
+  }
+
+  void PathListRows() {
+    UsualFileList();
+    Format.ListingStyle = ListingStyle::PathListFile;
+    fakes::Tree().File(L"C:\\list.txt", "C:\\Data\\readme.txt\r\n\r\nc:\\data\\alpha\\one.bin\r\n");
+    Start = {L"C:\\list.txt", L"C:\\list.txt"};
+  }
+
+  template <ListingStyle style, std::int32_t subLevel>
+  void Names() {
+    NamesOnly();
+    Format.ListingStyle = style;
+    Format.SubLevel = subLevel;
+  }
+
+  template <ListingStyle style>
+  void NoColumns() {
+    Names<style, 0>();
+    Format.Files = {};
+  }
+
+  template <ListingStyle style, std::int32_t subLevel>
+  void NamesAndEmptyDirectories() {
+    Names<style, subLevel>();
+    General.EmptyDirs = true;
+  }
+
+  template <std::int32_t subLevel>
+  void FilesAndTotalSize() {
+    Names<ListingStyle::DirectoryView, subLevel>();
+    General.TextWidth = 50;
+    Format.Directories = {.Files = true, .TotalSize = true};
+  }
+
+  template <ListingStyle style>
+  void AllColumns() {
+    Usual<style>();
+    General.TextWidth = 80;
+    General.Header = L"%p [%l] %f %g p.%n";
+    Format.Files = {true, true, true, true, true};
+  }
+
+  template <ListingStyle style>
+  void NamesAndLabel() {
+    Names<style, 0>();
+    General.Header = L"%p %l";
+  }
+};
+
 struct Step {
-  void (*Configure)();
+  void (Records::*Configure)();
   std::wstring_view CancelledAt;  ///< empty for a run that nobody cancels
 };
 
@@ -47,152 +144,64 @@ struct ListedRun {
   std::vector<Step> Steps;
 };
 
-/// Name, size and date in lines of 44 characters: 16 for the name.
-void UsualColumns() {
-  General.TextWidth = 44;
-  General.Header = L"%p %d %t";
-  General.FontName = L"Courier New";
-  General.DateFormat = 5;
-  Filter.NameOn = true;
-  Filter.FilterName = L"*.*";
-  Format.Files = {.Name = true, .Size = true, .Date = true};
-  Format.Directories = {true, true, true, true};
-}
-
-void NamesOnly() {
-  UsualColumns();
-  General.TextWidth = 20;
-  General.Header = L"%p";
-  Filter.NameOn = false;
-  Format.Files = {.Name = true};
-  Format.Directories = {};
-}
-
-template <ListingStyle style>
-void Usual() {
-  UsualColumns();
-  Format.ListingStyle = style;
-}
-
-void UsualView() {
-  Usual<ListingStyle::DirectoryView>();
-  General.TextWidth = 70;
-}
-
-void UsualFileList() {
-  UsualColumns();
-  General.TextWidth = 80;
-}
-
-void FindWindowRows() {
-  UsualFileList();
-  Format.ListingStyle = ListingStyle::FindWindow;
-  mdlVars::Tree.FindWindowTitle = L"Find: *.txt";
-  mdlVars::Tree.FoundList = {
-      {L"Deep.txt", L"C:\\Data\\Alpha\\Beta", L"10KB", L"1/4/2026 5:06 AM"},
-      {L"a&b <c> rather long.txt", L"C:\\Data\\Some.folder with a long name here & there", L"1KB", L"1/8/2026 9:10 AM"},
-  };
-}
-
-void PathListRows() {
-  UsualFileList();
-  Format.ListingStyle = ListingStyle::PathListFile;
-  fakes::Tree().File(L"C:\\list.txt", "C:\\Data\\readme.txt\r\n\r\nc:\\data\\alpha\\one.bin\r\n");
-  mdlVars::Tree.StartPath = mdlVars::Tree.StartPathOnDisk = L"C:\\list.txt";
-}
-
-template <ListingStyle style, std::int32_t subLevel>
-void Names() {
-  NamesOnly();
-  Format.ListingStyle = style;
-  Format.SubLevel = subLevel;
-}
-
-template <ListingStyle style>
-void NoColumns() {
-  Names<style, 0>();
-  Format.Files = {};
-}
-
-template <ListingStyle style, std::int32_t subLevel>
-void NamesAndEmptyDirectories() {
-  Names<style, subLevel>();
-  General.EmptyDirs = true;
-}
-
-template <std::int32_t subLevel>
-void FilesAndTotalSize() {
-  Names<ListingStyle::DirectoryView, subLevel>();
-  General.TextWidth = 50;
-  Format.Directories = {.Files = true, .TotalSize = true};
-}
-
-template <ListingStyle style>
-void AllColumns() {
-  Usual<style>();
-  General.TextWidth = 80;
-  General.Header = L"%p [%l] %f %g p.%n";
-  Format.Files = {true, true, true, true, true};
-}
-
-template <ListingStyle style>
-void NamesAndLabel() {
-  Names<style, 0>();
-  General.Header = L"%p %l";
-}
-
 constexpr const char* kAll = "txt tab csv html xml";
 
 const std::vector<ListedRun>& Runs() {
   using enum ListingStyle;
   static const std::vector<ListedRun> runs = {
-      {"office", "no-subdirectories", kAll, {{Usual<NoSubdirectories>, {}}}},
-      {"office", "include-subdirectories", kAll, {{Usual<IncludeSubdirectories>, {}}}},
-      {"office", "tree-style", kAll, {{Usual<TreeStyle>, {}}}},
-      {"office", "directory-view", kAll, {{UsualView, {}}}},
-      {"office", "full-path-list", kAll, {{Usual<FullPathList>, {}}}},
-      {"office", "find-window", kAll, {{FindWindowRows, {}}}},
-      {"office", "path-list-file", kAll, {{PathListRows, {}}}},
+      {"office", "no-subdirectories", kAll, {{&Records::Usual<NoSubdirectories>, {}}}},
+      {"office", "include-subdirectories", kAll, {{&Records::Usual<IncludeSubdirectories>, {}}}},
+      {"office", "tree-style", kAll, {{&Records::Usual<TreeStyle>, {}}}},
+      {"office", "directory-view", kAll, {{&Records::UsualView, {}}}},
+      {"office", "full-path-list", kAll, {{&Records::Usual<FullPathList>, {}}}},
+      {"office", "find-window", kAll, {{&Records::FindWindowRows, {}}}},
+      {"office", "path-list-file", kAll, {{&Records::PathListRows, {}}}},
 
-      {"office", "depth-1", "txt html xml", {{Names<IncludeSubdirectories, 1>, {}}}},
-      {"office", "depth-2-empty-listed", "txt html xml", {{NamesAndEmptyDirectories<IncludeSubdirectories, 2>, {}}}},
-      {"office", "depth-negative", "txt", {{Names<IncludeSubdirectories, -1>, {}}}},
-      {"office", "tree-depth-1", "txt html xml", {{Names<TreeStyle, 1>, {}}}},
-      {"office", "tree-depth-negative", "xml", {{Names<TreeStyle, -3>, {}}}},
-      {"office", "view-depth-1", "txt html xml", {{FilesAndTotalSize<1>, {}}}},
-      {"office", "view-depth-negative", "txt html xml", {{FilesAndTotalSize<-1>, {}}}},
+      {"office", "depth-1", "txt html xml", {{&Records::Names<IncludeSubdirectories, 1>, {}}}},
+      {"office",
+       "depth-2-empty-listed",
+       "txt html xml",
+       {{&Records::NamesAndEmptyDirectories<IncludeSubdirectories, 2>, {}}}},
+      {"office", "depth-negative", "txt", {{&Records::Names<IncludeSubdirectories, -1>, {}}}},
+      {"office", "tree-depth-1", "txt html xml", {{&Records::Names<TreeStyle, 1>, {}}}},
+      {"office", "tree-depth-negative", "xml", {{&Records::Names<TreeStyle, -3>, {}}}},
+      {"office", "view-depth-1", "txt html xml", {{&Records::FilesAndTotalSize<1>, {}}}},
+      {"office", "view-depth-negative", "txt html xml", {{&Records::FilesAndTotalSize<-1>, {}}}},
 
-      {"office", "tree-no-columns", "txt html xml", {{NoColumns<TreeStyle>, {}}}},
-      {"office", "include-no-columns", "tab csv", {{NoColumns<IncludeSubdirectories>, {}}}},
-      {"office", "view-no-columns", "txt xml", {{NoColumns<DirectoryView>, {}}}},
+      {"office", "tree-no-columns", "txt html xml", {{&Records::NoColumns<TreeStyle>, {}}}},
+      {"office", "include-no-columns", "tab csv", {{&Records::NoColumns<IncludeSubdirectories>, {}}}},
+      {"office", "view-no-columns", "txt xml", {{&Records::NoColumns<DirectoryView>, {}}}},
 
       {"office",
        "cancelled",
        "txt html xml",
-       {{NamesAndEmptyDirectories<IncludeSubdirectories, 1>, L"C:\\Data\\Alpha"}}},
-      {"office", "tree-cancelled", "txt html xml", {{Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}}},
+       {{&Records::NamesAndEmptyDirectories<IncludeSubdirectories, 1>, L"C:\\Data\\Alpha"}}},
+      {"office", "tree-cancelled", "txt html xml", {{&Records::Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}}},
       // Breaks off in the middle of a line, so the expectation has no last line end.
-      {"office", "tree-depth-1-cancelled", "xml", {{Names<TreeStyle, 1>, L"C:\\Data\\Alpha"}}},
+      {"office", "tree-depth-1-cancelled", "xml", {{&Records::Names<TreeStyle, 1>, L"C:\\Data\\Alpha"}}},
       {"office",
        "tree-after-cancelled",
        "txt html xml",
-       {{Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}, {Names<TreeStyle, 0>, {}}}},
+       {{&Records::Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}, {&Records::Names<TreeStyle, 0>, {}}}},
       {"office",
        "view-after-cancelled",
        "xml",
-       {{Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}, {Names<DirectoryView, 0>, {}}}},
+       {{&Records::Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}, {&Records::Names<DirectoryView, 0>, {}}}},
 
-      {"odd-names", "all-columns", kAll, {{AllColumns<IncludeSubdirectories>, {}}}},
-      {"odd-names", "tree-all-columns", "html xml", {{AllColumns<TreeStyle>, {}}}},
+      {"odd-names", "all-columns", kAll, {{&Records::AllColumns<IncludeSubdirectories>, {}}}},
+      {"odd-names", "tree-all-columns", "html xml", {{&Records::AllColumns<TreeStyle>, {}}}},
 
-      {"drive-root", "include-subdirectories", "txt tab csv html", {{NamesAndLabel<IncludeSubdirectories>, {}}}},
-      {"drive-root", "full-path-list", "txt html xml", {{NamesAndLabel<FullPathList>, {}}}},
-      {"drive-root", "directory-view", "txt xml", {{NamesAndLabel<DirectoryView>, {}}}},
+      {"drive-root",
+       "include-subdirectories",
+       "txt tab csv html",
+       {{&Records::NamesAndLabel<IncludeSubdirectories>, {}}}},
+      {"drive-root", "full-path-list", "txt html xml", {{&Records::NamesAndLabel<FullPathList>, {}}}},
+      {"drive-root", "directory-view", "txt xml", {{&Records::NamesAndLabel<DirectoryView>, {}}}},
 
-      {"nothing", "include-subdirectories", "txt html xml", {{Names<IncludeSubdirectories, 0>, {}}}},
-      {"nothing", "tree-style", "txt html xml", {{Names<TreeStyle, 0>, {}}}},
-      {"nothing", "directory-view", "xml", {{Names<DirectoryView, 0>, {}}}},
-      {"nothing", "full-path-list", "txt", {{Names<FullPathList, 0>, {}}}},
+      {"nothing", "include-subdirectories", "txt html xml", {{&Records::Names<IncludeSubdirectories, 0>, {}}}},
+      {"nothing", "tree-style", "txt html xml", {{&Records::Names<TreeStyle, 0>, {}}}},
+      {"nothing", "directory-view", "xml", {{&Records::Names<DirectoryView, 0>, {}}}},
+      {"nothing", "full-path-list", "txt", {{&Records::Names<FullPathList, 0>, {}}}},
   };
   return runs;
 }
@@ -231,35 +240,42 @@ OutputKind KindOf(const std::string& ending) {
                             : OutputKind::Xml;
 }
 
-/// A Find window's rows are there already; every other style is a whole run.
-void RunStep(const Step& step, OutputDriver& driver) {
-  step.Configure();
-  if (Format.ListingStyle == ListingStyle::FindWindow) {
-    mdlVars::DatePattern = L"yyyy/mm/dd";
-    driver.BeginListing();
-    driver.FindList(mdlVars::Tree.FoundList);
-    driver.EndListing();
-    return;
+/// The rows of a Find window are prepared; those of a path list are read.
+class Rows final : public FoundRowSource {
+ public:
+  explicit Rows(const FoundRows& findWindow) : findWindow_(findWindow) {}
+  FoundRows PrintFromFind(ListingRun&) override { return findWindow_; }
+  FoundRows PrintFromFileList(ListingRun& run) override {
+    FoundRows rows = FindCapture().PrintFromFileList(run);
+    rows.Title = findWindow_.Title;
+    return rows;
   }
-  CancelAt progress(step.CancelledAt);
-  RunListing(driver, progress);
-}
+
+ private:
+  const FoundRows& findWindow_;
+};
 
 class Listings : public testing::TestWithParam<Case> {};
 
 TEST_P(Listings, MatchTheExpectationByteForByte) {
-  const ListedRun& run = *GetParam().Listed;
-  ASSERT_TRUE(SetStartPath(MakeTree(run.Tree)));
-  mdlVars::Texts = TestTexts();
-  mdlVars::OutputKind = KindOf(GetParam().Ending);
-  mdlVars::OutputFile = kOutput;
-  OutputDriver driver(mdlVars::Run());
+  const ListedRun& listed = *GetParam().Listed;
+  Records records;
+  records.Texts = TestTexts();
+  records.OutputFile = kOutput;
+  ASSERT_TRUE(SetStartPath(MakeTree(listed.Tree), records.Start, records.Format));
+  OutputDriver driver;
+  driver.Choose(KindOf(GetParam().Ending));
 
-  for (const Step& step : run.Steps) {
-    RunStep(step, driver);
+  for (const Step& step : listed.Steps) {
+    (records.*step.Configure)();
+    CancelAt progress(step.CancelledAt);
+    ListingRun run = records.MakeRun(progress);
+    Rows rows(records.FindWindow);
+    RunListing(run, driver, rows);
   }
 
-  const std::string expected = AsListed(ReadTestFile(std::string(run.Tree) + "/" + run.Name + "." + GetParam().Ending));
+  const std::string expected =
+      AsListed(ReadTestFile(std::string(listed.Tree) + "/" + listed.Name + "." + GetParam().Ending));
   EXPECT_EQ(fakes::Fake().Content(kOutput), expected);
   EXPECT_EQ(fakes::Fake().OpenOutputFiles, 0);
 }

@@ -2,6 +2,7 @@
 #include "fakes/RecordingSurface.h"
 #include "output/mdlPrint.h"
 #include "scan/ListingTest.h"
+#include "shell/mdlFind.h"
 
 namespace folivant {
 namespace {
@@ -10,11 +11,10 @@ class CancelledPages : public ListingTest {
  protected:
   CancelledPages() {
     printer.Reset();
-    mdlVars::OutputKind = OutputKind::Printer;
-    mdlVars::General.FontName = L"Courier New";
-    mdlVars::General.FontSize = 10;
-    mdlVars::General.Font80HF = true;
-    mdlVars::Format.Files = {true, false, false, false, false};
+    General.FontName = L"Courier New";
+    General.FontSize = 10;
+    General.Font80HF = true;
+    Format.Files = {true, false, false, false, false};
     // Some hundred lines in each style, and directories that come after them.
     fakes::FakeDir data = Tree().Dir(L"C:\\Data");
     for (int i = 0; i < kMany; ++i) {
@@ -29,17 +29,18 @@ class CancelledPages : public ListingTest {
     }
     Tree().Dir(L"C:\\Lists").FileWith(L"paths.txt", paths);
   }
-  ~CancelledPages() override { mdlVars::OutputKind = OutputKind::Text; }
 
-  void Run(ListingStyle style) {
-    Run(style, style == ListingStyle::PathListFile ? L"C:\\Lists\\paths.txt" : L"C:\\Data");
+  void Print(ListingStyle style) {
+    Print(style, style == ListingStyle::PathListFile ? L"C:\\Lists\\paths.txt" : L"C:\\Data");
   }
-  void Run(ListingStyle style, const std::wstring& path) {
+  void Print(ListingStyle style, const std::wstring& path) {
     printer.Reset();
-    mdlVars::Format.ListingStyle = style;
-    mdlVars::Tree.StartPath = mdlVars::Tree.StartPathOnDisk = path;
-    OutputDriver driver(mdlVars::Run());
-    RunListing(driver, Watcher);
+    Format.ListingStyle = style;
+    Start = {path, path};
+    OutputDriver driver;
+    driver.Choose(OutputKind::Printer);
+    FindCapture fileLists;
+    RunListing(Run, driver, fileLists);
   }
 
   static constexpr int kMany = 300;
@@ -54,9 +55,9 @@ TEST_F(CancelledPages, TheRunEndsAtThePageOnWhichTheUserCancels) {
     for (const ListingStyle style : kStyles) {
       SCOPED_TRACE(static_cast<int>(style));
       Watcher.CancelNow = false;
-      Run(style);
+      Print(style);
       EXPECT_EQ(printer.Pages, page);
-      EXPECT_TRUE(mdlVars::Tree.Cancelled);
+      EXPECT_TRUE(Run.Cancelled);
       EXPECT_EQ(printer.Ended, 0) << "nothing is printed";
       EXPECT_EQ(printer.Aborted, 1);
     }
@@ -74,7 +75,7 @@ TEST_F(CancelledPages, NothingIsDrawnOnceTheRunIsCancelled) {
   for (const ListingStyle style : kStyles) {
     SCOPED_TRACE(static_cast<int>(style));
     Watcher.CancelNow = false;
-    Run(style);
+    Print(style);
     EXPECT_EQ(printer.Drawn.size(), drawn);
   }
 }
@@ -82,10 +83,10 @@ TEST_F(CancelledPages, NothingIsDrawnOnceTheRunIsCancelled) {
 TEST_F(CancelledPages, WhoeverDoesNotCancelGetsEveryPage) {
   for (const ListingStyle style : kStyles) {
     SCOPED_TRACE(static_cast<int>(style));
-    Run(style);
+    Print(style);
     EXPECT_GT(printer.Pages, 3);
     EXPECT_EQ(printer.Ended, 1);
-    EXPECT_FALSE(mdlVars::Tree.Cancelled);
+    EXPECT_FALSE(Run.Cancelled);
   }
 }
 
@@ -100,7 +101,7 @@ TEST_F(CancelledPages, ARunThatIsCompleteCannotBeCancelledAnyMore) {
         eventsAfterTheEnd = eventsAfterTheEnd || drawn.Text.find(L", 0 b") != drawn.Text.npos;  // the summary
       }
     };
-    Run(kDeep, L"D:\\Data");
+    Print(kDeep, L"D:\\Data");
     EXPECT_EQ(printer.Ended, 1);
     EXPECT_FALSE(eventsAfterTheEnd) << files << " files";
   }

@@ -21,8 +21,9 @@ class Headers : public WriterFixture {
 
 TEST_F(Headers, ReplaceEveryPlaceholder) {
   Filter.NameOn = true;
-  PageNumber = 7;
-  EXPECT_EQ(Expanded(L"%p|%l|%f|%g|%d|%t|%n"), L"C:\\Data|Work disk|*.txt|*.txt, >5 kb|2026/11/16|14:05|7");
+  General.Header = L"%p|%l|%f|%g|%d|%t|%n";
+  EXPECT_EQ(ExpandHeaderFooter(HeaderFooter::Header, Run, 7),
+            L"C:\\Data|Work disk|*.txt|*.txt, >5 kb|2026/11/16|14:05|7");
 }
 
 TEST_F(Headers, ReplaceEveryOccurrence) {
@@ -42,7 +43,7 @@ TEST_F(Headers, AreCaseSensitiveAndTwoCharactersLong) {
 }
 
 TEST_F(Headers, SearchAReplacementForLaterPlaceholders) {
-  Tree.StartPath = L"C:\\%n and %p";
+  Start.Shown = L"C:\\%n and %p";
   EXPECT_EQ(Expanded(L"%p"), L"C:\\0 and %p");
 }
 
@@ -69,6 +70,7 @@ TEST_F(Headers, ShowHoursAndMinutesWithTwoDigits) {
 TEST_F(Headers, AndFootersAreTwoTexts) {
   General.Footer = L"foot %n";
   EXPECT_EQ(ExpandHeaderFooter(HeaderFooter::Footer, Run), L"foot 0");
+  EXPECT_EQ(ExpandHeaderFooter(HeaderFooter::Footer, Run, 12), L"foot 12");
 }
 
 TEST(DriveLabel, IsReCasedLikeAName) {
@@ -106,7 +108,7 @@ TEST(FreeSpaceLine, AsksNetworkPathsWithABackslashAtTheirEnd) {
 class Closings : public WriterFixture {};
 
 TEST_F(Closings, DependOnTheStyle) {
-  Tree.Totals = {Currency::FromWhole(5), 1, 1};
+  Run.Totals = {Currency::FromWhole(5), 1, 1};
   const std::wstring totals = L"1 file, 1 directory, 5 b ";
   const std::wstring space = L"4,768 Mb free of 18 Gb.";
   const std::pair<ListingStyle, std::vector<std::wstring>> rows[] = {
@@ -124,7 +126,7 @@ TEST_F(Closings, DependOnTheStyle) {
 TEST_F(Closings, AskForTheSpaceOfTheDirectoryOnDisk) {
   fakes::Fake().FreeSpace.clear();
   fakes::Fake().FreeSpace[L"D:\\"] = {1'024, 2'048};
-  Tree.StartPathOnDisk = L"D:\\data";
+  Start.OnDisk = L"D:\\data";
   Style(ListingStyle::NoSubdirectories);
   EXPECT_EQ(ClosingSentences(Run), std::vector<std::wstring>{L"1,024 b  free of 2,048 b ."});
 }

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <numeric>
 #include <string>
 #include <utility>
@@ -13,6 +14,7 @@
 
 #include "fakes/FakePlatform.h"
 #include "fakes/RecordingSurface.h"
+#include "fakes/RunRecords.h"
 #include "output/mdlPrintPrinter.h"
 
 namespace folivant {
@@ -27,23 +29,23 @@ inline constexpr double kFirstLine = kCaptions + kLine;
 inline constexpr double kFirstHeading = kFirstLine + kLine;
 inline constexpr double kFirstEntry = kFirstHeading + 4 * kLine;
 
-class PageWriter : public ::testing::Test {
+class PageWriter : public ::testing::Test, protected fakes::RunRecords {
  protected:
   PageWriter() {
     printer.Reset();
     printer.Area = {12000, 16000, 0, 0, 0, 0};
     SetUpTexts();
-    general.Inches = true;
-    general.MarginLeft = general.MarginRight = general.MarginTop = general.MarginBottom = 1;
-    general.Portrait = true;
-    general.FontName = L"Courier New";
-    general.FontSize = 10;
-    general.Font80HF = true;
-    general.Header = L"H %n";
-    general.Footer = L"F %n";
-    format.Files = {true, true, true, true, true};
-    format.Directories = {true, true, true, true};
-    tree.StartPath = tree.StartPathOnDisk = L"C:\\Data";
+    General.Inches = true;
+    General.MarginLeft = General.MarginRight = General.MarginTop = General.MarginBottom = 1;
+    General.Portrait = true;
+    General.FontName = L"Courier New";
+    General.FontSize = 10;
+    General.Font80HF = true;
+    General.Header = L"H %n";
+    General.Footer = L"F %n";
+    Format.Files = {true, true, true, true, true};
+    Format.Directories = {true, true, true, true};
+    Printer = {L"Laser", 3, 2, -4, 4};
     fakes::Fake().FreeSpace[L"C:\\"] = {5'000'000, 20'000'000};
   }
 
@@ -71,24 +73,28 @@ class PageWriter : public ::testing::Test {
                                                     {Text::FreeOf, L"free of"},
                                                     {Text::NoLabel, L"no label"}};
     for (const auto& [number, text] : rows) {
-      texts.Set(static_cast<std::size_t>(number), text);
+      Texts.Set(static_cast<std::size_t>(number), text);
     }
   }
 
-  PrinterWriter& Begin(ListingStyle style) {
-    format.ListingStyle = style;
-    pageNumber = 0;
-    writer.BeginListing();
-    return writer;
+  ListingWriter& Begin(ListingStyle style) { return Begin(style, Run); }
+  ListingWriter& Begin(ListingStyle style, ListingRun& run) {
+    Format.ListingStyle = style;
+    writer->BeginListing(run);
+    if (style == ListingStyle::DirectoryView) {
+      writer->BeginDirectoryView();
+    }
+    return *writer;
   }
 
+  /// "Entry.txt", "short.txt", "1,024 b ", "2001/02/03 04:05" and " a   " on a page, for the name "entry.txt".
   static FileRecord Entry(std::wstring_view name, std::int32_t level = 0) {
     FileRecord entry;
     entry.Name = name;
-    entry.DosName = L"short.txt";
-    entry.SizeText = L"1,024 b ";
-    entry.DateText = L"2001/02/03 04:05";
-    entry.AttrText = L" a   ";
+    entry.AlternateName = L"SHORT.TXT";
+    entry.Size = 1'024;
+    entry.ShownWrite = fakes::FileTime({2001, 2, 3, 4, 5, 0});
+    entry.Attributes = platform::kArchive;
     entry.Level = level;
     return entry;
   }
@@ -98,7 +104,12 @@ class PageWriter : public ::testing::Test {
     const std::vector<FileRecord> records(count, Entry(name));
     std::vector<std::uint32_t> order(count);
     std::iota(order.begin(), order.end(), 0U);
-    writer.ListDirectory({path, 0, records, order, L"the summary"});
+    const DirectoryListing listing{path, 0, records, order, L"the summary"};
+    if (Format.ListingStyle == ListingStyle::FullPathList) {
+      writer->ListPaths(listing);
+    } else {
+      writer->ListDirectory(listing);
+    }
   }
 
   static DirNode Node(std::wstring_view name, std::int32_t level) {
@@ -112,19 +123,9 @@ class PageWriter : public ::testing::Test {
     return node;
   }
 
-  fakes::RecordingPrinter& printer = fakes::Printer();
-  Messages texts;
-  GeneralSettings general;
-  PrinterSettings settings{L"Laser", 3, 2, -4, 4};
-  FilterSettings filter;
-  ListingFormat format;
-  ScanTree tree;
-  OutputKind kind = OutputKind::Printer;
-  std::wstring outputFile;
-  std::wstring datePattern = L"yyyy/mm/dd";
-  std::int16_t pageNumber = 0;
-  ListingRun run{texts, general, settings, filter, format, tree, kind, outputFile, datePattern, pageNumber};
-  PrinterWriter writer{run};
+  fakes::RecordingPrinter& printer = fakes::Printer();  ///< where a job arrives; Printer are its settings
+  ListingRun Run = MakeRun();
+  std::unique_ptr<ListingWriter> writer = MakePrinterWriter();
 };
 
 }  // namespace folivant

@@ -18,7 +18,7 @@ class Room : public PageWriter {
                                                     {Text::MarginBottom, L"&Bottom:"},
                                                     {Text::UnitInches, L"in"}};
     for (const auto& [number, text] : rows) {
-      texts.Set(static_cast<std::size_t>(number), text);
+      Texts.Set(static_cast<std::size_t>(number), text);
     }
   }
 
@@ -35,7 +35,7 @@ class Room : public PageWriter {
       outcome = (error.Action() == FailedAction::UseMargins ? L"margins: " : L"font: ") + error.Object();
       EXPECT_TRUE(printer.Jobs.empty()) << "nothing reaches the queue";
     }
-    writer.AbortListing();
+    writer->AbortListing();
     return outcome;
   }
   bool Prints(ListingStyle style) { return Outcome(style) == kPrinted; }
@@ -47,12 +47,12 @@ constexpr ListingStyle kStyles[] = {ListingStyle::NoSubdirectories, ListingStyle
                                     ListingStyle::PathListFile};
 
 TEST_F(Room, MillimetresReadAsInchesAreRefusedInEveryStyle) {
-  general.MarginLeft = general.MarginRight = general.MarginBottom = 20;
-  general.MarginTop = 15;
+  General.MarginLeft = General.MarginRight = General.MarginBottom = 20;
+  General.MarginTop = 15;
   for (const ListingStyle style : kStyles) {
     EXPECT_EQ(Outcome(style), L"margins: Left: 20; Top: 15; Right: 20; Bottom: 20 in");
   }
-  general.MarginLeft = general.MarginRight = general.MarginBottom = general.MarginTop = 1;
+  General.MarginLeft = General.MarginRight = General.MarginBottom = General.MarginTop = 1;
   for (const ListingStyle style : kStyles) {
     EXPECT_EQ(Outcome(style), kPrinted);
   }
@@ -85,13 +85,13 @@ TEST_F(Room, OnTheLowestSheetTheFirstLinesStandBetweenTheMargins) {
   Begin(ListingStyle::IncludeSubdirectories);
   ListDirectory(L"C:\\Data", 1);
   // The heading begins a page, because it keeps ten lines free.
-  EXPECT_EQ(printer.Find(2, L"entry.txt").Y, 5036 - 1440 - 220);
+  EXPECT_EQ(printer.Find(2, L"Entry.txt").Y, 5036 - 1440 - 220);
 
   printer.Area.Height = 4596;
   Begin(ListingStyle::FullPathList);
   ListDirectory(L"C:\\", 3, L"a");
   EXPECT_EQ(printer.Pages, 3) << "each page holds one line and none is empty";
-  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\a");
+  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\A");
 }
 
 struct NarrowestSheet {
@@ -114,7 +114,7 @@ TEST_F(Room, ALineHoldsALetterOfTheNameAndDots) {
         {ListingStyle::DirectoryView, kAll, 2880 + 3960 + 480},
         {ListingStyle::FindWindow, kAll, 2880 + 3 * 480 + 3240 + 1440},
         {ListingStyle::PathListFile, kAll, 9000}}) {
-    format.Files = row.Files;
+    Format.Files = row.Files;
     printer.Area.Width = row.Width;
     EXPECT_TRUE(Prints(row.Style)) << row.Width;
     printer.Area.Width = row.Width - 1;
@@ -133,36 +133,36 @@ TEST_F(Room, UnprintableBordersCountAsPaper) {
 TEST_F(Room, AFontSizeThatIsNoneOrBeyondTheSheetIsRefused) {
   // 16,000 twips are 800 points.
   for (const int size : {0, -1, -32768, 801, 32767}) {
-    general.FontSize = static_cast<std::int16_t>(size);
+    General.FontSize = static_cast<std::int16_t>(size);
     EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, " + std::to_wstring(size));
   }
-  general.FontSize = 1;
+  General.FontSize = 1;
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
 }
 
 TEST_F(Room, AFontThatFitsNoPageIsNamedAndOneThatMarginsLeaveNoRoomForIsNot) {
   // In 80 points header, blank lines, captions and the four free lines take 1,408 + 7 x 1,760 = 13,728: less than the
   // sheet, more than the margins leave. In 100 they take 17,160.
-  general.FontSize = 80;
+  General.FontSize = 80;
   EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"margins: Left: 1; Top: 1; Right: 1; Bottom: 1 in");
-  general.FontSize = 100;
+  General.FontSize = 100;
   EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
   // Too wide, but not too high: five columns of 24 points take 13,824 of 12,000.
-  general.FontSize = 24;
+  General.FontSize = 24;
   EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
 }
 
 TEST_F(Room, TheHeadersOwnFontIsNamedWhenItIsToBlame) {
-  general.FontNameHF = L"Arial";
-  general.FontSizeHF = 0;
+  General.FontNameHF = L"Arial";
+  General.FontSizeHF = 0;
   EXPECT_TRUE(Prints(ListingStyle::FullPathList)) << "it is not in use";
-  general.Font80HF = false;
+  General.Font80HF = false;
   for (const std::int32_t size : {0, -5, 801, std::numeric_limits<std::int32_t>::max(), 700}) {
-    general.FontSizeHF = size;
+    General.FontSizeHF = size;
     EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Arial, " + std::to_wstring(size));
   }
-  general.FontSizeHF = 14;
+  General.FontSizeHF = 14;
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
 }
 
@@ -185,19 +185,19 @@ TEST_F(Room, MarginsBelowZeroAreKeptWhileALineBeginsOnTheSheet) {
                                 {1, 1, kNoNumber, 1, false},
                                 {1, 1, 1, kNoNumber, false},
                                 {kInfinity, 1, -kInfinity, 1, false}}) {
-    general.MarginLeft = row.Left;
-    general.MarginTop = row.Top;
-    general.MarginRight = row.Right;
-    general.MarginBottom = row.Bottom;
+    General.MarginLeft = row.Left;
+    General.MarginTop = row.Top;
+    General.MarginRight = row.Right;
+    General.MarginBottom = row.Bottom;
     EXPECT_EQ(Prints(ListingStyle::FullPathList), row.Prints)
         << row.Left << " " << row.Top << " " << row.Right << " " << row.Bottom;
   }
 }
 
 TEST_F(Room, TheSheetIsThatOfTheOrientation) {
-  general.MarginTop = 8;  // 11,520 twips of the 16,000, but of 12,000 across they leave 480
+  General.MarginTop = 8;  // 11,520 twips of the 16,000, but of 12,000 across they leave 480
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
-  general.Portrait = false;
+  General.Portrait = false;
   EXPECT_FALSE(Prints(ListingStyle::FullPathList));
 }
 

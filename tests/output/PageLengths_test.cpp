@@ -45,9 +45,9 @@ class EqualLengths : public PageWriter {
 
   /// A sheet that holds exactly so many characters and lines between its margins.
   void Use(const Paper& paper) {
-    general.Inches = paper.Inches;
-    general.MarginLeft = general.MarginRight = general.MarginTop = general.MarginBottom = paper.Margin;
-    general.FontSize = paper.Points;
+    General.Inches = paper.Inches;
+    General.MarginLeft = General.MarginRight = General.MarginTop = General.MarginBottom = paper.Margin;
+    General.FontSize = paper.Points;
     printer.Resolution = paper.Resolution;
     const double line = printer.DotsOfLine(paper.Points);
     const double header = printer.DotsOfLine(paper.Points * 0.8);
@@ -58,10 +58,10 @@ class EqualLengths : public PageWriter {
   }
 
   /// The texts of a page in the order in which they were drawn, joined by "|", without footer and header.
-  std::wstring Texts(int page) const {
+  std::wstring DrawnOn(int page) const {
     std::wstring joined;
     for (const fakes::DrawnText& drawn : printer.Drawn) {
-      if (drawn.Page == page && drawn.Font->Points == general.FontSize) {
+      if (drawn.Page == page && drawn.Font->Points == General.FontSize) {
         (joined += joined.empty() ? L"" : L"|") += drawn.Text;
       }
     }
@@ -75,9 +75,9 @@ class EqualLengths : public PageWriter {
     for (const Paper& paper : Papers()) {
       Use(paper);
       draw();
-      const bool same = Texts(printer.Pages) == expected;
+      const bool same = DrawnOn(printer.Pages) == expected;
       if (!same && differences++ == 0) {
-        ADD_FAILURE() << testing::PrintToString(Texts(printer.Pages)) << " in " << paper.Points
+        ADD_FAILURE() << testing::PrintToString(DrawnOn(printer.Pages)) << " in " << paper.Points
                       << " points with margins of " << paper.Margin << (paper.Inches ? " inches at " : " mm at ")
                       << paper.Resolution << " dots";
       }
@@ -92,32 +92,32 @@ TEST_F(EqualLengths, ThereAreManyPapers) {
 
 TEST_F(EqualLengths, ACaptionThatFillsItsColumnStaysWhole) {
   // A number's column has nine characters and a size's ten, of which one is the blank before the caption.
-  texts.Set(static_cast<std::size_t>(Text::FilesCaption), L"Number 8");
-  texts.Set(static_cast<std::size_t>(Text::DirectorySizeCaption), L"Size of 9");
-  texts.Set(static_cast<std::size_t>(Text::TotalFilesCaption), L"T. files");
-  texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Sum of 10.");
+  Texts.Set(static_cast<std::size_t>(Text::FilesCaption), L"Number 8");
+  Texts.Set(static_cast<std::size_t>(Text::DirectorySizeCaption), L"Size of 9");
+  Texts.Set(static_cast<std::size_t>(Text::TotalFilesCaption), L"T. files");
+  Texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Sum of 10.");
   EXPECT_EQ(Differences(L"Where|Number 8|Size of 9|T. files|Sum of...", [this] { Begin(ListingStyle::DirectoryView); }),
             0);
 }
 
 TEST_F(EqualLengths, ANameThatFillsItsColumnStaysWhole) {
   // Two blanks follow the name: 68 characters.
-  format.Files = {true, false, false, false, false};
-  const std::wstring fits(68, L'n');
-  EXPECT_EQ(Differences(L"Name|" + fits + L"|" + std::wstring(65, L'm') + L"...",
+  Format.Files = {true, false, false, false, false};
+  const std::wstring fits = L"N" + std::wstring(67, L'n');
+  EXPECT_EQ(Differences(L"Name|" + fits + L"|M" + std::wstring(64, L'm') + L"...",
                         [this, &fits] {
                           Begin(ListingStyle::TreeStyle);
-                          writer.TreeEntry(Entry(fits));
-                          writer.TreeEntry(Entry(std::wstring(69, L'm')));
+                          writer->TreeEntry(Entry(fits));
+                          writer->TreeEntry(Entry(std::wstring(69, L'm')));
                         }),
             0);
 }
 
 TEST_F(EqualLengths, APathThatFillsItsLineIsShortened) {
   // A path has to be narrower than its line: 69 characters.
-  const std::wstring fits = L"C:\\" + std::wstring(59, L'd') + L"\\f.text";
+  const std::wstring fits = L"C:\\" + std::wstring(59, L'd') + L"\\F.text";
   ASSERT_EQ(fits.size(), 69U);
-  EXPECT_EQ(Differences(fits + L"|C:\\" + std::wstring(56, L'e') + L"...\\f.text",
+  EXPECT_EQ(Differences(fits + L"|C:\\" + std::wstring(56, L'e') + L"...\\F.text",
                         [this] {
                           Begin(ListingStyle::FullPathList);
                           ListDirectory(L"C:\\" + std::wstring(59, L'd'), 1, L"f.text");
@@ -127,7 +127,7 @@ TEST_F(EqualLengths, APathThatFillsItsLineIsShortened) {
 }
 
 TEST_F(EqualLengths, ALineThatBeginsAtTheLimitStaysOnThePage) {
-  EXPECT_EQ(Differences(L"C:\\b",
+  EXPECT_EQ(Differences(L"C:\\B",
                         [this] {
                           Begin(ListingStyle::FullPathList);
                           ListDirectory(L"C:\\", static_cast<std::size_t>(kLines), L"a");

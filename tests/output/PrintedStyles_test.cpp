@@ -27,8 +27,8 @@ TEST_F(PageWriter, ADirectoryHasAHeadingInBoldCaptionsEntriesAndASummary) {
   EXPECT_EQ(heading.Font->Points, 10);
   EXPECT_EQ(printer.Line(1, kFirstHeading + 2 * kLine), L"Name|DosName|Size|Date|Attr");
   EXPECT_EQ(printer.Line(1, kFirstHeading + 3 * kLine), L"");
-  EXPECT_EQ(printer.Line(1, kFirstEntry), L"entry.txt|short.txt|1,024 b |2001/02/03 04:05| a   ");
-  EXPECT_EQ(printer.Line(1, kFirstEntry + kLine), L"entry.txt|short.txt|1,024 b |2001/02/03 04:05| a   ");
+  EXPECT_EQ(printer.Line(1, kFirstEntry), L"Entry.txt|short.txt|1,024 b |2001/02/03 04:05| a   ");
+  EXPECT_EQ(printer.Line(1, kFirstEntry + kLine), L"Entry.txt|short.txt|1,024 b |2001/02/03 04:05| a   ");
   EXPECT_EQ(printer.Line(1, kFirstEntry + 2 * kLine), L"");
   const fakes::DrawnText& summary = printer.Find(1, L"the summary");
   EXPECT_EQ(summary.X, kOrigin + 20);
@@ -39,7 +39,7 @@ TEST_F(PageWriter, ADirectoryHasAHeadingInBoldCaptionsEntriesAndASummary) {
 TEST_F(PageWriter, SizesEndAtTheSizeColumn) {
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(L"C:\\Data", 1);
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"entry.txt");
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"Entry.txt");
   EXPECT_EQ(printer.At(1, kOrigin + 3960, kFirstEntry), L"short.txt");
   // "1,024 b " is 6 x 120 + 2 x 60 = 840 wide and ends at 6,420.
   EXPECT_EQ(printer.At(1, kOrigin + 5580, kFirstEntry), L"1,024 b ");
@@ -48,7 +48,7 @@ TEST_F(PageWriter, SizesEndAtTheSizeColumn) {
 }
 
 TEST_F(PageWriter, ColumnsThatAreOffAreNotDrawn) {
-  format.Files = {false, false, true, false, false};
+  Format.Files = {false, false, true, false, false};
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(L"C:\\Data", 1);
   EXPECT_EQ(printer.Line(1, kCaptions), L"Size");
@@ -61,7 +61,7 @@ TEST_F(PageWriter, ANameTooWideForItsColumnLosesItsMiddle) {
   // The column is 3,840 wide, 32 characters: 25 + "..." + ".txt".
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(L"C:\\Data", 1, L"averyveryveryverylongfilenamewithtext.txt");
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"averyveryveryverylongfile....txt");
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"Averyveryveryverylongfile....txt");
 }
 
 TEST_F(PageWriter, NamesAreMeasuredAndNotCounted) {
@@ -69,11 +69,11 @@ TEST_F(PageWriter, NamesAreMeasuredAndNotCounted) {
   // groups of 300 with their blank, 30 characters.
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(L"C:\\Data", 1, L"aa aa aa aa aa aa aa aa aa aa aa aa aa aa.txt");
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"aa aa aa aa aa aa aa aa aa aa ....txt");
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"Aa aa aa aa aa aa aa aa aa aa ....txt");
 }
 
 TEST_F(PageWriter, ANameThatJustFitsStaysWhole) {
-  const std::wstring name(32, L'n');
+  const std::wstring name = L"N" + std::wstring(31, L'n');
   Begin(ListingStyle::NoSubdirectories);
   ListDirectory(L"C:\\Data", 1, name);
   EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), name);
@@ -115,7 +115,7 @@ TEST_F(PageWriter, AHeadingKeepsTheEndOfANameThatIsTooWideForTheLine) {
 
 TEST_F(PageWriter, ATreesHeadingIsShortenedLikewise) {
   Begin(ListingStyle::TreeStyle);
-  writer.BeginTree(L"C:\\" + std::wstring(51, L'd') + L"\\leaf12");
+  writer->BeginTree(L"C:\\" + std::wstring(51, L'd') + L"\\leaf12");
   EXPECT_NO_THROW(printer.Find(1, L"Directory C:\\" + std::wstring(47, L'd') + L"...\\leaf12"));
 }
 
@@ -123,28 +123,28 @@ TEST_F(PageWriter, ATreesHeadingIsShortenedLikewise) {
 
 TEST_F(PageWriter, TreeEntriesAreIndentedUnderOneHeading) {
   Begin(ListingStyle::TreeStyle);
-  writer.BeginTree(L"C:\\Data");
-  writer.TreeEntry(Entry(L"sub"));
-  writer.TreeEntry(Entry(L"deep.txt", 2));
+  writer->BeginTree(L"C:\\Data");
+  writer->TreeEntry(Entry(L"sub"));
+  writer->TreeEntry(Entry(L"deep.txt", 2));
   EXPECT_EQ(printer.Find(1, L"Directory C:\\Data").Y, kFirstHeading);
   EXPECT_EQ(printer.Line(1, kFirstHeading + 2 * kLine), L"Name|DosName|Size|Date|Attr");
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"sub");
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry + kLine), L"      deep.txt");
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"Sub");
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry + kLine), L"      Deep.txt");
 }
 
 TEST_F(PageWriter, ATreeEntrysIndentCountsForItsWidth) {
   // Six blanks are 360 wide, so of 32 characters 29 fit: 22 + "..." + ".txt".
   Begin(ListingStyle::TreeStyle);
-  writer.TreeEntry(Entry(L"averyveryveryverylongfilename.txt", 2));
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstLine), L"      averyveryveryverylongf....txt");
+  writer->TreeEntry(Entry(L"averyveryveryverylongfilename.txt", 2));
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstLine), L"      Averyveryveryverylongf....txt");
 }
 
 TEST_F(PageWriter, OnlyTheTreeStyleIndents) {
   Begin(ListingStyle::IncludeSubdirectories);
   const std::vector<FileRecord> records = {Entry(L"deep.txt", 2)};
   const std::vector<std::uint32_t> order = {0};
-  writer.ListDirectory({L"C:\\Data\\a\\b", 2, records, order, L""});
-  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"deep.txt");
+  writer->ListDirectory({L"C:\\Data\\a\\b", 2, records, order, L""});
+  EXPECT_EQ(printer.At(1, kOrigin, kFirstEntry), L"Deep.txt");
 }
 
 // --- Full-path list ---
@@ -152,10 +152,10 @@ TEST_F(PageWriter, OnlyTheTreeStyleIndents) {
 TEST_F(PageWriter, AFullPathListHasOneLinePerEntryAndNoCaptions) {
   Begin(ListingStyle::FullPathList);
   ListDirectory(L"C:\\Data", 2, L"a.txt");
-  writer.EndListing();
+  writer->EndListing();
   EXPECT_EQ(printer.Line(1, kCaptions), L"");
-  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\Data\\a.txt");
-  EXPECT_EQ(printer.Line(1, kFirstLine + kLine), L"C:\\Data\\a.txt");
+  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\Data\\A.txt");
+  EXPECT_EQ(printer.Line(1, kFirstLine + kLine), L"C:\\Data\\A.txt");
   EXPECT_EQ(printer.Drawn.size(), 4U) << "footer, header and the two lines: no heading, summary or totals";
 }
 
@@ -164,8 +164,8 @@ TEST_F(PageWriter, AFullPathIsShortenedToTheWholeWidth) {
   Begin(ListingStyle::FullPathList);
   ListDirectory(L"C:\\" + std::wstring(65, L'd'), 1, L"a.text");  // 75 characters
   ListDirectory(L"C:\\" + std::wstring(66, L'd'), 1, L"a.text");  // 76
-  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\" + std::wstring(65, L'd') + L"\\a.text");
-  EXPECT_EQ(printer.Line(1, kFirstLine + kLine), L"C:\\" + std::wstring(62, L'd') + L"...\\a.text");
+  EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\" + std::wstring(65, L'd') + L"\\A.text");
+  EXPECT_EQ(printer.Line(1, kFirstLine + kLine), L"C:\\" + std::wstring(62, L'd') + L"...\\A.text");
 }
 
 TEST_F(PageWriter, AFullPathListBreaksThePageBeforeALine) {
@@ -174,7 +174,7 @@ TEST_F(PageWriter, AFullPathListBreaksThePageBeforeALine) {
   ListDirectory(L"C:\\", 52, L"a");
   EXPECT_EQ(printer.Pages, 1) << "no page is begun for a line that does not come";
   ListDirectory(L"C:\\", 1, L"b");
-  EXPECT_EQ(printer.Line(2, kFirstLine), L"C:\\b");
+  EXPECT_EQ(printer.Line(2, kFirstLine), L"C:\\B");
 }
 
 // --- Directory view ---
@@ -182,7 +182,7 @@ TEST_F(PageWriter, AFullPathListBreaksThePageBeforeALine) {
 TEST_F(PageWriter, DirectoryViewNumbersEndAtTheirColumns) {
   // "  0.000 kb" is 1,020 wide and "  000.000" 960, so the ends are 9,120, 8,100, 7,140 and 6,120.
   Begin(ListingStyle::DirectoryView);
-  writer.DirectoryViewEntry(Node(L"C:\\Data", 0));
+  writer->DirectoryViewEntry(Node(L"C:\\Data", 0));
   EXPECT_EQ(printer.Line(1, kCaptions), L"Where|Files|Bytes|All|Sum");
   EXPECT_EQ(printer.At(1, kOrigin, kCaptions), L"Where");
   EXPECT_EQ(printer.At(1, kOrigin + 6120 - 600, kCaptions), L"Files");
@@ -198,7 +198,7 @@ TEST_F(PageWriter, DirectoryViewNumbersEndAtTheirColumns) {
 
 TEST_F(PageWriter, DirectoryViewCaptionsNeverRunIntoEachOther) {
   // A column of 1,020 has room for 960 beside a blank: five of "Total size", which is 1,140 wide, and the dots.
-  texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Total size");
+  Texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Total size");
   Begin(ListingStyle::DirectoryView);
   EXPECT_EQ(printer.Line(1, kCaptions), L"Where|Files|Bytes|All|Total...");
   EXPECT_EQ(printer.At(1, kOrigin + 9120 - 960, kCaptions), L"Total...");
@@ -207,23 +207,23 @@ TEST_F(PageWriter, DirectoryViewCaptionsNeverRunIntoEachOther) {
 TEST_F(PageWriter, DirectoryViewNamesAreIndentedAndShortened) {
   // The name width is 6,120 - 960 = 5,160: 43 characters, or 41 and one level's three blanks with 60 to spare.
   Begin(ListingStyle::DirectoryView);
-  writer.DirectoryViewEntry(Node(L"sub", 2));
-  writer.DirectoryViewEntry(Node(std::wstring(42, L'n'), 1));
+  writer->DirectoryViewEntry(Node(L"sub", 2));
+  writer->DirectoryViewEntry(Node(std::wstring(42, L'n'), 1));
   EXPECT_EQ(printer.At(1, kOrigin, kFirstLine), L"      sub");
   EXPECT_EQ(printer.At(1, kOrigin, kFirstLine + kLine), L"   " + std::wstring(38, L'n') + L"...");
 }
 
 TEST_F(PageWriter, TheStartDirectoryIsShortenedAsAPath) {
   Begin(ListingStyle::DirectoryView);
-  writer.DirectoryViewEntry(Node(L"C:\\" + std::wstring(40, L'd') + L"\\leaf", 0));
+  writer->DirectoryViewEntry(Node(L"C:\\" + std::wstring(40, L'd') + L"\\leaf", 0));
   // Narrower than 43 characters: 34 + "..." + "\leaf".
   EXPECT_EQ(printer.At(1, kOrigin, kFirstLine), L"C:\\" + std::wstring(31, L'd') + L"...\\leaf");
 }
 
 TEST_F(PageWriter, DirectoryViewShowsOnlyItsChosenColumns) {
-  format.Directories = {true, false, false, true};
+  Format.Directories = {true, false, false, true};
   Begin(ListingStyle::DirectoryView);
-  writer.DirectoryViewEntry(Node(L"C:\\Data", 0));
+  writer->DirectoryViewEntry(Node(L"C:\\Data", 0));
   EXPECT_EQ(printer.Line(1, kCaptions), L"Where|Files|Sum");
   EXPECT_EQ(printer.At(1, kOrigin + 8100 - 120, kFirstLine), L"7");
   EXPECT_EQ(printer.Line(1, kFirstLine), L"C:\\Data|7|4,882 kb");
@@ -232,7 +232,7 @@ TEST_F(PageWriter, DirectoryViewShowsOnlyItsChosenColumns) {
 TEST_F(PageWriter, DirectoryViewLinesBreakPagesToo) {
   Begin(ListingStyle::DirectoryView);
   for (int i = 0; i < 53; ++i) {
-    writer.DirectoryViewEntry(Node(L"sub", 1));
+    writer->DirectoryViewEntry(Node(L"sub", 1));
   }
   EXPECT_EQ(printer.Line(1, 13'496), L"   sub|7|9,999 b |1,234|4,882 kb");
   EXPECT_EQ(printer.Line(1, 13'716), L"");
@@ -244,7 +244,7 @@ TEST_F(PageWriter, DirectoryViewLinesBreakPagesToo) {
 
 class FileList : public PageWriter {
  protected:
-  FileList() { tree.FindWindowTitle = L"Found files"; }
+  void List(const std::vector<FoundItem>& rows) { writer->FindList({L"Found files", rows}); }
   // The title, an empty line, the captions, an empty line.
   static constexpr double kFirstRow = kFirstLine + 4 * kLine;
 };
@@ -254,7 +254,7 @@ TEST_F(FileList, FileListsHaveTheirTitleCaptionsAndRows) {
   // = 1,480; folder 120 + 1,440 + 1,480 = 3,040, drawn at 1,440 + 3,040: the margin counts twice.
   Begin(ListingStyle::FindWindow);
   const std::vector<FoundItem> rows = {{L"a.txt", L"C:\\Data", L"12 kb", L"2001/02/03 04:05"}};
-  writer.FindList(rows);
+  List(rows);
   EXPECT_TRUE(printer.Find(1, L"Found files").Font->Bold);
   EXPECT_EQ(printer.At(1, kOrigin, kFirstLine), L"Found files");
   for (const double captions : {kCaptions, kFirstLine + 2 * kLine}) {
@@ -276,7 +276,7 @@ TEST_F(FileList, FileListNamesAndFoldersAreShortenedByTheNameRule) {
       // 1,480 twips: an extension over 493 keeps its dot before "...", which leaves room for five characters.
       {L"abcdefgh.extension", L"C:\\Data\\aaaaaaaaaaaaaaaaaaaaaa", L"", L""},
       {L"abcdefgh.txt", L"C:\\Data\\a.b", L"", L""}};
-  writer.FindList(rows);
+  List(rows);
   EXPECT_EQ(printer.At(1, kOrigin, kFirstRow), L"abcde.......");
   // 2,960 twips: 24 characters, 21 and "...".
   EXPECT_EQ(printer.At(1, kOrigin + 3040, kFirstRow), L"C:\\Data\\aaaaaaaaaaaaa...");
@@ -285,18 +285,18 @@ TEST_F(FileList, FileListNamesAndFoldersAreShortenedByTheNameRule) {
 
 TEST_F(FileList, FileListsHaveNoClosingLines) {
   Begin(ListingStyle::PathListFile);
-  writer.FindList({});
+  List({});
   const std::size_t drawn = printer.Drawn.size();
-  writer.EndListing();
+  writer->EndListing();
   EXPECT_EQ(printer.Drawn.size(), drawn);
   EXPECT_EQ(printer.Ended, 1);
 }
 
 TEST_F(FileList, FileListRowsStopWhenTheRunIsCancelled) {
   Begin(ListingStyle::FindWindow);
-  tree.Cancelled = true;
+  Run.Cancelled = true;
   const std::vector<FoundItem> rows(3, {L"a.txt", L"C:\\Data", L"12 kb", L""});
-  writer.FindList(rows);
+  List(rows);
   EXPECT_EQ(printer.Line(1, kFirstRow), L"");
 }
 
@@ -304,14 +304,14 @@ TEST_F(FileList, FileListRowsBreakPages) {
   // The first row is at 3,156; row 48 at 13,496.
   Begin(ListingStyle::FindWindow);
   const std::vector<FoundItem> rows(49, {L"a.txt", L"C:\\Data", L"12 kb", L"now"});
-  writer.FindList(rows);
+  List(rows);
   EXPECT_EQ(printer.Line(1, 13'496), L"a.txt|C:\\Data|12 kb|now");
   EXPECT_EQ(printer.Line(2, kCaptions), L"Name|Folder|Size|Date");
   EXPECT_EQ(printer.Line(2, kFirstLine), L"a.txt|C:\\Data|12 kb|now");
 }
 
 TEST_F(FileList, FileListHeadersKnowNoFolder) {
-  general.Header = L"<%p%l%f%g> %n";
+  General.Header = L"<%p%l%f%g> %n";
   Begin(ListingStyle::PathListFile);
   EXPECT_NO_THROW(printer.Find(1, L"<> 1"));
 }

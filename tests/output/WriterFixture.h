@@ -7,20 +7,20 @@
 #include <vector>
 
 #include "fakes/FakePlatform.h"
-#include "output/ListingRun.h"
+#include "fakes/RunRecords.h"
 #include "output/TestTexts.h"
 #include "scan/ListingWriter.h"
 
 namespace folivant {
 
-class WriterFixture : public testing::Test {
+class WriterFixture : public testing::Test, protected fakes::RunRecords {
  protected:
   WriterFixture() {
     fakes::Fake().Now = {2026, 11, 16, 14, 5, 0};
     fakes::Fake().FreeSpace[L"C:\\"] = {5'000'000'000, 20'000'000'000};
     fakes::Tree().Dir(L"C:\\Out");
     fakes::Tree().Dir(L"C:\\Data");
-    Tree.StartPath = Tree.StartPathOnDisk = L"C:\\Data";
+    Texts = TestTexts();
     General.TextWidth = 80;
     General.Header = L"%p";
     General.FontName = L"Arial";
@@ -45,40 +45,36 @@ class WriterFixture : public testing::Test {
   static FileRecord File(std::wstring_view name) {
     FileRecord record;
     record.Name = name;
-    record.DosName = L"short.nam";
-    record.SizeText = L"1,234 b ";
-    record.DateText = L"2026/01/02 03:04";
-    record.AttrText = L" a   ";
+    record.AlternateName = L"SHORT.NAM";
+    record.Size = 1'234;
+    record.ShownWrite = fakes::FileTime({2026, 1, 2, 3, 4, 0});
+    record.Attributes = platform::kArchive;
     return record;
   }
   static FileRecord Directory(std::wstring_view name, std::int32_t level = 0) {
     FileRecord record = File(name);
-    record.SizeText = L"<DIR>   ";
-    record.AttrText = L"d    ";
+    record.Size = 0;
+    record.Attributes = platform::kDirectory;
     record.Level = level;
     return record;
   }
-  /// Raises ListDirectory with `records` in the given order.
-  static void List(ListingWriter& writer, std::wstring_view path, const std::vector<FileRecord>& records,
-                   std::int32_t level = 0) {
+  /// Raises the event of a directory in the style that is set, with `records` in the given order.
+  void List(ListingWriter& writer, std::wstring_view path, const std::vector<FileRecord>& records,
+            std::int32_t level = 0) const {
     std::vector<std::uint32_t> order(records.size());
     for (std::uint32_t i = 0; i < order.size(); ++i) {
       order[i] = i;
     }
-    writer.ListDirectory({path, level, records, order, L"the summary"});
+    const bool follow = Format.ListingStyle == ListingStyle::IncludeSubdirectories;
+    const DirectoryListing listing{path, level, records, order, L"the summary", follow};
+    if (Format.ListingStyle == ListingStyle::FullPathList) {
+      writer.ListPaths(listing);
+    } else {
+      writer.ListDirectory(listing);
+    }
   }
 
-  Messages Texts = TestTexts();
-  GeneralSettings General;
-  PrinterSettings Printer;
-  FilterSettings Filter;
-  ListingFormat Format;
-  ScanTree Tree;
-  folivant::OutputKind OutputKind = folivant::OutputKind::Text;
-  std::wstring OutputFile = L"C:\\Out\\list";
-  std::wstring DatePattern = L"yyyy/mm/dd";
-  std::int16_t PageNumber = 0;
-  ListingRun Run{Texts, General, Printer, Filter, Format, Tree, OutputKind, OutputFile, DatePattern, PageNumber};
+  ListingRun Run = MakeRun();
 };
 
 }  // namespace folivant

@@ -11,53 +11,56 @@ namespace {
 class Driver : public WriterFixture {
  protected:
   /// A whole run of style 1 that lists one file in the start directory.
-  std::string ListedAs(folivant::OutputKind kind) {
+  std::string ListedAs(OutputKind kind) {
     Style(ListingStyle::IncludeSubdirectories);
-    OutputKind = kind;
-    driver_.BeginListing();
+    driver_.Choose(kind);
+    driver_.BeginListing(Run);
     List(driver_, L"C:\\Data", {File(L"a.txt")});
     driver_.EndListing();
     return Written();
   }
-  OutputDriver driver_{Run};
+  OutputDriver driver_;
 };
 
-TEST_F(Driver, ChoosesTheWriterByTheKindOfTheRun) {
-  EXPECT_NE(ListedAs(OutputKind::Text).find("\r\na.txt  "), std::string::npos);
-  EXPECT_NE(ListedAs(OutputKind::TabDelimited).find("\r\na.txt\tshort.nam\t1,234 b\t"), std::string::npos);
-  EXPECT_NE(ListedAs(OutputKind::Csv).find("\r\na.txt;short.nam;1,234 b;"), std::string::npos);
-  EXPECT_NE(ListedAs(OutputKind::Html).find("<tr><td>a.txt<td>"), std::string::npos);
-  EXPECT_NE(ListedAs(OutputKind::Xml).find("<file><name>a.txt</name>"), std::string::npos);
+TEST_F(Driver, ForwardsToTheWriterOfTheChosenKind) {
+  EXPECT_NE(ListedAs(OutputKind::Text).find("\r\nA.txt  "), std::string::npos);
+  EXPECT_NE(ListedAs(OutputKind::TabDelimited).find("\r\nA.txt\tshort.nam\t1,234 b\t"), std::string::npos);
+  EXPECT_NE(ListedAs(OutputKind::Csv).find("\r\nA.txt;short.nam;1,234 b;"), std::string::npos);
+  EXPECT_NE(ListedAs(OutputKind::Html).find("<tr><td>A.txt<td>"), std::string::npos);
+  EXPECT_NE(ListedAs(OutputKind::Xml).find("<file><name>A.txt</name>"), std::string::npos);
 }
 
 TEST_F(Driver, DropsEmptySubdirectoriesUnlessAskedFor) {
-  Style(ListingStyle::FullPathList);
-  OutputKind = OutputKind::Xml;
-  driver_.BeginListing();
-  List(driver_, L"C:\\Data", {}, 0);
-  List(driver_, L"C:\\Data\\Dropped", {}, 1);
-  General.EmptyDirs = true;
-  List(driver_, L"C:\\Data\\Kept", {}, 1);
-  driver_.EndListing();
-  EXPECT_NE(Written().find("<name>C:\\Data</name>"), std::string::npos) << "the root is always listed";
-  EXPECT_EQ(Written().find("Dropped"), std::string::npos);
-  EXPECT_NE(Written().find("Kept"), std::string::npos);
+  driver_.Choose(OutputKind::Xml);
+  for (const ListingStyle style : {ListingStyle::FullPathList, ListingStyle::IncludeSubdirectories}) {
+    Style(style);
+    General.EmptyDirs = false;
+    driver_.BeginListing(Run);
+    List(driver_, L"C:\\Data", {}, 0);
+    List(driver_, L"C:\\Data\\Dropped", {}, 1);
+    General.EmptyDirs = true;
+    List(driver_, L"C:\\Data\\Kept", {}, 1);
+    driver_.EndListing();
+    EXPECT_NE(Written().find("<name>C:\\Data</name>"), std::string::npos) << "the root is always listed";
+    EXPECT_EQ(Written().find("Dropped"), std::string::npos);
+    EXPECT_NE(Written().find("Kept"), std::string::npos);
+  }
 }
 
 TEST_F(Driver, ListsSubdirectoriesThatHoldSomething) {
   Style(ListingStyle::FullPathList);
-  driver_.BeginListing();
+  driver_.BeginListing(Run);
   List(driver_, L"C:\\Data\\Sub", {File(L"x")}, 1);
   driver_.EndListing();
-  EXPECT_EQ(Written(), "C:\\Data\\Sub\\x\r\n");
+  EXPECT_EQ(Written(), "C:\\Data\\Sub\\X\r\n");
 }
 
 TEST_F(Driver, AbortsWithoutTotalsOrFreeSpace) {
-  for (const folivant::OutputKind kind :
+  for (const OutputKind kind :
        {OutputKind::Text, OutputKind::TabDelimited, OutputKind::Csv, OutputKind::Html, OutputKind::Xml}) {
     Style(ListingStyle::IncludeSubdirectories);
-    OutputKind = kind;
-    driver_.BeginListing();
+    driver_.Choose(kind);
+    driver_.BeginListing(Run);
     List(driver_, L"C:\\Data", {File(L"a.txt")});
     driver_.AbortListing();
     EXPECT_EQ(Written().find("free of"), std::string::npos);
@@ -74,10 +77,10 @@ TEST_F(Driver, MayBeAbortedBeforeAnythingBegan) {
 
 TEST_F(Driver, ReportsAFileThatCannotBeCreated) {
   fakes::Fake().FailCreates[OutputFile] = fakes::AccessDenied();
-  for (const folivant::OutputKind kind : {OutputKind::Text, OutputKind::Html, OutputKind::Xml}) {
-    OutputKind = kind;
+  for (const OutputKind kind : {OutputKind::Text, OutputKind::Html, OutputKind::Xml}) {
+    driver_.Choose(kind);
     try {
-      driver_.BeginListing();
+      driver_.BeginListing(Run);
       ADD_FAILURE() << "no error";
     } catch (const RuntimeError& error) {
       EXPECT_EQ(error.Action(), FailedAction::CreateFile);
@@ -93,7 +96,7 @@ TEST_F(Driver, ClosesTheFileWhenTheDiskIsFull) {
   fakes::Fake().DiskFullAfter = 200;
   Style(ListingStyle::FullPathList);
   const auto listAll = [this] {
-    driver_.BeginListing();
+    driver_.BeginListing(Run);
     for (int i = 0; i < 10'000; ++i) {
       List(driver_, L"C:\\Data", {File(L"some file")});
     }
@@ -104,10 +107,10 @@ TEST_F(Driver, ClosesTheFileWhenTheDiskIsFull) {
   EXPECT_EQ(fakes::Fake().OpenOutputFiles, 0);
 
   fakes::Fake().DiskFullAfter.reset();
-  driver_.BeginListing();
+  driver_.BeginListing(Run);
   List(driver_, L"C:\\Data", {File(L"again")});
   driver_.EndListing();
-  EXPECT_EQ(Written(), "C:\\Data\\again\r\n") << "the run after it starts afresh";
+  EXPECT_EQ(Written(), "C:\\Data\\Again\r\n") << "the run after it starts afresh";
 }
 
 TEST_F(Driver, ReportsAFileThatCannotBeClosed) {

@@ -19,7 +19,7 @@ std::map<std::wstring, Seen> List(const std::wstring& folder) {
   std::map<std::wstring, Seen> seen;
   FindFiles files(folder, ShortNames::Skip);
   for (FindData data; files.Next(data);) {
-    seen[std::wstring(data.Name)] = {data.Attributes, std::uint64_t{data.SizeHigh} << 32 | data.SizeLow};
+    seen[std::wstring(data.Name)] = {data.Attributes, data.Size};
   }
   return seen;
 }
@@ -66,8 +66,7 @@ TEST(FindFiles, ReportsSizesBeyondFourGigabytes) {
   FindFiles files(scratch.Folder(), ShortNames::Skip);
   FindData data;
   ASSERT_TRUE(files.Next(data));
-  EXPECT_EQ(data.SizeHigh, 1U);
-  EXPECT_EQ(data.SizeLow, 0x8000'0001U);
+  EXPECT_EQ(data.Size, 0x1'8000'0001U);
 }
 
 TEST(FindFiles, KeepsNamesAsOnDisk) {
@@ -161,7 +160,7 @@ TEST(FindEntry, AnswersTheNameOnDisk) {
   ASSERT_TRUE(entry);
   EXPECT_EQ(entry->Name, L"Mixed Case.TXT");
   EXPECT_EQ(entry->Data.Attributes, kArchive);
-  EXPECT_EQ(entry->Data.SizeLow, 3U);
+  EXPECT_EQ(entry->Data.Size, 3U);
 }
 
 TEST(FindEntry, ExpandsNoWildcards) {

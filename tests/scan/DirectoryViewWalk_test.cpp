@@ -35,30 +35,30 @@ TEST_F(DirectoryViewWalkTest, EveryPathIsThatOfItsOwnParent) {
 }
 
 TEST_F(DirectoryViewWalkTest, TheDepthLimitHidesNodesButNotTheirTotals) {
-  mdlVars::Format.SubLevel = 1;
+  Format.SubLevel = 1;
   EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 A C:\\Data\\A 1 10 3 1110",
                                        L"1 B C:\\Data\\B 0 0 0 0", L"end"));
 }
 
 TEST_F(DirectoryViewWalkTest, ANegativeSubLevelShowsNoNode) {
-  mdlVars::Format.SubLevel = -1;
+  Format.SubLevel = -1;
   EXPECT_THAT(List(kView), ElementsAre(L"begin", L"end"));
 }
 
 TEST_F(DirectoryViewWalkTest, OnlyFilesThatPassTheFilterCount) {
-  mdlVars::Filter.FilterName = L"*.txt";
-  mdlVars::Format.SubLevel = 1;
+  Filter.FilterName = L"*.txt";
+  Format.SubLevel = 1;
   EXPECT_THAT(List(kView), testing::Contains(L"0 C:\\Data C:\\Data 1 1 4 1111"));
 }
 
 TEST_F(DirectoryViewWalkTest, WithDirectoriesRequiredNoFileCounts) {
-  mdlVars::Filter.AttrOn = true;
-  mdlVars::Filter.Attributes[kAttrDirectory] = AttributeChoice::MustHave;
+  Filter.AttrOn = true;
+  Filter.Attributes[kAttrDirectory] = AttributeChoice::MustHave;
   EXPECT_THAT(List(kView), testing::Contains(L"0 C:\\Data C:\\Data 0 0 0 0"));
 }
 
 TEST_F(DirectoryViewWalkTest, DirectionTurnsTheSubdirectoriesRound) {
-  mdlVars::Filter.OrderAZ = false;
+  Filter.OrderAZ = false;
   EXPECT_THAT(List(kView),
               ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 5 1113", L"1 B C:\\Data\\B 0 0 0 0",
                           L"1 A C:\\Data\\A 1 10 3 1110", L"2 DEEP C:\\Data\\A\\DEEP 2 1100 2 1100", L"end"));
@@ -68,33 +68,33 @@ TEST_F(DirectoryViewWalkTest, AnUnreadableDirectoryKeepsZeroCountsAndIsNotCounte
   Tree().Dir(L"C:\\Data\\A").Unreadable();
   EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 2 3", L"1 A C:\\Data\\A 0 0 0 0",
                                        L"1 B C:\\Data\\B 0 0 0 0", L"end"));
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 2);
-  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+  EXPECT_EQ(Run.Totals.TotalDirs, 2);
+  EXPECT_TRUE(Run.Unreadable);
 }
 
 TEST_F(DirectoryViewWalkTest, AnEnumerationThatBreaksOffCountsWhatItGave) {
   Tree().Dir(L"C:\\Data\\A\\DEEP").FailsAfter(1);
   EXPECT_THAT(List(kView), testing::Contains(L"2 DEEP C:\\Data\\A\\DEEP 1 100 1 100"));
-  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+  EXPECT_TRUE(Run.Unreadable);
 }
 
 TEST_F(DirectoryViewWalkTest, AReadableTreeIsNotCalledUnreadable) {
   List(kView);
-  EXPECT_FALSE(mdlVars::Tree.Unreadable);
+  EXPECT_FALSE(Run.Unreadable);
 }
 
 TEST_F(DirectoryViewWalkTest, TotalsOfTheRunAreThoseOfTheStartDirectory) {
-  mdlVars::Format.SubLevel = 1;
+  Format.SubLevel = 1;
   List(kView);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 5);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 1'113);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 4);
+  EXPECT_EQ(Run.Totals.TotalFiles, 5);
+  EXPECT_EQ(Run.Totals.TotalSize.Whole(), 1'113);
+  EXPECT_EQ(Run.Totals.TotalDirs, 4);
 }
 
 TEST_F(DirectoryViewWalkTest, ALinkToAnAncestorKeepsZeroCounts) {
   Tree().Dir(L"C:\\Data\\B").Link(L"Up", L"C:\\Data");
   EXPECT_THAT(List(kView), testing::Contains(L"2 Up C:\\Data\\B\\Up 0 0 0 0"));
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 4);
+  EXPECT_EQ(Run.Totals.TotalDirs, 4);
 }
 
 TEST_F(DirectoryViewWalkTest, OtherLinksAreEntered) {
@@ -110,7 +110,7 @@ TEST_F(DirectoryViewWalkTest, SharesGoDownTheTree) {
 }
 
 TEST_F(DirectoryViewWalkTest, EventsGetThroughForEveryEntryEvenIfItDoesNotCount) {
-  mdlVars::Filter.FilterName = L"a.txt";
+  Filter.FilterName = L"a.txt";
   std::vector<int> pumped;  // until each directory is shown
   Watcher.OnDirectory = [&](std::wstring_view) { pumped.push_back(Watcher.Pumped); };
   List(kView);
@@ -145,13 +145,8 @@ TEST_F(DirectoryViewWalkTest, DepthIsNotLimitedByTheStack) {
   }
   directory.File(L"bottom.txt", 10'000);
   Watcher.OnDirectory = [&](std::wstring_view) { Watcher.Shown.clear(); };
-  mdlVars::Format.SubLevel = 1;
+  Format.SubLevel = 1;
   EXPECT_THAT(List(kView), testing::Contains(L"1 B C:\\Data\\B 0 0 1 10000"));
-}
-
-TEST_F(DirectoryViewWalkTest, TheListIsEmptyAfterTheRun) {
-  List(kView);
-  EXPECT_TRUE(mdlVars::Tree.DirNodes.empty());
 }
 
 }  // namespace

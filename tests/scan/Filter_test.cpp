@@ -20,8 +20,8 @@ class FilterTest : public testing::Test {
     platform::FindData entry = Entry;
     return MatchesFilter(entry, Settings, NamePatterns(Settings.FilterName), platform::LocalOffset());
   }
-  bool PassesWithSize(std::uint32_t size) {
-    Entry.SizeLow = size;
+  bool PassesWithSize(std::uint64_t size) {
+    Entry.Size = size;
     return Passes();
   }
 
@@ -62,10 +62,8 @@ TEST_F(FilterTest, AtMostKeepsTheLimitItself) {
 
 TEST_F(FilterTest, LargeSizesAndLimitsDoNotOverflow) {
   Settings.SizeOn = true;
-  Settings.FilterSize = 0x7FFF'FFFF;  // just below 2 TB
-  Entry.SizeHigh = 0x200;             // 2 TB
-  EXPECT_TRUE(Passes());
-  Entry.SizeHigh = 0;
+  Settings.FilterSize = 0x7FFF'FFFF;             // just below 2 TB
+  EXPECT_TRUE(PassesWithSize(0x200'0000'0000));  // 2 TB
   EXPECT_FALSE(PassesWithSize(0xFFFF'FFFF));
 }
 
@@ -156,10 +154,8 @@ TEST_F(FilterTest, TheDefaultChoicesDropHiddenAndSystemFiles) {
   EXPECT_TRUE(Passes());
 }
 
-TEST_F(FilterTest, BothHalvesOfASizeAreUnsigned) {
-  Entry.SizeLow = 0xFFFF'FFFF;
-  EXPECT_EQ(FileSizeOf(Entry).Whole(), 0xFFFF'FFFFLL);
-  Entry.SizeHigh = 1;
+TEST_F(FilterTest, SizesBeyondFourGigabytesAreWhole) {
+  Entry.Size = 0x1'FFFF'FFFF;
   EXPECT_EQ(FileSizeOf(Entry).Whole(), 0x1'FFFF'FFFFLL);
 }
 

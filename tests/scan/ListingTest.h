@@ -5,11 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "app/mdlVars.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/RunRecords.h"
+#include "output/EntryTexts.h"
 #include "platform/RuntimeError.h"
 #include "scan/ListingWriter.h"
 #include "scan/mdlScan.h"
@@ -20,12 +22,31 @@ namespace folivant {
 class RecordingWriter : public ListingWriter {
  public:
   std::vector<std::wstring> Events;
-  bool Details = false;  ///< entries with all their texts, "|" between them
+  bool Details = false;  ///< entries with 8.3 name, size, date and attributes, "|" between them
   bool Silent = false;   ///< directories are not written down
   std::function<void()> OnEvent = [] {};
 
-  void BeginListing() override { Record(L"begin"); }
-  void ListDirectory(const DirectoryListing& directory) override {
+  void BeginListing(ListingRun& run) override {
+    texts_.emplace(run);
+    Record(L"begin");
+  }
+  void ListDirectory(const DirectoryListing& directory) override { List(directory); }
+  void ListPaths(const DirectoryListing& directory) override { List(directory); }
+  void BeginTree(std::wstring_view root) override { Record(L"tree " + std::wstring(root)); }
+  void TreeEntry(const FileRecord& entry) override { Record(std::to_wstring(entry.Level) + L" " + Text(entry)); }
+  void DirectoryViewEntry(const DirNode& node) override {
+    Record(std::to_wstring(node.Level) + L" " + std::wstring(node.Name) + L" " + std::wstring(node.Path) + L" " +
+           std::to_wstring(node.Files) + L" " + std::to_wstring(node.Size.Whole()) + L" " +
+           std::to_wstring(node.TotalFiles) + L" " + std::to_wstring(node.TotalSize.Whole()));
+  }
+  void FindList(const FoundRows& rows) override {
+    Record(L"find " + rows.Title + L": " + std::to_wstring(rows.Items.size()));
+  }
+  void EndListing() override { Record(L"end"); }
+  void AbortListing() noexcept override { Events.push_back(L"abort"); }
+
+ private:
+  void List(const DirectoryListing& directory) {
     if (Silent) {
       return;
     }
@@ -35,32 +56,24 @@ class RecordingWriter : public ListingWriter {
     }
     Record(line + L" (" + std::wstring(directory.Summary) + L")");
   }
-  void BeginTree(std::wstring_view root) override { Record(L"tree " + std::wstring(root)); }
-  void TreeEntry(const FileRecord& entry) override { Record(std::to_wstring(entry.Level) + L" " + Text(entry)); }
-  void DirectoryViewEntry(const DirNode& node) override {
-    Record(std::to_wstring(node.Level) + L" " + std::wstring(node.Name) + L" " + std::wstring(node.Path) + L" " +
-           std::to_wstring(node.Files) + L" " + std::to_wstring(node.Size.Whole()) + L" " +
-           std::to_wstring(node.TotalFiles) + L" " + std::to_wstring(node.TotalSize.Whole()));
-  }
-  void FindList(std::span<const FoundItem>) override { Record(L"find"); }
-  void EndListing() override { Record(L"end"); }
-  void AbortListing() noexcept override { Events.push_back(L"abort"); }
-
- private:
   void Record(std::wstring line) {
     Events.push_back(std::move(line));
     OnEvent();
   }
-  std::wstring Text(const FileRecord& record) const {
-    std::wstring text(record.Name);
+  std::wstring Text(const FileRecord& record) {
+    std::wstring text;
+    texts_->AppendName(record, text);
     if (Details) {
-      for (const std::wstring_view part : {record.DosName, record.SizeText, record.DateText, record.AttrText}) {
+      text.append(L"|").append(record.AlternateName);
+      for (const auto append : {&EntryTexts::AppendSize, &EntryTexts::AppendDate, &EntryTexts::AppendAttributes}) {
         text += L'|';
-        text += part;
+        ((*texts_).*append)(record, text);
       }
     }
     return text;
   }
+
+  std::optional<EntryTexts> texts_;
 };
 
 /// Writes down what is shown and reported, and lets a test cancel the run.
@@ -88,30 +101,39 @@ class RecordingProgress : public Progress {
   }
 };
 
-class ListingTest : public testing::Test {
+/// Gives the rows of the file lists that a test says.
+class PreparedRows final : public FoundRowSource {
+ public:
+  FoundRows Rows;
+  FoundRows PrintFromFind(ListingRun&) override { return Rows; }
+  FoundRows PrintFromFileList(ListingRun&) override { return Rows; }
+};
+
+class ListingTest : public testing::Test, protected fakes::RunRecords {
  protected:
   void SetUp() override {
     using enum AttributeChoice;
-    mdlVars::Filter.NameOn = true;
-    mdlVars::Filter.FilterName = L"*.*";
-    mdlVars::Filter.Attributes = {DoNotCare, DoNotCare, DoNotCare, DoNotCare, DoNotCare};
-    mdlVars::General.DateFormat = 5;
+    Filter.NameOn = true;
+    Filter.FilterName = L"*.*";
+    Filter.Attributes = {DoNotCare, DoNotCare, DoNotCare, DoNotCare, DoNotCare};
+    General.DateFormat = 5;
     const std::pair<Text, const wchar_t*> texts[] = {
         {Text::File, L"file"},        {Text::Files, L"files"},      {Text::DirectorySizeText, L"<DIR>"},
         {Text::UnitBytes, L"b "},     {Text::UnitKilobytes, L"kb"}, {Text::UnitMegabytes, L"Mb"},
         {Text::UnitGigabytes, L"Gb"}, {Text::UnitTerabytes, L"Tb"}};
     for (const auto& [number, text] : texts) {
-      mdlVars::Texts.Set(static_cast<std::size_t>(number), text);
+      Texts.Set(static_cast<std::size_t>(number), text);
     }
   }
 
   static fakes::FakeTree& Tree() { return fakes::Tree(); }
-  /// Lists `path` in `style` and returns the events.
+  bool SetStart(const std::wstring& path) { return SetStartPath(path, Start, Format); }
+  /// Lists `path` in `style` and returns the events. What the run learned stands in Run.
   const std::vector<std::wstring>& List(ListingStyle style, const std::wstring& path = L"C:\\Data") {
-    mdlVars::Format.ListingStyle = style;
-    EXPECT_TRUE(SetStartPath(path));
+    Format.ListingStyle = style;
+    EXPECT_TRUE(SetStart(path));
     Writer.Events.clear();
-    RunListing(Writer, Watcher);
+    RunListing(Run, Writer, Rows);
     return Writer.Events;
   }
   /// Lists C:\Data in `style`; how often events got through before each event of the listing, after the one before it.
@@ -129,6 +151,8 @@ class ListingTest : public testing::Test {
 
   RecordingWriter Writer;
   RecordingProgress Watcher;
+  PreparedRows Rows;
+  ListingRun Run = MakeRun(Watcher);
 };
 
 inline constexpr ListingStyle kFlat = ListingStyle::NoSubdirectories;

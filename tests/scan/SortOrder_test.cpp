@@ -98,8 +98,8 @@ TEST(EntrySorterTest, GivesWhatABubbleSortGives) {
 class SortOrderTest : public ListingTest {
  protected:
   std::wstring Order(OrderBy by, bool orderAZ = true) {
-    mdlVars::Filter.OrderBy = by;
-    mdlVars::Filter.OrderAZ = orderAZ;
+    Filter.OrderBy = by;
+    Filter.OrderAZ = orderAZ;
     return List(kFlat).at(1);
   }
 };
@@ -185,11 +185,11 @@ TEST_F(SortOrderTest, WithoutAnOrderTheEnumerationStays) {
 
 TEST_F(SortOrderTest, SubdirectoriesAreEnteredByNameWhateverTheOrder) {
   Tree().Dir(L"C:\\Data").Folder(L"c").Folder(L"A").Folder(L"b");
-  mdlVars::Filter.OrderBy = OrderBy::None;
+  Filter.OrderBy = OrderBy::None;
   List(kDeep);
   EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\A", L"C:\\Data\\b", L"C:\\Data\\c"));
   Watcher.Shown.clear();
-  mdlVars::Filter.OrderAZ = false;
+  Filter.OrderAZ = false;
   List(kDeep);
   EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\c", L"C:\\Data\\b", L"C:\\Data\\A"));
 }

@@ -11,39 +11,39 @@ using MdlScanTest = ListingTest;
 
 TEST_F(MdlScanTest, SetStartPathNormalisesThePath) {
   Tree().Dir(L"C:\\Program Files\\TOOLS");
-  EXPECT_TRUE(SetStartPath(L"c:\\program files\\tools\\"));
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Program Files\\Tools");
-  EXPECT_EQ(mdlVars::Tree.StartPathOnDisk, L"C:\\Program Files\\TOOLS");
+  EXPECT_TRUE(SetStart(L"c:\\program files\\tools\\"));
+  EXPECT_EQ(Start.Shown, L"C:\\Program Files\\Tools");
+  EXPECT_EQ(Start.OnDisk, L"C:\\Program Files\\TOOLS");
 }
 
 TEST_F(MdlScanTest, SetStartPathTurnsAFileListIntoAListingWithoutSubdirectories) {
   Tree().Dir(L"C:\\Data");
   for (const ListingStyle style : {ListingStyle::FindWindow, ListingStyle::PathListFile}) {
-    mdlVars::Format.ListingStyle = style;
-    EXPECT_TRUE(SetStartPath(L"C:\\Data"));
-    EXPECT_EQ(mdlVars::Format.ListingStyle, kFlat);
+    Format.ListingStyle = style;
+    EXPECT_TRUE(SetStart(L"C:\\Data"));
+    EXPECT_EQ(Format.ListingStyle, kFlat);
   }
-  mdlVars::Format.ListingStyle = kTree;
-  EXPECT_TRUE(SetStartPath(L"C:\\Data"));
-  EXPECT_EQ(mdlVars::Format.ListingStyle, kTree);
+  Format.ListingStyle = kTree;
+  EXPECT_TRUE(SetStart(L"C:\\Data"));
+  EXPECT_EQ(Format.ListingStyle, kTree);
 }
 
 TEST_F(MdlScanTest, SetStartPathChangesNothingForAPathThatIsNotUsable) {
   Tree().Dir(L"C:\\Data");
-  ASSERT_TRUE(SetStartPath(L"C:\\Data"));
-  mdlVars::Format.ListingStyle = ListingStyle::FindWindow;
-  EXPECT_FALSE(SetStartPath(L"C:\\Missing"));
-  EXPECT_FALSE(SetStartPath(L"\\\\server"));
-  EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
-  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::FindWindow);
+  ASSERT_TRUE(SetStart(L"C:\\Data"));
+  Format.ListingStyle = ListingStyle::FindWindow;
+  EXPECT_FALSE(SetStart(L"C:\\Missing"));
+  EXPECT_FALSE(SetStart(L"\\\\server"));
+  EXPECT_EQ(Start.Shown, L"C:\\Data");
+  EXPECT_EQ(Format.ListingStyle, ListingStyle::FindWindow);
 }
 
 TEST_F(MdlScanTest, TotalsStartAfreshInEveryRun) {
   Tree().Dir(L"C:\\Data").File(L"a", 10);
   List(kDeep);
   List(kDeep);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 1);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 10);
+  EXPECT_EQ(Run.Totals.TotalFiles, 1);
+  EXPECT_EQ(Run.Totals.TotalSize.Whole(), 10);
 }
 
 TEST_F(MdlScanTest, ARunKeepsItsLocalOffsetAndTheNextOneAsksAgain) {
@@ -69,11 +69,11 @@ TEST_F(MdlScanTest, ARunAfterACancelledOneIsNotCancelled) {
   Tree().Dir(L"C:\\Data\\Locked").Unreadable();
   Watcher.CancelNow = true;
   List(kDeep);
-  ASSERT_TRUE(mdlVars::Tree.Cancelled && mdlVars::Tree.Unreadable);
+  ASSERT_TRUE(Run.Cancelled && Run.Unreadable);
   Watcher.CancelNow = false;
   EXPECT_EQ(List(kFlat).back(), L"end");
-  EXPECT_FALSE(mdlVars::Tree.Cancelled);
-  EXPECT_FALSE(mdlVars::Tree.Unreadable);
+  EXPECT_FALSE(Run.Cancelled);
+  EXPECT_FALSE(Run.Unreadable);
 }
 
 TEST_F(MdlScanTest, EventsRunWhileATreeIsWritten) {
@@ -88,46 +88,30 @@ TEST_F(MdlScanTest, EventsRunWhileADirectoryViewIsWritten) {
   EXPECT_THAT(PumpsBetweenEvents(kView), ElementsAre(1, 5 + 1, 1, 1, 0));
 }
 
-TEST_F(MdlScanTest, TheWriterKnowsWhoWatchesWhileTheRunLasts) {
-  Tree().Dir(L"C:\\Data");
-  const Progress* during = nullptr;
-  Writer.OnEvent = [&] { during = mdlVars::Run().Watcher; };
-  List(kDeep);
-  EXPECT_EQ(during, &Watcher);
-  EXPECT_EQ(mdlVars::Run().Watcher, nullptr);
-}
-
-TEST_F(MdlScanTest, ThePageNumberStartsAtZero) {
-  Tree().Dir(L"C:\\Data");
-  mdlVars::PageNumber = 7;
-  List(kDeep);
-  EXPECT_EQ(mdlVars::PageNumber, 0);
-}
-
 TEST_F(MdlScanTest, TheDatePatternIsChosenAtTheStartOfTheRun) {
   Tree().Dir(L"C:\\Data").File(L"a").Written({1999, 12, 31, 23, 59, 59});
   Writer.Details = true;
   const std::pair<std::int32_t, std::wstring> patterns[] = {{0, L"31/12/99"},   {1, L"12/31/99"},   {2, L"99/12/31"},
                                                             {3, L"31/12/1999"}, {4, L"12/31/1999"}, {5, L"1999/12/31"}};
   for (const auto& [format, date] : patterns) {
-    mdlVars::General.DateFormat = format;
+    General.DateFormat = format;
     EXPECT_EQ(List(kFlat).at(1), L"0 C:\\Data: A||0 b |" + date + L" 23:59| a    (1 file, 0 b )");
   }
 }
 
 TEST_F(MdlScanTest, AnUnknownDateFormatLeavesThePreviousPatternInForce) {
   Tree().Dir(L"C:\\Data");
-  mdlVars::General.DateFormat = 4;
+  General.DateFormat = 4;
   List(kFlat);
-  mdlVars::General.DateFormat = 6;
+  General.DateFormat = 6;
   List(kFlat);
-  EXPECT_EQ(mdlVars::DatePattern, L"mm/dd/yyyy");
-  mdlVars::General.DateFormat = -1;
+  EXPECT_EQ(DatePattern, L"mm/dd/yyyy");
+  General.DateFormat = -1;
   List(kFlat);
-  EXPECT_EQ(mdlVars::DatePattern, L"mm/dd/yyyy");
+  EXPECT_EQ(DatePattern, L"mm/dd/yyyy");
 }
 
-TEST_F(MdlScanTest, AnErrorOfTheWriterClosesItEmptiesTheListsAndReachesTheCaller) {
+TEST_F(MdlScanTest, AnErrorOfTheWriterClosesItAndReachesTheCaller) {
   Tree().Dir(L"C:\\Data\\Sub").File(L"a");
   const std::pair<ListingStyle, std::size_t> failures[] = {
       {kDeep, 1}, {kDeep, 2}, {kTree, 3}, {kView, 2}, {kView, 3}};  // the event at which the writer fails
@@ -140,8 +124,6 @@ TEST_F(MdlScanTest, AnErrorOfTheWriterClosesItEmptiesTheListsAndReachesTheCaller
     EXPECT_THROW(List(style), RuntimeError);
     EXPECT_EQ(Writer.Events.size(), failing + 1);
     EXPECT_EQ(Writer.Events.back(), L"abort");
-    EXPECT_TRUE(mdlVars::Tree.TreeList.empty());
-    EXPECT_TRUE(mdlVars::Tree.DirNodes.empty());
   }
 }
 
@@ -156,13 +138,22 @@ TEST_F(MdlScanTest, AnErrorAtTheEndOfTheListingClosesTheWriterToo) {
   EXPECT_THAT(Writer.Events, ElementsAre(L"begin", L"0 C:\\Data: (0 files, 0 b )", L"end", L"abort"));
 }
 
-TEST_F(MdlScanTest, TheFoundListIsEmptiedAtTheEndOfEveryRun) {
-  Tree().Dir(L"C:\\Data");
-  mdlVars::Tree.FoundList.resize(3);
-  mdlVars::Tree.FoundCount = 3;
-  List(kDeep);
-  EXPECT_TRUE(mdlVars::Tree.FoundList.empty());
-  EXPECT_EQ(mdlVars::Tree.FoundCount, 0);
+TEST_F(MdlScanTest, TheFileListsAreRowsOfTheirSource) {
+  Rows.Rows = {L"Find: all", {{L"a", L"C:\\", L"1 b ", L"today"}, {L"b", L"D:\\", L"", L""}}};
+  for (const ListingStyle style : {ListingStyle::FindWindow, ListingStyle::PathListFile}) {
+    Format.ListingStyle = style;
+    Writer.Events.clear();
+    RunListing(Run, Writer, Rows);
+    EXPECT_THAT(Writer.Events, ElementsAre(L"begin", L"find Find: all: 2", L"end"));
+  }
+}
+
+TEST_F(MdlScanTest, RowsOfACancelledRunAreNotListed) {
+  Format.ListingStyle = ListingStyle::FindWindow;
+  Watcher.CancelNow = true;
+  RunListing(Run, Writer, Rows);
+  EXPECT_THAT(Writer.Events, ElementsAre(L"begin", L"abort"));
+  EXPECT_TRUE(Run.Cancelled);
 }
 
 TEST_F(MdlScanTest, WithTheDateTestOffDatesShiftByTheLocalOffsetOnce) {
@@ -175,9 +166,9 @@ TEST_F(MdlScanTest, WithTheDateTestOffDatesShiftByTheLocalOffsetOnce) {
 TEST_F(MdlScanTest, WithTheDateTestOnDatesShiftThreeTimes) {
   Tree().Dir(L"C:\\Data").File(L"a").Written({2000, 1, 1, 12, 0, 0});
   fakes::Fake().LocalOffsetMinutes = 120;
-  mdlVars::Filter.DateOn = true;
-  mdlVars::Filter.DateMin = ToDateValue({1990, 1, 1});
-  mdlVars::Filter.DateMax = ToDateValue({2030, 1, 1});
+  Filter.DateOn = true;
+  Filter.DateMin = ToDateValue({1990, 1, 1});
+  Filter.DateMax = ToDateValue({2030, 1, 1});
   Writer.Details = true;
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L"|2000/01/01 18:00|"));
 }
@@ -185,9 +176,9 @@ TEST_F(MdlScanTest, WithTheDateTestOnDatesShiftThreeTimes) {
 TEST_F(MdlScanTest, DirectoriesOfATreeSkipTheDateTestAndShiftOnce) {
   Tree().Dir(L"C:\\Data").Folder(L"Sub").Written({2000, 1, 1, 12, 0, 0});
   fakes::Fake().LocalOffsetMinutes = -60;
-  mdlVars::Filter.DateOn = true;
-  mdlVars::Filter.DateMin = ToDateValue({2010, 1, 1});
-  mdlVars::Filter.DateMax = ToDateValue({2030, 1, 1});
+  Filter.DateOn = true;
+  Filter.DateMin = ToDateValue({2010, 1, 1});
+  Filter.DateMax = ToDateValue({2030, 1, 1});
   Writer.Details = true;
   EXPECT_THAT(List(kTree).at(2), testing::HasSubstr(L"|2000/01/01 11:00|"));
 }
@@ -197,9 +188,9 @@ TEST_F(MdlScanTest, ShortNamesAreListedOnlyWhenSomethingShowsThem) {
   Writer.Details = true;
   EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text||0 b "));
   EXPECT_EQ(fakes::Fake().ShortNamesAsked, 0);
-  mdlVars::Format.Files.DosName = true;
-  EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text|longna~1.tex|0 b "));
-  EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L" Short.txt|short.txt|0 b "));
+  Format.Files.DosName = true;
+  EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L": Long name.text|LONGNA~1.TEX|0 b "));
+  EXPECT_THAT(List(kFlat).at(1), testing::HasSubstr(L" Short.txt||0 b "));
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "app/mdlVars.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/RunRecords.h"
 #include "platform/RuntimeError.h"
+#include "scan/mdlScan.h"
 #include "shell/mdlFind.h"
 
 namespace folivant {
@@ -10,25 +11,6 @@ namespace {
 
 using fakes::Fake;
 using fakes::Tree;
-
-/// Keeps the rows of the list that a run hands over.
-class Rows final : public ListingWriter {
- public:
-  void BeginListing() override {}
-  void ListDirectory(const DirectoryListing&) override {}
-  void BeginTree(std::wstring_view) override {}
-  void TreeEntry(const FileRecord&) override {}
-  void DirectoryViewEntry(const DirNode&) override {}
-  void FindList(std::span<const FoundItem> rows) override {
-    ++Lists;
-    Items.assign(rows.begin(), rows.end());
-  }
-  void EndListing() override {}
-  void AbortListing() noexcept override {}
-
-  int Lists = 0;
-  std::vector<FoundItem> Items;
-};
 
 /// Cancels once `rows` rows were read.
 class CancelAfter final : public Progress {
@@ -43,33 +25,59 @@ class CancelAfter final : public Progress {
   int left_;
 };
 
-class PathList : public testing::Test {
+/// Keeps the rows of the list that a run hands over.
+class RowKeeper final : public ListingWriter {
+ public:
+  void BeginListing(ListingRun&) override {}
+  void FindList(const FoundRows& rows) override {
+    ++Lists;
+    Items = rows.Items;
+  }
+  void EndListing() override {}
+  void AbortListing() noexcept override {}
+
+  int Lists = 0;
+  std::vector<FoundItem> Items;
+};
+
+class PathList : public testing::Test, protected fakes::RunRecords {
  protected:
   PathList() {
     Tree().Dir(L"C:\\Data").File(L"README.TXT", 9999).File(L"Big.bin", 12345678).Dir(L"deep").File(L"b.doc", 10000);
-    mdlVars::DatePattern = L"yyyy/mm/dd";
-    mdlVars::Tree.StartPath = L"C:\\list.txt";
+    General.DateFormat = 5;
+    Format.ListingStyle = ListingStyle::PathListFile;
+    Start = {L"C:\\list.txt", L"C:\\list.txt"};
   }
 
-  static Rows Read(const std::string& bytes) {
-    Tree().File(L"C:\\list.txt", bytes);
-    Rows rows;
-    NoProgress progress;
-    PrintFromFileList(rows, progress);
+  static void Lines(const std::string& bytes) { Tree().File(L"C:\\list.txt", bytes); }
+  RowKeeper ListWith(Progress& progress) {
+    RowKeeper rows;
+    FindCapture capture;
+    ListingRun run = MakeRun(progress);
+    RunListing(run, rows, capture);
     return rows;
   }
-  /// The path that the error names which reading such a list ends with.
-  static std::wstring ErrorOf(const std::string& bytes) {
-    try {
-      Read(bytes);
-    } catch (const RuntimeError& error) {
-      EXPECT_EQ(error.Action(), FailedAction::ReadFile);
-      return error.Object();
-    }
-    ADD_FAILURE() << "no error";
-    return {};
+  RowKeeper Read(const std::string& bytes) {
+    Lines(bytes);
+    return ListWith(Nobody);
   }
-  static std::vector<std::wstring> NamesOf(const std::string& bytes) {
+  /// The error that listing ends with.
+  std::optional<RuntimeError> Failure() {
+    try {
+      ListWith(Nobody);
+    } catch (const RuntimeError& error) {
+      return error;
+    }
+    return std::nullopt;
+  }
+  /// The path that the error names which reading such a list ends with.
+  std::wstring ErrorOf(const std::string& bytes, FailedAction action = FailedAction::ReadFile) {
+    Lines(bytes);
+    const std::optional<RuntimeError> error = Failure();
+    EXPECT_TRUE(error && error->Action() == action) << bytes;
+    return error ? error->Object() : std::wstring();
+  }
+  std::vector<std::wstring> NamesOf(const std::string& bytes) {
     std::vector<std::wstring> names;
     for (const FoundItem& item : Read(bytes).Items) {
       names.push_back(item.Name);
@@ -80,23 +88,22 @@ class PathList : public testing::Test {
 using Names = std::vector<std::wstring>;
 
 TEST_F(PathList, ARowIsNameFolderSizeAndDate) {
-  const Rows rows = Read("c:\\data\\DEEP\\B.DOC\r\n");
-  ASSERT_EQ(rows.Items.size(), 1u);
-  EXPECT_EQ(rows.Items[0].Name, L"B.doc");
-  EXPECT_EQ(rows.Items[0].InFolder, L"C:\\Data\\Deep");
-  EXPECT_EQ(rows.Items[0].Size, L"9 kb");
-  EXPECT_EQ(rows.Items[0].Modified, L"2001/02/03 04:05");
-  EXPECT_EQ(rows.Lists, 1);
+  const std::vector<FoundItem> rows = Read("c:\\data\\DEEP\\B.DOC\r\n").Items;
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_EQ(rows[0].Name, L"B.doc");
+  EXPECT_EQ(rows[0].InFolder, L"C:\\Data\\Deep");
+  EXPECT_EQ(rows[0].Size, L"9 kb");
+  EXPECT_EQ(rows[0].Modified, L"2001/02/03 04:05");
 }
 
 TEST_F(PathList, SizesHaveFixedUnits) {
-  mdlVars::Texts.Set(128, L"Octets");
+  Texts.Set(128, L"Octets");
   EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Size, L"9,999 b ");
 }
 
 TEST_F(PathList, DatesAreLocalAndFollowTheRunsPattern) {
   Fake().LocalOffsetMinutes = 120;
-  mdlVars::DatePattern = L"dd/mm/yy";
+  General.DateFormat = 0;
   EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Modified, L"03/02/01 06:05");
 }
 
@@ -110,7 +117,6 @@ TEST_F(PathList, EachListHasTheLocalOffsetOfItsTime) {
 TEST_F(PathList, BlankLinesYieldNoRows) {
   EXPECT_EQ(NamesOf("\r\n   \r\nC:\\Data\\README.TXT\r\n\r\n\r\nC:\\Data\\Big.bin\r\n\r\n"),
             (Names{L"Readme.txt", L"Big.bin"}));
-  EXPECT_EQ(mdlVars::Tree.FoundCount, 2);
 }
 
 TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
@@ -119,25 +125,18 @@ TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
 
 TEST_F(PathList, ASlashSeparatesLikeABackslash) {
   Tree().Dir(L"C:\\Data").Dir(L"deep").Dir(L"er").File(L"b.doc", 1);
-  const Rows rows = Read("c:\\data/deep/er/b.doc\r\nC:/Data/deep\\b.doc");
-  ASSERT_EQ(rows.Items.size(), 2u);
-  EXPECT_EQ(rows.Items[0].Name, L"B.doc");
-  EXPECT_EQ(rows.Items[0].InFolder, L"C:\\Data\\Deep\\Er");
-  EXPECT_EQ(rows.Items[1].InFolder, L"C:\\Data\\Deep");
-  try {
-    Read("C:/Data/gone.txt");
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.Action(), FailedAction::ReadFile);
-    EXPECT_EQ(error.Object(), L"C:/Data/gone.txt");
-  }
+  const std::vector<FoundItem> rows = Read("c:\\data/deep/er/b.doc\r\nC:/Data/deep\\b.doc").Items;
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].Name, L"B.doc");
+  EXPECT_EQ(rows[0].InFolder, L"C:\\Data\\Deep\\Er");
+  EXPECT_EQ(rows[1].InFolder, L"C:\\Data\\Deep");
+  EXPECT_EQ(ErrorOf("C:/Data/gone.txt"), L"C:/Data/gone.txt");
 }
 
 TEST_F(PathList, AnEmptyFileStillStartsTheOutput) {
-  const Rows rows = Read("");
+  const RowKeeper rows = Read("");
   EXPECT_EQ(rows.Lists, 1);
   EXPECT_TRUE(rows.Items.empty());
-  EXPECT_EQ(mdlVars::Tree.FoundCount, 0);
 }
 
 TEST_F(PathList, LinesMayEndInAnyWayAndHaveBlanksAround) {
@@ -170,26 +169,14 @@ TEST_F(PathList, QuotedLinesAndTabsAroundThemAreRead) {
 TEST_F(PathList, LinesOfWhichNoneIsAFullPathAreAnErrorThatNamesTheList) {
   const std::string utf16WithoutMark("C\0:\0\\\0D\0a\0t\0a\0", 14);
   for (const std::string& lines : {std::string("README.TXT\r\nBig.bin"), std::string("\r\nx"), utf16WithoutMark}) {
-    Tree().File(L"C:\\list.txt", lines);
-    Rows rows;
-    NoProgress progress;
-    try {
-      PrintFromFileList(rows, progress);
-      FAIL() << "no error";
-    } catch (const RuntimeError& error) {
-      EXPECT_EQ(error.Action(), FailedAction::ListPaths);
-      EXPECT_EQ(error.Object(), L"C:\\list.txt");
-    }
-    EXPECT_EQ(rows.Lists, 0);
+    EXPECT_EQ(ErrorOf(lines, FailedAction::ListPaths), L"C:\\list.txt");
   }
 }
 
 TEST_F(PathList, ARunThatIsCancelledBeforeItsFirstRowIsNoError) {
-  Tree().File(L"C:\\list.txt", "no path\r\nC:\\Data\\Big.bin\r\n");
-  Rows rows;
-  CancelAfter progress(1);
-  PrintFromFileList(rows, progress);
-  EXPECT_EQ(rows.Lists, 0);
+  Lines("no path\r\nC:\\Data\\Big.bin\r\n");
+  CancelAfter progress(2);  // at the start of the run, and after the first line
+  EXPECT_EQ(ListWith(progress).Lists, 0);
 }
 
 TEST_F(PathList, ABlankListIsAnEmptyListing) {
@@ -199,15 +186,7 @@ TEST_F(PathList, ABlankListIsAnEmptyListing) {
 }
 
 TEST_F(PathList, ALineThatIsLongerThanAnyPathIsNamedByItsBeginning) {
-  Tree().File(L"C:\\list.txt", "C:\\" + std::string(40'000, 'x'));
-  Rows rows;
-  NoProgress progress;
-  try {
-    PrintFromFileList(rows, progress);
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.Object(), L"C:\\" + std::wstring(256, L'x') + L"...");
-  }
+  EXPECT_EQ(ErrorOf("C:\\" + std::string(40'000, 'x')), L"C:\\" + std::wstring(256, L'x') + L"...");
 }
 
 const std::string kUtf8Mark = "\xEF\xBB\xBF";
@@ -275,11 +254,12 @@ TEST_F(PathList, AVeryLongLineIsReadWhole) {
 }
 
 TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
-  Tree().File(L"C:\\list.txt", "C:\\Data\\Big.bin\r\nC:\\Data\\gone.txt\r\nC:\\Data\\README.TXT\r\n");
-  Rows rows;
-  NoProgress progress;
+  Lines("C:\\Data\\Big.bin\r\nC:\\Data\\gone.txt\r\nC:\\Data\\README.TXT\r\n");
+  RowKeeper rows;
+  FindCapture capture;
+  ListingRun run = MakeRun();
   try {
-    PrintFromFileList(rows, progress);
+    RunListing(run, rows, capture);
     FAIL() << "no error";
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Action(), FailedAction::ReadFile);
@@ -287,37 +267,25 @@ TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
     EXPECT_EQ(error.SystemCode(), 0u) << "nothing but the path is told";
   }
   EXPECT_EQ(rows.Lists, 0);
-  EXPECT_EQ(mdlVars::Tree.FoundCount, 0);
 }
 
 TEST_F(PathList, AMissingListIsAnErrorThatNamesIt) {
-  Rows rows;
-  NoProgress progress;
-  try {
-    PrintFromFileList(rows, progress);
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.Object(), L"C:\\list.txt");
-    EXPECT_EQ(error.SystemCode(), 2u);
-  }
+  const std::optional<RuntimeError> error = Failure();
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Object(), L"C:\\list.txt");
+  EXPECT_EQ(error->SystemCode(), 2u);
 }
 
 TEST_F(PathList, ARelativeListIsReadInTheCurrentDirectory) {
   Tree().File(L"C:\\Work\\mine.txt", "C:\\Data\\Big.bin");
-  mdlVars::Tree.StartPath = L"mine.txt";
-  Rows rows;
-  NoProgress progress;
-  PrintFromFileList(rows, progress);
-  EXPECT_EQ(rows.Items.size(), 1u);
+  Start = {L"mine.txt", L"mine.txt"};
+  EXPECT_EQ(ListWith(Nobody).Items.size(), 1u);
 }
 
 TEST_F(PathList, ACancelledRunRaisesNoList) {
-  Tree().File(L"C:\\list.txt", "C:\\Data\\Big.bin\r\nC:\\Data\\README.TXT\r\nC:\\Data\\gone.txt\r\n");
-  Rows rows;
-  CancelAfter progress(2);
-  PrintFromFileList(rows, progress);
-  EXPECT_EQ(rows.Lists, 0);
-  EXPECT_EQ(mdlVars::Tree.FoundCount, 2) << "the row after the cancel is not read";
+  Lines("C:\\Data\\Big.bin\r\nC:\\Data\\README.TXT\r\nC:\\Data\\gone.txt\r\n");
+  CancelAfter progress(3);  // at the start of the run, and after the second line: the missing file is not looked for
+  EXPECT_EQ(ListWith(progress).Lists, 0);
 }
 
 }  // namespace

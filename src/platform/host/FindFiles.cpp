@@ -69,9 +69,7 @@ void Fill(const struct stat& status, const char* name, bool link, dev_t parentDe
   if (directory && (link || status.st_dev != parentDevice)) {
     data.Attributes |= kLink;
   }
-  const std::uint64_t size = directory ? 0 : static_cast<std::uint64_t>(status.st_size);
-  data.SizeHigh = static_cast<std::uint32_t>(size >> 32);
-  data.SizeLow = static_cast<std::uint32_t>(size);
+  data.Size = directory ? 0 : static_cast<std::uint64_t>(status.st_size);
   data.LastWrite = FileTime(status.st_mtim);
 }
 

@@ -13,9 +13,7 @@ FINDEX_INFO_LEVELS Level(ShortNames shortNames) {
 void Fill(const WIN32_FIND_DATAW& found, FindData& data) {
   data.Attributes = found.dwFileAttributes;
   data.LastWrite = std::uint64_t{found.ftLastWriteTime.dwHighDateTime} << 32 | found.ftLastWriteTime.dwLowDateTime;
-  const bool directory = data.IsDirectory();
-  data.SizeHigh = directory ? 0 : found.nFileSizeHigh;
-  data.SizeLow = directory ? 0 : found.nFileSizeLow;
+  data.Size = data.IsDirectory() ? 0 : std::uint64_t{found.nFileSizeHigh} << 32 | found.nFileSizeLow;
 }
 
 bool IsDots(const wchar_t* name) {

@@ -77,7 +77,7 @@ TEST_F(HostFiles, FollowsLinksAndDoesNotSeeBrokenOnes) {
   const std::map<std::wstring, std::uint32_t> expected{
       {L"file", kArchive}, {L"to file", kArchive}, {L"folder", kDirectory}, {L"to folder", kDirectory | kLink}};
   EXPECT_EQ(Attributes(scratch_.Folder()), expected);
-  EXPECT_EQ(FindEntry(scratch_.Path(L"to file"))->Data.SizeLow, 5U);
+  EXPECT_EQ(FindEntry(scratch_.Path(L"to file"))->Data.Size, 5U);
   EXPECT_EQ(FindEntry(scratch_.Path(L"TO FOLDER"))->Data.Attributes, kDirectory | kLink);
   EXPECT_FALSE(FindEntry(scratch_.Path(L"broken")));
   EXPECT_FALSE(PathExists(scratch_.Path(L"broken")));
@@ -160,7 +160,7 @@ TEST_F(HostFiles, OpensPathsLongerThanTheSystemTakes) {
   ReplaceFile(path + L"\\bottom.txt", "12345");
   EXPECT_EQ(ReadWholeFile(path + L"\\BOTTOM.txt"), "12345");
   EXPECT_EQ(Attributes(path).count(L"bottom.txt"), 1U);
-  EXPECT_EQ(FindEntry(path + L"\\bottom.txt")->Data.SizeLow, 5U);
+  EXPECT_EQ(FindEntry(path + L"\\bottom.txt")->Data.Size, 5U);
   EXPECT_TRUE(IdentityOf(path));
   EXPECT_FALSE(FindFiles(path + L"\\missing", ShortNames::Skip).Opened());
 }

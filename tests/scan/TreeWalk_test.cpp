@@ -6,9 +6,9 @@ namespace {
 
 using testing::ElementsAre;
 
-using TreeStyleTest = ListingTest;
+using TreeWalkTest = ListingTest;
 
-TEST_F(TreeStyleTest, ContentsFollowTheirDirectory) {
+TEST_F(TreeWalkTest, ContentsFollowTheirDirectory) {
   Tree().Dir(L"C:\\Data").File(L"z.txt").Folder(L"Two").Folder(L"One").File(L"a.txt");
   Tree().Dir(L"C:\\Data\\One").File(L"x.txt").Folder(L"Deep");
   Tree().Dir(L"C:\\Data\\One\\Deep").File(L"y.txt");
@@ -16,63 +16,63 @@ TEST_F(TreeStyleTest, ContentsFollowTheirDirectory) {
                                        L"0 Two", L"0 A.txt", L"0 Z.txt", L"end"));
 }
 
-TEST_F(TreeStyleTest, FilesFirstPutsFilesBeforeDirectories) {
+TEST_F(TreeWalkTest, FilesFirstPutsFilesBeforeDirectories) {
   Tree().Dir(L"C:\\Data").Folder(L"A").File(L"z.txt");
   Tree().Dir(L"C:\\Data\\A").File(L"y.txt");
-  mdlVars::General.FilesFirst = true;
+  General.FilesFirst = true;
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Z.txt", L"0 A", L"1 Y.txt", L"end"));
 }
 
-TEST_F(TreeStyleTest, FilesFirstMeansNothingInOtherStyles) {
+TEST_F(TreeWalkTest, FilesFirstMeansNothingInOtherStyles) {
   Tree().Dir(L"C:\\Data").File(L"a.txt").Folder(L"Sub");
-  mdlVars::General.FilesFirst = true;
+  General.FilesFirst = true;
   EXPECT_THAT(List(kFlat), ElementsAre(L"begin", L"0 C:\\Data: Sub A.txt (2 files, 0 b )", L"end"));
 }
 
-TEST_F(TreeStyleTest, WithoutAnOrderTheEnumerationStaysEvenWithFilesFirst) {
+TEST_F(TreeWalkTest, WithoutAnOrderTheEnumerationStaysEvenWithFilesFirst) {
   Tree().Dir(L"C:\\Data").File(L"b").Folder(L"C").File(L"a");
-  mdlVars::General.FilesFirst = true;
-  mdlVars::Filter.OrderBy = OrderBy::None;
+  General.FilesFirst = true;
+  Filter.OrderBy = OrderBy::None;
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 B", L"0 C", L"0 A", L"end"));
 }
 
-TEST_F(TreeStyleTest, EveryDirectoryIsKeptAndFilesAreFiltered) {
+TEST_F(TreeWalkTest, EveryDirectoryIsKeptAndFilesAreFiltered) {
   Tree().Dir(L"C:\\Data").Folder(L"Sub").AddAttributes(platform::kHidden).File(L"a.txt").File(L"a.bak");
   Tree().Dir(L"C:\\Data\\Sub").File(L"b.bak");
-  mdlVars::Filter.FilterName = L"*.txt";
-  mdlVars::Filter.AttrOn = true;
-  mdlVars::Filter.Attributes[kAttrHidden] = AttributeChoice::MustNotHave;
-  mdlVars::Filter.Attributes[kAttrDirectory] = AttributeChoice::MustNotHave;
+  Filter.FilterName = L"*.txt";
+  Filter.AttrOn = true;
+  Filter.Attributes[kAttrHidden] = AttributeChoice::MustNotHave;
+  Filter.Attributes[kAttrDirectory] = AttributeChoice::MustNotHave;
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"0 A.txt", L"end"));
 }
 
-TEST_F(TreeStyleTest, AnUnreadableSubdirectoryIsNotShown) {
+TEST_F(TreeWalkTest, AnUnreadableSubdirectoryIsNotShown) {
   Tree().Dir(L"C:\\Data").Folder(L"Locked").Unreadable().Folder(L"Open").File(L"a");
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Open", L"0 A", L"end"));
-  EXPECT_TRUE(mdlVars::Tree.Unreadable);
+  EXPECT_TRUE(Run.Unreadable);
 }
 
-TEST_F(TreeStyleTest, BelowTheDepthLimitNobodyKnowsThatADirectoryIsUnreadable) {
+TEST_F(TreeWalkTest, BelowTheDepthLimitNobodyKnowsThatADirectoryIsUnreadable) {
   Tree().Dir(L"C:\\Data\\Sub").Folder(L"Locked").Unreadable().Folder(L"Open");
   Tree().Dir(L"C:\\Data\\Sub\\Open").File(L"a");
-  mdlVars::Format.SubLevel = 1;
+  Format.SubLevel = 1;
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"1 Locked", L"1 Open", L"end"));
-  EXPECT_FALSE(mdlVars::Tree.Unreadable);
+  EXPECT_FALSE(Run.Unreadable);
 }
 
-TEST_F(TreeStyleTest, ANegativeSubLevelListsTheStartDirectoryAlone) {
+TEST_F(TreeWalkTest, ANegativeSubLevelListsTheStartDirectoryAlone) {
   Tree().Dir(L"C:\\Data\\Sub\\Deep");
-  mdlVars::Format.SubLevel = -1;
+  Format.SubLevel = -1;
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"end"));
 }
 
-TEST_F(TreeStyleTest, ShowsRecasedNamesAndOpensThoseOnDisk) {
+TEST_F(TreeWalkTest, ShowsRecasedNamesAndOpensThoseOnDisk) {
   Tree().Dir(L"C:\\Data\\SUB\\low").File(L"A.TXT");
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"1 Low", L"2 A.txt", L"end"));
   EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\Sub", L"C:\\Data\\Sub\\Low"));
 }
 
-TEST_F(TreeStyleTest, TwoDirectoriesThatDifferInCaseOnlyAreBothEntered) {
+TEST_F(TreeWalkTest, TwoDirectoriesThatDifferInCaseOnlyAreBothEntered) {
   Tree().Dir(L"C:\\Data").Folder(L"SUB").Folder(L"sub");
   Tree().Dir(L"C:\\Data").Dir(L"SUB").File(L"capital");
   Tree().Dir(L"C:\\Data").Dir(L"sub").File(L"small");
@@ -80,21 +80,21 @@ TEST_F(TreeStyleTest, TwoDirectoriesThatDifferInCaseOnlyAreBothEntered) {
               ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"1 Capital", L"0 Sub", L"1 Small", L"end"));
 }
 
-TEST_F(TreeStyleTest, TotalsCountFilesAndEveryDirectory) {
+TEST_F(TreeWalkTest, TotalsCountFilesAndEveryDirectory) {
   Tree().Dir(L"C:\\Data").Folder(L"Sub").Folder(L"Locked").Unreadable().File(L"a", 10);
   Tree().Dir(L"C:\\Data\\Sub").File(L"b", 5);
   List(kTree);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalSize.Whole(), 15);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalFiles, 2);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, 2);
+  EXPECT_EQ(Run.Totals.TotalSize.Whole(), 15);
+  EXPECT_EQ(Run.Totals.TotalFiles, 2);
+  EXPECT_EQ(Run.Totals.TotalDirs, 2);
 }
 
-TEST_F(TreeStyleTest, ALinkToAnAncestorIsShownButNotEntered) {
+TEST_F(TreeWalkTest, ALinkToAnAncestorIsShownButNotEntered) {
   Tree().Dir(L"C:\\Data\\Sub").Link(L"Up", L"C:\\Data").File(L"a");
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 Sub", L"1 Up", L"1 A", L"end"));
 }
 
-TEST_F(TreeStyleTest, SharesGoDownTheTree) {
+TEST_F(TreeWalkTest, SharesGoDownTheTree) {
   Tree().Dir(L"C:\\Data\\A\\A1");
   Tree().Dir(L"C:\\Data\\A\\A2");
   Tree().Dir(L"C:\\Data\\A\\A3");
@@ -104,14 +104,14 @@ TEST_F(TreeStyleTest, SharesGoDownTheTree) {
   EXPECT_THAT(Watcher.Shares, ElementsAre(12, 12, 12, 12, 50));  // 50 / 4 is 12.5
 }
 
-TEST_F(TreeStyleTest, CancelStopsAfterTheNextEntryAndTheCollectedOnesAreStillWritten) {
+TEST_F(TreeWalkTest, CancelStopsAfterTheNextEntryAndTheCollectedOnesAreStillWritten) {
   Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B").File(L"z");
   Tree().Dir(L"C:\\Data\\A").File(L"a1").File(L"a2");
   Watcher.CancelIn(L"C:\\Data\\A");
   EXPECT_THAT(List(kTree), ElementsAre(L"begin", L"tree C:\\Data", L"0 A", L"1 A1", L"abort"));
 }
 
-TEST_F(TreeStyleTest, DepthIsNotLimitedByTheStack) {
+TEST_F(TreeWalkTest, DepthIsNotLimitedByTheStack) {
   constexpr int kDepth = 20'000;
   fakes::FakeDir directory = Tree().Dir(L"C:\\Data");
   for (int i = 0; i < kDepth; ++i) {
@@ -119,14 +119,7 @@ TEST_F(TreeStyleTest, DepthIsNotLimitedByTheStack) {
   }
   Watcher.OnDirectory = [&](std::wstring_view) { Watcher.Shown.clear(); };
   EXPECT_EQ(List(kTree).size(), 3U + kDepth);
-  EXPECT_EQ(mdlVars::Tree.Totals.TotalDirs, kDepth + 1);
-}
-
-TEST_F(TreeStyleTest, TheListsAreEmptyAfterTheRun) {
-  Tree().Dir(L"C:\\Data\\Sub").File(L"a");
-  List(kTree);
-  EXPECT_TRUE(mdlVars::Tree.TreeList.empty());
-  EXPECT_TRUE(mdlVars::Tree.TreeRecords.empty());
+  EXPECT_EQ(Run.Totals.TotalDirs, kDepth + 1);
 }
 
 }  // namespace
