@@ -1,11 +1,15 @@
 #!/bin/bash
 # Builds Folivant.exe and lists a folder with it:  ./run.sh [FOLDER] [KIND] [STYLE]
-#   KIND   text (default), tab, csv, html, xml
+#   KIND   text (default) or another word of the table in src/output/OutputKinds.cpp: tab, html, csv, xml
 #   STYLE  files, subdirectories (default), tree, directories, paths
 set -euo pipefail
 usage() {
   sed -n '2,4s/^# \{0,1\}//p' "$0" >&2
   exit 1
+}
+# The letter of a kind, from the table; nothing for a word that is none.
+letter_of() {
+  sed -nE "s/^ *\{OutputKind::[A-Za-z]+, L\"$1\", L'(.)'.*/\\1/p" "$here/src/output/OutputKinds.cpp"
 }
 here=$(cd "$(dirname "$0")" && pwd)
 folder=$here kind=t style=1
@@ -16,9 +20,9 @@ fi
 cd "$here"
 for word in "$@"; do
   case $word in
-    text) kind=t ;; tab) kind=a ;; csv) kind=c ;; html) kind=h ;; xml) kind=x ;;
     files) style=0 ;; subdirectories) style=1 ;; tree) style=2 ;; directories) style=3 ;; paths) style=4 ;;
-    *) usage ;;
+    printer | *[^a-z0-9-]*) usage ;;
+    *) kind=$(letter_of "$word") && [ "$kind" ] || usage ;;
   esac
 done
 

@@ -1,4 +1,4 @@
-// What start-up asks of the main window. frmMain answers it in the Windows program; the native build has no window.
+// What start-up asks of the main window. frmMain answers it in the Windows program; the host build has no window.
 #pragma once
 
 namespace folivant {

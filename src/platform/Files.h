@@ -36,13 +36,13 @@ std::wstring AbsolutePath(const std::wstring& path);
 std::wstring TemporaryDirectory();
 /// The folder that holds the program, without a trailing backslash; language files and help lie in it.
 std::wstring ProgramFolder();
-/// The current user's Send To folder; nothing when the shell does not know one (always so in the native build
+/// The current user's Send To folder; nothing when the shell does not know one (always so in the host build
 /// unless the environment variable FOLIVANT_SENDTO names a folder).
 std::optional<std::wstring> SendToFolder();
 
-/// Names of a folder's entries that match `pattern` ("*.ini"), any attributes, letter case ignored, in the order of the
+/// Names of a folder's entries that end in `ending` (".ini"), any attributes, letter case ignored, in the order of the
 /// file system.
-std::vector<std::wstring> FindNames(const std::wstring& folder, const std::wstring& pattern);
+std::vector<std::wstring> FindNames(const std::wstring& folder, std::wstring_view ending);
 
 /// The label of the volume whose root is `root` ("C:\"); empty when it has none or cannot be asked.
 std::wstring VolumeLabel(const std::wstring& root);

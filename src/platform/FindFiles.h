@@ -1,4 +1,4 @@
-// Enumeration of directories and look-up of single entries. Paths are Windows paths ("C:\Data"); in the native build
+// Enumeration of directories and look-up of single entries. Paths are Windows paths ("C:\Data"); in the host build
 // the drive "Z:" stands for "/". Paths longer than 260 characters work.
 #pragma once
 

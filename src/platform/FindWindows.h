@@ -1,6 +1,6 @@
 // Other programs' windows: which are open, what is inside them, and the memory and messages through which a list view
 // that belongs to another program is read. What is asked of such a list view, and in which order, is mdlFind's work.
-// The native build has no windows: nothing is ever found there.
+// The host build has no windows: nothing is ever found there.
 #pragma once
 
 #include <cstddef>

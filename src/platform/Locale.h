@@ -1,4 +1,4 @@
-// The number and date habits of the user's locale. The native build answers as an English (United States) system.
+// The number and date habits of the user's locale. The host build answers as an English (United States) system.
 #pragma once
 
 #include <string>

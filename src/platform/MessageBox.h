@@ -10,7 +10,7 @@ enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
 enum class BoxDefault { First, Second };
 
-/// A modal message box titled "Folivant", owned by the thread's active window if there is one. The native build writes
+/// A modal message box titled "Folivant", owned by the thread's active window if there is one. The host build writes
 /// the text to standard error and answers Ok, No or Cancel: the choice that changes nothing.
 BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons,
                       BoxDefault preset = BoxDefault::First);

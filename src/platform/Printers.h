@@ -1,4 +1,4 @@
-// The printers of this system. The native build has none.
+// The printers of this system. The host build has none.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,5 @@
 // The per-user store: text values under a section and a key. On Windows string values below
-// HKEY_CURRENT_USER\Software\Folivant 3.0\<section>; in the native build a private-profile file
+// HKEY_CURRENT_USER\Software\Folivant 3.0\<section>; in the host build a private-profile file
 // "Folivant 3.0/settings.ini" in the user's configuration folder ($XDG_CONFIG_HOME or ~/.config).
 #pragma once
 

@@ -14,7 +14,7 @@ void LowerInto(std::wstring_view text, wchar_t* out);
 void UpperInto(std::wstring_view text, wchar_t* out);
 
 /// The platform's case-insensitive text comparison: -1, 0 or +1. On Windows CompareString with the user's locale,
-/// ignoring case, kana type and width; in the native build lower-case code points.
+/// ignoring case, kana type and width; in the host build lower-case code points.
 int CompareText(std::wstring_view a, std::wstring_view b);
 /// Appends bytes that sort, as unsigned bytes and a shorter prefix first, exactly as CompareText orders the texts.
 /// Making a key once costs far less than comparing often.

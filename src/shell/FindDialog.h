@@ -1,5 +1,5 @@
 // What the capture asks of the dialog in which the user picks a Find window. frmFind answers it in the Windows program;
-// the native build has no windows, and a test plays the user.
+// the host build has no windows, and a test plays the user.
 #pragma once
 
 #include <memory>

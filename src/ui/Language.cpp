@@ -83,7 +83,7 @@ std::vector<LanguageEntry> ListLanguages(const std::wstring& programFolder) {
   constexpr wchar_t kNoLanguage[] = L"(error)";
   std::vector<LanguageEntry> languages;
   Failures ignored;
-  for (const std::wstring& name : platform::FindNames(programFolder, L"*.ini")) {
+  for (const std::wstring& name : platform::FindNames(programFolder, L".ini")) {
     const ProfileFile file = ReadableOrEmpty(AddBackslash(programFolder) + name, ignored);
     const std::wstring language = StripNulls(file.Read(kSection, L"Language", kNoLanguage, kLongestName));
     if (language != kNoLanguage) {

@@ -32,18 +32,6 @@ FakeFailure PathNotFound() {
   return {3, L"The system cannot find the path specified."};
 }
 
-/// "*" and "?" as in the file dialogs; letter case is ignored.
-bool Matches(std::wstring_view name, std::wstring_view pattern) {
-  if (pattern.empty()) {
-    return name.empty();
-  }
-  if (pattern.front() == L'*') {
-    return Matches(name, pattern.substr(1)) || (!name.empty() && Matches(name.substr(1), pattern));
-  }
-  return !name.empty() && (pattern.front() == L'?' || CompareText(name.substr(0, 1), pattern.substr(0, 1)) == 0) &&
-         Matches(name.substr(1), pattern.substr(1));
-}
-
 std::wstring RootOf(const std::wstring& path) {
   return ToUpper(path.substr(0, 2)) + L"\\";
 }
@@ -142,11 +130,11 @@ std::optional<std::wstring> SendToFolder() {
   return Fake().SendToFolder;
 }
 
-std::vector<std::wstring> FindNames(const std::wstring& folder, const std::wstring& pattern) {
+std::vector<std::wstring> FindNames(const std::wstring& folder, std::wstring_view ending) {
   std::vector<std::wstring> names;
   if (const FakeNode* node = Fake().Tree.Find(folder); node != nullptr && !node->Unreadable) {
     for (const FakeNode* child : node->Children) {
-      if (Matches(child->Name, pattern)) {
+      if (ToLower(child->Name).ends_with(ToLower(ending))) {
         names.push_back(child->Name);
       }
     }

@@ -17,12 +17,12 @@
 namespace folivant::platform {
 namespace {
 
-Descriptor Open(const Place& place, int flags, mode_t mode = 0) {
+Descriptor Open(const HostPath& place, int flags, mode_t mode = 0) {
   return Descriptor(openat(place.Directory(), place.Name(), flags | O_CLOEXEC, mode));
 }
 
 std::optional<struct stat> StatusOf(std::wstring_view path) {
-  const Place place = Locate(path);
+  const HostPath place = Locate(path);
   struct stat status;
   if (fstatat(place.Directory(), place.Name(), &status, 0) != 0) {
     return std::nullopt;
@@ -34,7 +34,7 @@ std::optional<struct stat> StatusOf(std::wstring_view path) {
 /// unless it is moved over it.
 class TemporaryFile {
  public:
-  TemporaryFile(const Place& target, const std::wstring& path) : target_(target), path_(path) {
+  TemporaryFile(const HostPath& target, const std::wstring& path) : target_(target), path_(path) {
     struct stat status;
     const bool replaces = fstatat(target.Directory(), target.Name(), &status, 0) == 0;
     if (replaces && !IsWritable(status)) {
@@ -81,7 +81,7 @@ class TemporaryFile {
     }
   }
 
-  const Place& target_;
+  const HostPath& target_;
   std::wstring path_;
   std::string name_;
   Descriptor file_;
@@ -92,7 +92,7 @@ class TemporaryFile {
 
 void ReplaceFile(const std::wstring& path, std::string_view bytes) {
   const std::wstring full = AbsolutePath(path);
-  const Place target = Locate(full);
+  const HostPath target = Locate(full);
   TemporaryFile file(target, full);
   file.Write(bytes);
   file.MoveOverTarget();
@@ -103,7 +103,7 @@ bool TruncateFile(const std::wstring& path) {
 }
 
 bool RemoveFile(const std::wstring& path) {
-  const Place place = Locate(path);
+  const HostPath place = Locate(path);
   return unlinkat(place.Directory(), place.Name(), 0) == 0;
 }
 
@@ -118,7 +118,7 @@ bool IsDirectory(std::wstring_view path) {
 
 std::wstring CurrentDirectory() {
   const std::unique_ptr<char, void (*)(void*)> directory(getcwd(nullptr, 0), std::free);
-  return directory ? FromNativePath(directory.get()) : L"Z:\\";
+  return directory ? FromHostPath(directory.get()) : L"Z:\\";
 }
 
 std::wstring AbsolutePath(const std::wstring& path) {
@@ -132,19 +132,19 @@ std::wstring AbsolutePath(const std::wstring& path) {
   }
   std::string full = bytes.front() == '/' ? bytes : HostBytes(CurrentDirectory()) + "/" + bytes;
   full = std::filesystem::path(full).lexically_normal();
-  return FromNativePath(full);
+  return FromHostPath(full);
 }
 
 std::wstring TemporaryDirectory() {
   const char* named = std::getenv("TMPDIR");
-  return FromNativePath(named != nullptr && named[0] == '/' ? named : "/tmp");
+  return FromHostPath(named != nullptr && named[0] == '/' ? named : "/tmp");
 }
 
 std::wstring ProgramFolder() {
   std::string file(PATH_MAX, '\0');
   const ssize_t length = readlink("/proc/self/exe", file.data(), file.size());
   file.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
-  return FromNativePath(file.substr(0, file.rfind('/')));
+  return FromHostPath(file.substr(0, file.rfind('/')));
 }
 
 std::optional<std::wstring> SendToFolder() {
@@ -152,7 +152,7 @@ std::optional<std::wstring> SendToFolder() {
   if (folder == nullptr || folder[0] == '\0') {
     return std::nullopt;
   }
-  return folder[0] == '/' ? FromNativePath(folder) : FromUtf8(folder);
+  return folder[0] == '/' ? FromHostPath(folder) : FromUtf8(folder);
 }
 
 std::wstring VolumeLabel(const std::wstring&) {
@@ -160,7 +160,7 @@ std::wstring VolumeLabel(const std::wstring&) {
 }
 
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
-  const Place place = Locate(directory);
+  const HostPath place = Locate(directory);
   const Descriptor opened(openat(place.Directory(), place.Name(), O_PATH | O_CLOEXEC));
   struct statvfs status;
   if (!opened || fstatvfs(opened.Get(), &status) != 0) {

@@ -84,7 +84,7 @@ Descriptor OpenDirectory(std::wstring_view path, int flags) {
   const std::string bytes = HostBytes(path);
   Descriptor directory(open(bytes.c_str(), flags));
   if (!directory && (errno == ENOENT || errno == ENAMETOOLONG)) {
-    const Place place = Locate(path);
+    const HostPath place = Locate(path);
     directory = Descriptor(openat(place.Directory(), place.Name(), flags));
   }
   return directory;
@@ -166,7 +166,7 @@ std::optional<FoundEntry> FindEntry(std::wstring_view path) {
   if (last.empty() || last == L"." || last == L"..") {
     return std::nullopt;
   }
-  const Place place = Locate(path);
+  const HostPath place = Locate(path);
   struct stat status;
   struct stat itself;
   if (fstatat(place.Directory(), place.Name(), &status, 0) != 0 ||

@@ -10,7 +10,7 @@
 
 namespace folivant::platform {
 
-std::wstring FromNativePath(std::string_view path) {
+std::wstring FromHostPath(std::string_view path) {
   std::wstring text = L"Z:" + FromUtf8(path);
   std::replace(text.begin(), text.end(), L'/', L'\\');
   return text;

@@ -1,4 +1,4 @@
-// What the native bodies share: the spelling of file names, and errors.
+// What the host bodies share: the spelling of file names, and errors.
 #pragma once
 
 #include <sys/stat.h>
@@ -11,7 +11,7 @@
 namespace folivant::platform {
 
 /// "/a/b" as "Z:\a\b".
-std::wstring FromNativePath(std::string_view path);
+std::wstring FromHostPath(std::string_view path);
 
 /// Whether anybody may write the file; otherwise it is what Windows calls read-only.
 bool IsWritable(const struct stat& status);

@@ -36,18 +36,18 @@ std::string ExactOrOnDisk(int directory, const std::string& name) {
 }
 
 /// Goes down one component after the other.
-Place Descend(std::string_view bytes) {
+HostPath Descend(std::string_view bytes) {
   Descriptor directory(openat(AT_FDCWD, bytes.starts_with('/') ? "/" : ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
   for (;;) {
     bytes.remove_prefix(std::min(bytes.find_first_not_of('/'), bytes.size()));
     const std::size_t end = bytes.find('/');
     const std::string name = ExactOrOnDisk(directory.Get(), std::string(bytes.substr(0, end)));
     if (end == bytes.npos) {
-      return Place(std::move(directory), name.empty() ? "." : name);
+      return HostPath(std::move(directory), name.empty() ? "." : name);
     }
     Descriptor next(openat(directory.Get(), name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     if (!next) {
-      return Place(std::move(directory), std::string(bytes));
+      return HostPath(std::move(directory), std::string(bytes));
     }
     directory = std::move(next);
     bytes.remove_prefix(end);
@@ -69,10 +69,10 @@ std::string HostBytes(std::wstring_view path) {
   return drive && bytes.empty() ? "." : bytes;
 }
 
-Place Locate(std::wstring_view path) {
+HostPath Locate(std::wstring_view path) {
   std::string bytes = HostBytes(path);
   if (bytes.empty() || (bytes.size() < PATH_MAX && IsThere(AT_FDCWD, bytes.c_str()))) {
-    return Place(std::move(bytes));
+    return HostPath(std::move(bytes));
   }
   return Descend(bytes);
 }

@@ -14,11 +14,11 @@ namespace folivant::platform {
 std::string HostBytes(std::wstring_view path);
 
 /// Where a path leads: a name below an open directory. To be given to the ...at functions, which say whether it exists.
-class Place {
+class HostPath {
  public:
   /// `bytes` is taken from the current directory.
-  explicit Place(std::string bytes) : name_(std::move(bytes)) {}
-  Place(Descriptor directory, std::string name) : directory_(std::move(directory)), name_(std::move(name)) {}
+  explicit HostPath(std::string bytes) : name_(std::move(bytes)) {}
+  HostPath(Descriptor directory, std::string name) : directory_(std::move(directory)), name_(std::move(name)) {}
 
   int Directory() const { return directory_ ? directory_.Get() : AT_FDCWD; }
   const char* Name() const { return name_.c_str(); }
@@ -31,6 +31,6 @@ class Place {
 /// The place of an existing file or directory: of the exact name if there is one, otherwise of the first that differs
 /// in letter case only, component by component. What does not exist keeps its name as given. Long paths are opened in
 /// pieces, so that their length does not matter.
-Place Locate(std::wstring_view path);
+HostPath Locate(std::wstring_view path);
 
 }  // namespace folivant::platform

@@ -15,7 +15,7 @@ struct InputFile::State {
 
 InputFile::InputFile(const std::wstring& path) : state_(std::make_unique<State>()) {
   state_->Path = AbsolutePath(path);
-  const Place place = Locate(state_->Path);
+  const HostPath place = Locate(state_->Path);
   state_->File = Descriptor(openat(place.Directory(), place.Name(), O_RDONLY | O_CLOEXEC));
   if (!state_->File) {
     throw SystemError(FailedAction::ReadFile, state_->Path);

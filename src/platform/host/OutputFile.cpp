@@ -35,7 +35,7 @@ OutputFile::~OutputFile() = default;
 void OutputFile::Open(const std::wstring& path) {
   state_ = std::make_unique<State>();
   const std::wstring full = AbsolutePath(path);
-  const Place place = Locate(full);
+  const HostPath place = Locate(full);
   Descriptor file(openat(place.Directory(), place.Name(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
   if (!file) {
     throw SystemError(FailedAction::CreateFile, full);

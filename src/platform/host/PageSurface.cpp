@@ -1,4 +1,4 @@
-// The native build has no printer.
+// The host build has no printer.
 #include "platform/PageSurface.h"
 
 #include <cerrno>

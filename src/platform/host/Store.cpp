@@ -25,7 +25,7 @@ std::string ConfigurationFolder() {
 }
 
 std::wstring StorePath() {
-  return FromNativePath(ConfigurationFolder() + "/Folivant 3.0/settings.ini");
+  return FromHostPath(ConfigurationFolder() + "/Folivant 3.0/settings.ini");
 }
 
 /// What tells one state of a file from the next.

@@ -1,4 +1,4 @@
-// The native build has no Find window, so there is nothing to choose from and nothing to show.
+// The host build has no Find window, so there is nothing to choose from and nothing to show.
 #include "shell/FindDialog.h"
 
 namespace folivant {

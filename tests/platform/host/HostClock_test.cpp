@@ -1,4 +1,4 @@
-// The native build's own way to the zone.
+// The host build's own way to the zone.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

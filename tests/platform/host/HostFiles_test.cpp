@@ -1,4 +1,4 @@
-// What only the native body shows: links, devices, odd bytes in names, paths in pieces, rights.
+// What only the host body shows: links, devices, odd bytes in names, paths in pieces, rights.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
