@@ -1,6 +1,5 @@
-// Loading and saving of everything that Folivant remembers. Each setting is one row of the table in Settings.cpp: key,
-// section, default, route and member; a row with the route Ex travels into filter files, one with Store does not.
-// All of it works on the records of mdlVars. While mdlVars::UseFilterFile is raised the filter file is read or written.
+// Loading and saving of everything that Folivant remembers: the rows of app/SettingsTable.h, which are members of the
+// records of mdlVars. While mdlVars::UseFilterFile is raised the filter file is read or written.
 #pragma once
 
 #include <string>
@@ -38,11 +37,5 @@ void SaveFilterFile(const std::wstring& path);
 /// The page of the options dialog that was shown last, from 1.
 int LoadLastTab();
 void SaveLastTab(int tab);
-
-/// Puts the system's default printer in place of "(no printer)". Asking the system costs more than a short listing, so
-/// it is done where a printer is first needed; without any printer the name stays.
-void ResolvePrinterName();
-/// The same, before a run to the printer: whether there is one to print on. Otherwise a message has said why not.
-bool FindPrinter();
 
 }  // namespace folivant

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/ChosenPrinter.h"
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/SendTo.h"
@@ -88,7 +89,7 @@ bool HasDestination() {
   if (mdlVars::OutputKind != OutputKind::Printer) {
     return !mdlVars::OutputFile.empty() || AskForOutputFile();
   }
-  return FindPrinter();
+  return FindPrinter(mdlVars::Printer, mdlVars::Texts);
 }
 
 /// The run of "/g": no window, no viewer, and the stored settings stay as they are.
@@ -160,7 +161,7 @@ int StartWindow() {
   if (platform::PrinterNames().empty()) {
     mdlVars::OutputTo = OutputTarget::File;
   }
-  ResolvePrinterName();
+  ResolvePrinterName(mdlVars::Printer);
   return ShowMainWindow();
 }
 

@@ -2,6 +2,7 @@
 #include <optional>
 #include <string>
 
+#include "app/ChosenPrinter.h"
 #include "app/MainWindow.h"
 #include "app/Settings.h"
 #include "app/StartUp.h"
@@ -274,7 +275,7 @@ bool frmMain::ChooseDestination() {
   switch (GetOutputTo()) {
     case OutputTarget::Printer:
       mdlVars::OutputKind = OutputKind::Printer;
-      return FindPrinter();
+      return FindPrinter(mdlVars::Printer, mdlVars::Texts);
     case OutputTarget::File: {
       CDTextfile dialog(Window());
       if (!ChooseOutputFile(dialog, mdlVars::Texts, file_)) {

@@ -826,21 +826,10 @@ TEST(Settings, TheLastTabIsRemembered) {
   EXPECT_EQ(LoadLastTab(), 1);
 }
 
-TEST(Settings, TheDefaultPrinterIsAskedForOnlyWhereItIsNeeded) {
+TEST(Settings, LoadingAsksForNoPrinter) {
   fakes::Session().Printers = {L"Laser", L"Ink"};
   LoadSettings();
   EXPECT_EQ(fakes::Session().DefaultPrinterAsked, 0);
-  ResolvePrinterName();
-  EXPECT_EQ(Printer.PrinterName, L"Laser");
-  Printer.PrinterName = L"Ink";
-  ResolvePrinterName();
-  EXPECT_EQ(Printer.PrinterName, L"Ink");
-}
-
-TEST(Settings, WithoutAnyPrinterTheNameStays) {
-  LoadSettings();
-  ResolvePrinterName();
-  EXPECT_EQ(Printer.PrinterName, L"(no printer)");
 }
 
 }  // namespace
