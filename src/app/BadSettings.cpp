@@ -13,7 +13,7 @@ constexpr std::size_t kMostLines = 10;
 constexpr std::size_t kMostCharacters = 60;  ///< of a value
 
 std::wstring OneSetting(const BadSetting& setting, const Messages& texts) {
-  std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Place, setting.Key, setting.Value);
+  std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Location, setting.Key, setting.Value);
   if (setting.Limits) {
     text += L"\r\n" + WithPlaceholders(texts[Text::ValidValues], setting.Limits->Lowest, setting.Limits->Highest);
   }
@@ -41,8 +41,8 @@ std::wstring BadSettingsText(const std::vector<BadSetting>& bad, const Messages&
   std::wstring text;
   std::wstring place;
   for (const BadSetting& setting : std::span(bad).first(std::min(bad.size(), kMostLines))) {
-    if (setting.Place != place) {
-      place = setting.Place;
+    if (setting.Location != place) {
+      place = setting.Location;
       text += text.empty() ? L"" : L"\r\n\r\n";
       text += WithPlaceholders(texts[Text::BadSettings], place) + L"\r\n";
     }

@@ -12,7 +12,7 @@ namespace folivant {
 
 /// A stored value that does not convert.
 struct BadSetting {
-  std::wstring Place;  ///< the filter file, or the store's name
+  std::wstring Location;  ///< the filter file, or the store's name
   std::wstring Key;
   std::wstring Value;
   std::optional<ValueLimits> Limits;  ///< what it would have to lie between, when it is a number or a day

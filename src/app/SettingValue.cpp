@@ -1,3 +1,4 @@
+// Setting values as text and back: one reader and one writer for each type that a setting can have.
 #include "app/SettingValue.h"
 
 #include <algorithm>

@@ -67,7 +67,7 @@ void Load(const SettingsStore& store, const Setting& setting, std::vector<BadSet
   }
   const StoredText stored = ReadSetting(store, setting);
   if (const std::optional<Refusal> refusal = ReadMember(setting.Member, stored.Text)) {
-    bad.push_back({store.PlaceOf(setting.Section), stored.Key, stored.Value, refusal->Limits});
+    bad.push_back({store.LocationOf(setting.Section), stored.Key, stored.Value, refusal->Limits});
     ReadMember(setting.Member, DefaultOf(setting));
   }
 }

@@ -47,7 +47,7 @@ void SettingsStore::Save() const {
   }
 }
 
-std::wstring SettingsStore::PlaceOf(const std::wstring& section) const {
+std::wstring SettingsStore::LocationOf(const std::wstring& section) const {
   return file_ ? file_->Path() : platform::StoreName(section);
 }
 

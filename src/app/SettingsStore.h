@@ -36,7 +36,7 @@ class SettingsStore {
   /// RuntimeError (WriteFile).
   void Save() const;
   /// What a message calls the place of a setting: the filter file's path, or the store's own name.
-  std::wstring PlaceOf(const std::wstring& section) const;
+  std::wstring LocationOf(const std::wstring& section) const;
 
  private:
   std::optional<ProfileFile> file_;

@@ -1,3 +1,4 @@
+// One row for each setting: who saves it, whether it travels, where it lies, its default and its member.
 #include "app/SettingsTable.h"
 
 #include <vector>

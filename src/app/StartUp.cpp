@@ -1,3 +1,4 @@
+// From the command line to a listing or a window, and to the exit status.
 #include "app/StartUp.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// The main window: what is listed, where to, and the way into every other window.
 #include <memory>
 #include <optional>
 #include <string>

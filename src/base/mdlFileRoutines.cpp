@@ -1,3 +1,4 @@
+// Small text, path and number helpers.
 #include "base/mdlFileRoutines.h"
 
 #include <algorithm>

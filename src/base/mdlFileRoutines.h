@@ -30,11 +30,12 @@ inline constexpr std::size_t kSizeUnits = 5;
 /// Divides by 1024, dropping fractions, while the number is 10,000 or more, at most four times. The threshold is not
 /// 1024, so that small files keep their exact size.
 ScaledSize ScaleSize(Currency bytes);
-/// A size with fixed unit names, for file lists; FormatSize (output/EntryFormatting.h) takes them from the language.
+/// A size with fixed unit names, for file lists; FormatSize (ui/ValueText.h) takes them from the language.
 std::wstring FormatSizeFixedUnits(Currency bytes);
 /// Replaces every occurrence; a replacement is not searched again. An empty search text changes nothing.
 std::wstring ReplaceAll(std::wstring_view text, std::wstring_view search, std::wstring_view replacement);
 /// One-based position of the last occurrence, 0 when absent. 16 bits: for texts of up to 32,767 characters.
+/// Nothing calls it; it completes the set.
 std::int16_t LastPosition(std::wstring_view text, std::wstring_view search);
 /// After the last "."; a name without one is returned whole, on purpose.
 std::wstring GetExtension(std::wstring_view path);
@@ -42,6 +43,7 @@ std::wstring GetExtension(std::wstring_view path);
 std::wstring GetFileName(std::wstring_view path);
 /// Before the last "\"; empty when there is none.
 std::wstring GetFolder(std::wstring_view path);
+/// `text`, `count` times. Nothing calls it; it completes the set.
 std::wstring RepeatText(std::int16_t count, std::wstring_view text);
 /// False for hidden and system files and for directories, on purpose.
 bool FileExists(std::wstring_view path);
@@ -58,7 +60,7 @@ template <class Value>
 constexpr Value Clamp(Value value, Value low, Value high) {
   return MinValue(MaxValue(value, low), high);
 }
-/// The remainder in 0 to b - 1, for positive b.
+/// The remainder in 0 to b - 1, for positive b. Nothing calls it; it completes the set.
 std::int32_t PositiveMod(std::int32_t a, std::int32_t b);
 
 enum class Rounding { Down = 0, Up = 1, Nearest = 2 };

@@ -1,3 +1,4 @@
+// Names, sizes, dates and attributes of entries as text, appended to the line being written.
 #include "output/EntryTexts.h"
 
 #include <algorithm>

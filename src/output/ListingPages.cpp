@@ -1,3 +1,4 @@
+// Where the lines of a listing stand on paper, page after page.
 #include "output/ListingPages.h"
 
 #include "base/Lengths.h"
@@ -99,7 +100,7 @@ void ListingPages::DrawEntryCaptions() {
   for (std::size_t i = 0; i < kFurtherColumns.size(); ++i) {
     const EntryColumn& column = kFurtherColumns[i];
     if (run_.Format.Files.*column.Shown) {
-      DrawCaption(layout_.Entries.*kEntryPlaces[i], column.Layout.Align, run_.Texts[column.Caption]);
+      DrawCaption(layout_.Entries.*kColumnPositions[i], column.Layout.Align, run_.Texts[column.Caption]);
     }
   }
 }

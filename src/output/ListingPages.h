@@ -16,7 +16,7 @@
 namespace folivant {
 
 /// Where each of kFurtherColumns stands; a right-aligned one ends there.
-inline constexpr std::array<double EntryPositions::*, kFurtherColumns.size()> kEntryPlaces = {
+inline constexpr std::array<double EntryPositions::*, kFurtherColumns.size()> kColumnPositions = {
     &EntryPositions::DosName, &EntryPositions::SizeEnd, &EntryPositions::Date, &EntryPositions::Attributes};
 
 /// Positions are twips from the line origin. A text that is aligned to the right ends at its position.

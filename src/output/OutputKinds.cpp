@@ -1,3 +1,4 @@
+// The table of output kinds, and what is asked of it.
 #include "output/OutputKinds.h"
 
 #include <algorithm>

@@ -91,7 +91,7 @@ GeneralSettings WithoutMargins(GeneralSettings general) {
   return general;
 }
 
-PageLayout Place(const Page& page, const GeneralSettings& general, const ListingFormat& format) {
+PageLayout Arrange(const Page& page, const GeneralSettings& general, const ListingFormat& format) {
   const platform::PageArea area = page.Area();
   const PageMargins margins = MarginsInTwips(general);
   PageLayout at;
@@ -125,11 +125,11 @@ std::unique_ptr<Page> MakePage(std::unique_ptr<platform::PageSurface> surface, c
 
 PageLayout LayOut(const Page& page, const GeneralSettings& general, const ListingFormat& format,
                   const Messages& texts) {
-  const PageLayout asSet = Place(page, general, format);
+  const PageLayout asSet = Arrange(page, general, format);
   if (HoldsALine(asSet, page.Area(), format) && HoldsColumns(asSet, page, format)) {
     return asSet;
   }
-  const PageLayout widest = Place(page, WithoutMargins(general), format);
+  const PageLayout widest = Arrange(page, WithoutMargins(general), format);
   const bool columns = HoldsColumns(widest, page, format);
   if (columns && HoldsALine(widest, page.Area(), format)) {
     throw RuntimeError(FailedAction::UseMargins, MarginsText(general, texts), {}, 0);

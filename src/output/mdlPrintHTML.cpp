@@ -1,3 +1,4 @@
+// HTML documents: one table for a directory, with links between the tables of a tree.
 #include "output/mdlPrintHTML.h"
 
 #include "base/mdlFileRoutines.h"

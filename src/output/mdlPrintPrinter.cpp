@@ -129,7 +129,7 @@ void PrinterWriter::EntryLine(const FileRecord& entry, std::int32_t indent) {
     if (run_->Format.Files.*column.Shown) {
       text_.clear();
       ((*texts_).*column.AppendValue)(entry, text_);
-      pages_->Draw(positions.*kEntryPlaces[i], text_, column.Layout.Align);
+      pages_->Draw(positions.*kColumnPositions[i], text_, column.Layout.Align);
     }
   }
   EndLineOfListing();

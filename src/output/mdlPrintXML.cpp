@@ -1,3 +1,4 @@
+// XML documents: an element for an entry and one for each of its columns.
 #include "output/mdlPrintXML.h"
 
 #include "base/mdlFileRoutines.h"

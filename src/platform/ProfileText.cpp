@@ -1,3 +1,4 @@
+// Sections and keys inside a profile file's text, read and written as the system's profile functions do.
 #include "platform/ProfileText.h"
 
 #include <algorithm>

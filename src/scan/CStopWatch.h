@@ -1,4 +1,5 @@
-// A millisecond stopwatch over the multimedia timer.
+// A millisecond stopwatch over the multimedia timer. The program does not measure itself: it is here for whoever works
+// on it and for the tests of the seam's timer.
 #pragma once
 
 #include <cstdint>

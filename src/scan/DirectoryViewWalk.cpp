@@ -1,3 +1,4 @@
+// The walk of the directory view: it collects directories, because a line shows sums over all below it.
 #include "scan/DirectoryViewWalk.h"
 
 #include "scan/Filter.h"

@@ -1,3 +1,4 @@
+// The record and the sort key of an entry, from what the file system says of it.
 #include "scan/FileRecords.h"
 
 #include <algorithm>

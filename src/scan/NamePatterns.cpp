@@ -1,3 +1,4 @@
+// Matching of names against the patterns of the filter, taken apart once for a run of millions of names.
 #include "scan/NamePatterns.h"
 
 #include <algorithm>

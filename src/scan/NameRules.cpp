@@ -1,3 +1,4 @@
+// How names are shown and paths are found: re-casing, and the way from a typed path to the one on disk.
 #include "scan/NameRules.h"
 
 #include <algorithm>

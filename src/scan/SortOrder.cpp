@@ -1,3 +1,4 @@
+// A stable sort of entries by their keys, eight bytes of them at a time.
 #include "scan/SortOrder.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The walk that lists each directory as it is read and keeps none of them.
 #include "scan/StreamingWalk.h"
 
 #include <numeric>

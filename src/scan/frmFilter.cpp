@@ -1,3 +1,4 @@
+// The filter window: which entries are listed, and in which order.
 #include "scan/frmFilter.h"
 
 #include "app/Settings.h"

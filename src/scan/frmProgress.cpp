@@ -1,3 +1,4 @@
+// The progress window: where the run is, and the way to cancel it.
 #include "scan/frmProgress.h"
 
 #include <cmath>

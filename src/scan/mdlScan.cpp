@@ -1,3 +1,4 @@
+// One run from its first event to its last, whatever happens in between.
 #include "scan/mdlScan.h"
 
 #include "platform/Clock.h"

@@ -1,3 +1,4 @@
+// Rows out of another program's list view, sixty-four at a time, through memory of that program.
 #include "shell/FindResults.h"
 
 #include <algorithm>

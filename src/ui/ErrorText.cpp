@@ -1,3 +1,4 @@
+// Failures as sentences in the user's language.
 #include "ui/ErrorText.h"
 
 #include <new>

@@ -1,3 +1,4 @@
+// Language files: finding them, and filling the table of texts from one, with English for what it lacks.
 #include "ui/Language.h"
 
 #include "base/Numbers.h"

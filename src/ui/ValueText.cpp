@@ -1,3 +1,4 @@
+// Sizes and dates as listings show them.
 #include "ui/ValueText.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The options: five pages over the general settings and the printer, checked as a whole on OK.
 #include "ui/frmOptions.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The printer window: which printer, in which quality, from which tray, on which sides.
 #include "ui/frmPrinter.h"
 
 #include <string>

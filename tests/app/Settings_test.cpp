@@ -468,7 +468,7 @@ TEST(Settings, ABadValueIsToldAndTakesItsDefault) {
     Fake().Store.clear();
     const std::vector<BadSetting> bad = LoadWith(row.section, row.key, row.value);
     ASSERT_EQ(bad.size(), 1u) << Narrow(row.key);
-    EXPECT_EQ(bad[0].Place, std::wstring(L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\") + row.section);
+    EXPECT_EQ(bad[0].Location, std::wstring(L"HKEY_CURRENT_USER\\Software\\Folivant 3.0\\") + row.section);
     EXPECT_EQ(bad[0].Key, row.key);
     EXPECT_EQ(bad[0].Value, row.value);
     EXPECT_EQ((Fake().Store[{row.section, row.key}]), row.value) << "reading must not repair";

@@ -1,3 +1,4 @@
+// Files and folders of the host, under their Windows names.
 #include "platform/Files.h"
 
 #include <sys/stat.h>

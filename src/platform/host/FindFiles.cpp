@@ -1,3 +1,4 @@
+// Directories of the host, told as Wine tells them, so that both builds list the same.
 #include "platform/FindFiles.h"
 
 #include <dirent.h>

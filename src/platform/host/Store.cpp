@@ -1,3 +1,4 @@
+// The store as a profile file in the user's configuration folder; the registry's place on the host.
 #include "platform/Store.h"
 
 #include <sys/stat.h>

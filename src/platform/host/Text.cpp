@@ -1,3 +1,4 @@
+// Letter case, order and code page as the Windows build has them, without the host's own locale.
 #include "platform/Text.h"
 
 #include <wctype.h>

@@ -1,3 +1,4 @@
+// The window side of a dialog: creation, messages, pages, and texts in and out of its controls.
 #include "platform/win32/Dialog.h"
 
 #include <uxtheme.h>

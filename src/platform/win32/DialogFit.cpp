@@ -1,3 +1,4 @@
+// Widens controls and their dialog where a language's captions need more room than the template gives them.
 #include "platform/win32/DialogFit.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A window that takes a dropped file or folder.
 #include "platform/win32/Shell.h"
 
 #include <shellapi.h>

@@ -1,3 +1,4 @@
+// Files and folders of Windows. Replacing a file goes through a new one beside it, so that a failure loses nothing.
 #include "platform/Files.h"
 
 #include <shlobj.h>

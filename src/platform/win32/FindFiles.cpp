@@ -1,3 +1,4 @@
+// Directories of Windows, read in the large blocks that servers answer fastest.
 #include "platform/FindFiles.h"
 
 #include "platform/win32/NativePath.h"

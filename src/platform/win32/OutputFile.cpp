@@ -1,3 +1,4 @@
+// The file that a listing is written to: converted to the code page in blocks. Closing it may fail like writing.
 #include "platform/OutputFile.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A page as a device context draws it, in twips instead of the printer's pixels.
 #include "platform/PageSurface.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// A printer with the job's settings put into the driver's terms.
 #include "platform/win32/PrinterDevice.h"
 
 #include <winspool.h>

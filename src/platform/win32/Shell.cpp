@@ -1,3 +1,4 @@
+// The shell's own dialogs, and programs started through it.
 #include "platform/win32/Shell.h"
 
 #include <cderr.h>

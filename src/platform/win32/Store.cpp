@@ -17,27 +17,27 @@ std::size_t BytesOf(const std::wstring& text) {
 }  // namespace
 
 struct StoreSection::State {
-  OwnedKey Place;
+  OwnedKey Key;
 };
 
 StoreSection::StoreSection(const std::wstring& section) : state_(std::make_unique<State>()) {
   HKEY place = nullptr;
   if (RegOpenKeyExW(HKEY_CURRENT_USER, (kRoot + section).c_str(), 0, KEY_QUERY_VALUE, &place) == ERROR_SUCCESS) {
-    state_->Place = OwnedKey(place);
+    state_->Key = OwnedKey(place);
   }
 }
 
 StoreSection::~StoreSection() = default;
 
 std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
-  if (!state_->Place.IsOpen()) {
+  if (!state_->Key.IsOpen()) {
     return std::nullopt;
   }
   std::wstring value(256, L'\0');
   for (;;) {
     DWORD size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
     const LSTATUS status =
-        RegGetValueW(state_->Place.Get(), nullptr, key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
+        RegGetValueW(state_->Key.Get(), nullptr, key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
     if (status == ERROR_SUCCESS) {
       // What other programs stored may lack its NUL, or be no bytes at all.
       value.resize(std::min(size / sizeof(wchar_t), value.find(L'\0')));

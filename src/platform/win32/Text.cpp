@@ -1,3 +1,4 @@
+// Letter case, order and code page from the system, with a short way for ASCII: most names have nothing else.
 #include "platform/Text.h"
 
 #include <algorithm>
