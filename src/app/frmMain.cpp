@@ -7,20 +7,18 @@
 #include "app/MainWindow.h"
 #include "app/Settings.h"
 #include "app/StartUp.h"
-#include "app/WindowPlace.h"
 #include "app/mdlVars.h"
+#include "app/win32/PlaceOnScreen.h"
+#include "app/win32/RunGuard.h"
+#include "app/win32/SaveDialog.h"
 #include "output/Columns.h"
 #include "output/EntryFormatting.h"
-#include "output/OutputKinds.h"
 #include "output/mdlPrint.h"
-#include "platform/Files.h"
-#include "platform/Store.h"
 #include "platform/win32/Shell.h"
 #include "platform/win32/WindowSystem.h"
 #include "scan/NameRules.h"
 #include "scan/frmFilter.h"
 #include "scan/frmFormat.h"
-#include "scan/frmProgress.h"
 #include "scan/mdlScan.h"
 #include "shell/mdlFind.h"
 #include "ui/frmBase.h"
@@ -40,42 +38,19 @@ constexpr Binding<NoRecord> kCaptions[] = {
     {cmdCancel, Text::Close},        {cmdHelp, Text::Help},
 };
 
-/// The save dialog of the common dialogs, opened on the process's current directory.
-class CDTextfile final : public DestinationChooser {
- public:
-  explicit CDTextfile(HWND owner) : owner_(owner) {}
-  std::optional<Choice> AskForFile(const Choice& preset) override {
-    platform::FileDialog dialog;
-    dialog.Types = SaveDialogTypes(mdlVars::Texts);
-    dialog.FileName = preset.FileName;
-    dialog.TypeIndex = SaveDialogIndexOf(preset.Kind);
-    dialog.Folder = platform::CurrentDirectory();
-    if (!platform::AskForSaveName(owner_, dialog)) {
-      return std::nullopt;
-    }
-    return Choice{dialog.FileName, KindAtSaveDialogIndex(dialog.TypeIndex)};
-  }
-
- private:
-  HWND owner_;
-};
-
 class frmMain final : public frmBase, private TextMeasure {
  public:
   frmMain() : frmBase(dlgMain) {}
 
   int Run() {
     Create(nullptr);
-    RestorePlace();
+    RestorePlace(Window());
     ShowWindow(Window(), SW_SHOWDEFAULT);
     platform::RunUntilClosed(*this);
     return kExitDone;
   }
 
  private:
-  /// Makes the window inert, with the wait cursor and the progress window over it, for as long as it lives.
-  class RunGuard;
-
   void Form_Load() override;
   void Form_QueryClose() override;
   bool Form_Message(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
@@ -98,8 +73,6 @@ class frmMain final : public frmBase, private TextMeasure {
   void FinishRun();
   void SaveEverything();
   void Unload();
-  void RestorePlace();
-  void SavePlace();
   double WidthOf(std::wstring_view text) const override { return WidthOfText(std::wstring(text)); }
 
   OutputDriver driver_;
@@ -107,40 +80,6 @@ class frmMain final : public frmBase, private TextMeasure {
   DestinationChooser::Choice file_;  ///< what the save dialog shows next
   std::unique_ptr<platform::DropTarget> drop_;
   bool running_ = false;
-};
-
-class frmMain::RunGuard {
- public:
-  explicit RunGuard(frmMain& window) : inert_(window), progress_(OpenProgressWindow(window)) {}
-  /// Enabled first: otherwise another program's window would come to the front when the progress window goes.
-  ~RunGuard() { inert_.Enable(TRUE); }
-  RunGuard(const RunGuard&) = delete;
-  RunGuard& operator=(const RunGuard&) = delete;
-  folivant::Progress& Progress() { return *progress_; }
-
- private:
-  class Inert {
-   public:
-    explicit Inert(frmMain& window) : window_(window) {
-      window_.running_ = true;
-      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-      Enable(FALSE);
-    }
-    ~Inert() {
-      Enable(TRUE);
-      SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-      window_.running_ = false;
-    }
-    Inert(const Inert&) = delete;
-    Inert& operator=(const Inert&) = delete;
-    void Enable(BOOL enabled) const { EnableWindow(window_.Window(), enabled); }
-
-   private:
-    frmMain& window_;
-  };
-
-  Inert inert_;
-  std::unique_ptr<folivant::Progress> progress_;
 };
 
 void frmMain::Form_Load() {
@@ -278,7 +217,7 @@ bool frmMain::ChooseDestination() {
       mdlVars::OutputKind = OutputKind::Printer;
       return FindPrinter(mdlVars::Printer, mdlVars::Texts);
     case OutputTarget::File: {
-      CDTextfile dialog(Window());
+      CDTextfile dialog(Window(), mdlVars::Texts);
       if (!ChooseOutputFile(dialog, mdlVars::Texts, file_)) {
         return false;
       }
@@ -305,7 +244,7 @@ void frmMain::cmdOK_Click() {
 
 /// False when the user cancelled the run.
 bool frmMain::RunOnce() {
-  RunGuard guard(*this);
+  RunGuard guard(*this, running_);
   driver_.Choose(mdlVars::OutputKind);
   ListingRun run = mdlVars::MakeRun(guard.Progress());
   RunListing(run, driver_, rows_);
@@ -322,7 +261,7 @@ void frmMain::FinishRun() {
 
 void frmMain::SaveEverything() {
   mdlVars::OutputTo = GetOutputTo();
-  SavePlace();
+  SavePlace(Window());
   SaveSettings();
 }
 
@@ -337,28 +276,6 @@ void frmMain::Unload() {
   Close();
 }
 
-void frmMain::RestorePlace() {
-  const auto place = ParseWindowPlace(platform::StoreSection(kPlaceSection).Read(kPlaceKey).value_or(L""));
-  RECT frame{};
-  GetWindowRect(Window(), &frame);
-  if (!place) {
-    return;
-  }
-  OffsetRect(&frame, place->Left - frame.left, place->Top - frame.top);
-  // Only where the title bar can be reached with the mouse.
-  const RECT title{frame.left, frame.top, frame.right, frame.top + GetSystemMetrics(SM_CYCAPTION)};
-  if (MonitorFromRect(&title, MONITOR_DEFAULTTONULL) != nullptr) {
-    SetWindowPos(Window(), nullptr, frame.left, frame.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  }
-}
-
-void frmMain::SavePlace() {
-  RECT frame{};
-  if (IsIconic(Window()) == FALSE && GetWindowRect(Window(), &frame) != FALSE) {
-    platform::WriteStore(kPlaceSection, kPlaceKey, WindowPlaceText({frame.left, frame.top}));
-  }
-}
-
 }  // namespace
 
 int ShowMainWindow() {
@@ -368,7 +285,7 @@ int ShowMainWindow() {
 
 bool AskForOutputFile() {
   platform::PrepareWindows();
-  CDTextfile dialog(nullptr);
+  CDTextfile dialog(nullptr, mdlVars::Texts);
   DestinationChooser::Choice choice{mdlVars::OutputFile, mdlVars::OutputKind};
   if (!ChooseOutputFile(dialog, mdlVars::Texts, choice)) {
     return false;
