@@ -3,7 +3,7 @@
 
 namespace folivant {
 
-/// Shows the main window with the settings of mdlVars and runs it until it is closed. Returns the exit status.
+/// Shows the main window with the settings as they are and runs it until it is closed. Returns the exit status.
 int ShowMainWindow();
 /// The save dialog of a command-line run without "/o". False when the user cancels.
 bool AskForOutputFile();

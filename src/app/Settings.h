@@ -1,5 +1,5 @@
 // Loading and saving of everything that Folivant remembers: the rows of app/SettingsTable.h, which are members of the
-// records of mdlVars. While mdlVars::UseFilterFile is raised the filter file is read or written.
+// run-wide records of the process. While a filter file is in use, that is read or written.
 #pragma once
 
 #include <string>
@@ -18,10 +18,10 @@ void ReportBadSettings(const std::vector<BadSetting>& bad);
 /// Everything, in the same order; Ex rows only into a filter file. Throws RuntimeError (WriteSetting, WriteFile).
 void SaveSettings();
 
-/// What the options dialog writes on OK.
+/// What is stored when the options dialog is confirmed.
 void SaveGeneralSettings();
 void SavePrinterSettings();
-/// What the filter, format and columns dialogs write on OK.
+/// The same of the filter, format and columns dialogs.
 void SaveFilterSettings();
 void SaveListingStyle();
 void SaveFormatSettings();

@@ -100,7 +100,7 @@ ExitStatus RunAtOnce() {
   }
   OutputDriver output;
   output.Choose(mdlVars::OutputKind);
-  FindCapture rows;
+  FindCapture rows(mdlVars::MakeDialogContext());
   NoProgress nobody;
   ListingRun run = mdlVars::MakeRun(nobody);
   RunListing(run, output, rows);

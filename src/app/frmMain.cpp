@@ -13,6 +13,7 @@
 #include "app/win32/SaveDialog.h"
 #include "output/Columns.h"
 #include "output/EntryFormatting.h"
+#include "output/PageLayout.h"
 #include "output/mdlPrint.h"
 #include "platform/win32/Shell.h"
 #include "platform/win32/WindowSystem.h"
@@ -40,7 +41,7 @@ constexpr Binding<NoRecord> kCaptions[] = {
 
 class frmMain final : public frmBase, private TextMeasure {
  public:
-  frmMain() : frmBase(dlgMain) {}
+  frmMain() : frmBase(dlgMain, mdlVars::MakeDialogContext()), rows_(Context()) {}
 
   int Run() {
     Create(nullptr);
@@ -63,6 +64,9 @@ class frmMain final : public frmBase, private TextMeasure {
   void ShowEverything();
 
   void cmdBrowse_Click();
+  void cmdFilter_Click();
+  void cmdFormat_Click();
+  void cmdOptions_Click();
   void cmdLoad_Click();
   void cmdSave_Click();
   void cmdOK_Click();
@@ -89,16 +93,9 @@ void frmMain::Form_Load() {
   file_ = {mdlVars::OutputFile, mdlVars::OutputKind};
 
   OnClick(cmdBrowse, [this] { cmdBrowse_Click(); });
-  OnClick(cmdFilter, [this] {
-    ShowFilterDialog(*this);
-    MakeFilterLabel();
-  });
-  OnClick(cmdFormat, [this] {
-    ShowFormatDialog(*this);
-    MakeFormatLabel();
-    MakePathLabel();
-  });
-  OnClick(cmdOptions, [this] { ShowOptionsDialog(*this); });
+  OnClick(cmdFilter, [this] { cmdFilter_Click(); });
+  OnClick(cmdFormat, [this] { cmdFormat_Click(); });
+  OnClick(cmdOptions, [this] { cmdOptions_Click(); });
   OnClick(cmdLoad, [this] { cmdLoad_Click(); });
   OnClick(cmdSave, [this] { cmdSave_Click(); });
   OnClick(cmdOK, [this] { cmdOK_Click(); });
@@ -130,20 +127,20 @@ bool frmMain::Form_Message(UINT message, WPARAM wParam, LPARAM, LRESULT& result)
 }
 
 void frmMain::MakeFilterLabel() {
-  const std::wstring description = FilterDescription(mdlVars::Filter, mdlVars::Texts);
+  const std::wstring description = FilterDescription(mdlVars::Filter, Texts());
   SetText(lblFilter, description);
   SetToolTip(lblFilter, description);
 }
 
 void frmMain::MakeFormatLabel() {
   if (const std::optional<Text> style = StyleCaption(mdlVars::Format.ListingStyle)) {
-    SetText(lblFormat, mdlVars::Texts[*style]);
+    SetText(lblFormat, Texts()[*style]);
   }
 }
 
 void frmMain::MakePathLabel() {
   if (mdlVars::Format.ListingStyle == ListingStyle::PathListFile) {
-    SetText(lblPath, mdlVars::Texts[Text::PathListStyle]);
+    SetText(lblPath, Texts()[Text::PathListStyle]);
     return;
   }
   RECT label{};
@@ -178,10 +175,37 @@ void frmMain::ShowEverything() {
 }
 
 void frmMain::cmdBrowse_Click() {
-  const auto folder = platform::BrowseForFolder(Window(), mdlVars::Texts[Text::BrowseTitle], mdlVars::Start.OnDisk);
+  const auto folder = platform::BrowseForFolder(Window(), Texts()[Text::BrowseTitle], mdlVars::Start.OnDisk);
   if (folder && SetStartPath(*folder, mdlVars::Start, mdlVars::Format)) {
     ShowEverything();
   }
+}
+
+void frmMain::cmdFilter_Click() {
+  ShowFilterDialog(*this, Context(), mdlVars::Filter, SaveFilterSettings);
+  MakeFilterLabel();
+}
+
+void frmMain::cmdFormat_Click() {
+  ShowFormatDialog(*this, Context(), mdlVars::Format, {.Style = SaveListingStyle, .Columns = SaveFormatSettings});
+  MakeFormatLabel();
+  MakePathLabel();
+}
+
+void frmMain::cmdOptions_Click() {
+  ShowOptionsDialog(*this, Context(), mdlVars::General, mdlVars::Printer,
+                    {.CheckRoom =
+                         [this](std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general) {
+                           const auto page = MakePage(std::move(surface), general);
+                           LayOut(*page, general, mdlVars::Format, Texts());
+                         },
+                     .Save =
+                         [] {
+                           SaveGeneralSettings();
+                           SavePrinterSettings();
+                         },
+                     .LoadLastTab = LoadLastTab,
+                     .SaveLastTab = SaveLastTab});
 }
 
 void frmMain::lblPath_Drop(const std::wstring& path) {
@@ -191,7 +215,7 @@ void frmMain::lblPath_Drop(const std::wstring& path) {
 
 void frmMain::cmdLoad_Click() {
   platform::FileDialog dialog;
-  dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.Types = Texts()[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + Texts()[Text::AllFiles] + L"|*.*";
   dialog.FileName = mdlVars::FilterFile;
   if (platform::AskForOpenName(Window(), dialog) && LoadFilterFileIfWanted(dialog.FileName)) {
     ShowEverything();
@@ -200,7 +224,7 @@ void frmMain::cmdLoad_Click() {
 
 void frmMain::cmdSave_Click() {
   platform::FileDialog dialog;
-  dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.Types = Texts()[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + Texts()[Text::AllFiles] + L"|*.*";
   dialog.FileName = mdlVars::FilterFile;
   dialog.DefaultExtension = L"fvf";
   dialog.AskBeforeOverwriting = true;
@@ -217,8 +241,8 @@ bool frmMain::ChooseDestination() {
       mdlVars::OutputKind = OutputKind::Printer;
       return FindPrinter(mdlVars::Printer, mdlVars::Texts);
     case OutputTarget::File: {
-      CDTextfile dialog(Window(), mdlVars::Texts);
-      if (!ChooseOutputFile(dialog, mdlVars::Texts, file_)) {
+      CDTextfile dialog(Window(), Texts());
+      if (!ChooseOutputFile(dialog, Texts(), file_)) {
         return false;
       }
       mdlVars::OutputFile = file_.FileName;
@@ -244,7 +268,7 @@ void frmMain::cmdOK_Click() {
 
 /// False when the user cancelled the run.
 bool frmMain::RunOnce() {
-  RunGuard guard(*this, running_);
+  RunGuard guard(*this, Context(), running_);
   driver_.Choose(mdlVars::OutputKind);
   ListingRun run = mdlVars::MakeRun(guard.Progress());
   RunListing(run, driver_, rows_);

@@ -20,6 +20,10 @@ Messages Texts;
 std::wstring HelpFile;
 std::wstring ManualFile;
 
+DialogContext MakeDialogContext() {
+  return {.Texts = Texts, .HelpFile = HelpFile, .ManualFile = ManualFile};
+}
+
 ListingRun MakeRun(Progress& watcher) {
   return {.Texts = Texts,
           .General = General,

@@ -1,5 +1,5 @@
-// The run-wide records, one instance each for the whole process. Only the run driver, the command line, the settings
-// and the windows use this header; the listing engine gets what it needs as parameters.
+// The run-wide records, one instance each for the whole process. Start-up, the main window and the settings alone use
+// this header; everybody else is handed what they need.
 #pragma once
 
 #include <string>
@@ -10,6 +10,7 @@
 #include "scan/ListingFormat.h"
 #include "scan/ListingRun.h"
 #include "scan/NameRules.h"
+#include "ui/DialogContext.h"
 #include "ui/Messages.h"
 
 namespace folivant::mdlVars {
@@ -33,6 +34,8 @@ extern Messages Texts;
 extern std::wstring HelpFile;    ///< full path
 extern std::wstring ManualFile;  ///< full path of the page that stands in for it
 
+/// Of every dialog.
+DialogContext MakeDialogContext();
 /// A run of what these records say now, watched by `watcher`.
 ListingRun MakeRun(Progress& watcher);
 

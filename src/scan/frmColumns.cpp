@@ -1,7 +1,5 @@
 #include "scan/frmColumns.h"
 
-#include "app/Settings.h"
-#include "app/mdlVars.h"
 #include "ui/frmBase.h"
 
 namespace folivant {
@@ -32,36 +30,41 @@ constexpr Binding<ListingFormat> kFormat[] = {
 
 class frmColumns final : public frmBase {
  public:
-  frmColumns() : frmBase(dlgColumns) {}
+  frmColumns(const DialogContext& context, ListingFormat& format, const SaveRecord& save)
+      : frmBase(dlgColumns, context), format_(format), save_(save) {}
 
  private:
   void Form_Load() override {
-    SetWindowTextW(Window(), mdlVars::Texts[Text::ColumnsTitle].c_str());
+    SetWindowTextW(Window(), Texts()[Text::ColumnsTitle].c_str());
     SetCaptions<FileColumns>(kFileColumns);
     SetCaptions<DirectoryColumns>(kDirectoryColumns);
     SetCaptions<ListingFormat>(kFormat);
-    Fill<FileColumns>(kFileColumns, mdlVars::Format.Files);
-    Fill<DirectoryColumns>(kDirectoryColumns, mdlVars::Format.Directories);
-    Fill<ListingFormat>(kFormat, mdlVars::Format);
+    Fill<FileColumns>(kFileColumns, format_.Files);
+    Fill<DirectoryColumns>(kDirectoryColumns, format_.Directories);
+    Fill<ListingFormat>(kFormat, format_);
     OnClick(cmdOK, [this] { cmdOK_Click(); });
     OnClick(cmdHelp, [this] { ShowHelp(); });
   }
 
   void cmdOK_Click() {
-    ListingFormat format = mdlVars::Format;
+    ListingFormat format = format_;
     Read<FileColumns>(kFileColumns, format.Files);
     Read<DirectoryColumns>(kDirectoryColumns, format.Directories);
     Read<ListingFormat>(kFormat, format);
-    mdlVars::Format = format;
-    SaveFormatSettings();
+    format_ = format;
+    save_();
     Close(IDOK);
   }
+
+  ListingFormat& format_;
+  const SaveRecord& save_;
 };
 
 }  // namespace
 
-bool ShowColumnsDialog(platform::Dialog& owner) {
-  return frmColumns().ShowModal(owner.Window()) == IDOK;
+void ShowColumnsDialog(platform::Dialog& owner, const DialogContext& context, ListingFormat& format,
+                       const SaveRecord& save) {
+  frmColumns(context, format, save).ShowModal(owner.Window());
 }
 
 }  // namespace folivant

@@ -1,8 +1,6 @@
 // The filter window: which entries are listed, and in which order.
 #include "scan/frmFilter.h"
 
-#include "app/Settings.h"
-#include "app/mdlVars.h"
 #include "scan/FilterChoices.h"
 #include "ui/frmBase.h"
 
@@ -65,7 +63,8 @@ constexpr int ButtonOf(OrderBy order) {
 
 class frmFilter final : public frmBase {
  public:
-  frmFilter() : frmBase(dlgFilter) {}
+  frmFilter(const DialogContext& context, FilterSettings& filter, const SaveRecord& save)
+      : frmBase(dlgFilter, context), filter_(filter), save_(save) {}
 
  private:
   template <class Settings>
@@ -74,23 +73,22 @@ class frmFilter final : public frmBase {
   }
 
   void Form_Load() override {
-    SetWindowTextW(Window(), mdlVars::Texts[Text::FilterTitle].c_str());
+    SetWindowTextW(Window(), Texts()[Text::FilterTitle].c_str());
     SetCaptions<FilterSettings>(kBindings);
-    AddItem(cmbSize, mdlVars::Texts[Text::AtLeast]);
-    AddItem(cmbSize, mdlVars::Texts[Text::AtMost]);
+    AddItem(cmbSize, Texts()[Text::AtLeast]);
+    AddItem(cmbSize, Texts()[Text::AtMost]);
     NameFields();
     NameAttributeButtons();
 
-    const FilterSettings& filter = mdlVars::Filter;
-    Fill<FilterSettings>(kBindings, filter);
-    Send(cmbSize, CB_SETCURSEL, filter.SizeMin ? kAtLeast : kAtLeast + 1);
-    SetDate(DTPickMin, filter.DateMin);
-    SetDate(DTPickMax, filter.DateMax);
+    Fill<FilterSettings>(kBindings, filter_);
+    Send(cmbSize, CB_SETCURSEL, filter_.SizeMin ? kAtLeast : kAtLeast + 1);
+    SetDate(DTPickMin, filter_.DateMin);
+    SetDate(DTPickMax, filter_.DateMax);
     for (int i = 0; i < kAttributes; ++i) {
-      Choose({chkY + i, chkX + i, chkN + i}, kAttributeButtons[static_cast<std::size_t>(ChoiceAt(filter, i))] + i);
+      Choose({chkY + i, chkX + i, chkN + i}, kAttributeButtons[static_cast<std::size_t>(ChoiceAt(filter_, i))] + i);
     }
-    Choose({optName, optExt, optDOS, optSize, optDate}, ButtonOf(filter.OrderBy));
-    Choose({optAZ, optZA}, filter.OrderAZ ? optAZ : optZA);
+    Choose({optName, optExt, optDOS, optSize, optDate}, ButtonOf(filter_.OrderBy));
+    Choose({optAZ, optZA}, filter_.OrderAZ ? optAZ : optZA);
     EnableParts();
 
     for (const int part : {chkName, chkSize, chkDate, chkAttr}) {
@@ -136,7 +134,7 @@ class frmFilter final : public frmBase {
   }
 
   void cmdOK_Click() {
-    FilterSettings filter = mdlVars::Filter;
+    FilterSettings filter = filter_;
     Read<FilterSettings>(kBindings, filter);
     filter.SizeMin = Send(cmbSize, CB_GETCURSEL) == kAtLeast;
     filter.DateMin = DateOf(DTPickMin);
@@ -150,8 +148,8 @@ class frmFilter final : public frmBase {
                                 .Date = Checked(optDate),
                                 .Extension = Checked(optExt)});
     filter.OrderAZ = Checked(optAZ);
-    mdlVars::Filter = filter;
-    SaveFilterSettings();
+    filter_ = filter;
+    save_();
     Close(IDOK);
   }
 
@@ -177,12 +175,16 @@ class frmFilter final : public frmBase {
     SetChecked(chkSize, true);
     EnableParts();
   }
+
+  FilterSettings& filter_;
+  const SaveRecord& save_;
 };
 
 }  // namespace
 
-bool ShowFilterDialog(platform::Dialog& owner) {
-  return frmFilter().ShowModal(owner.Window()) == IDOK;
+void ShowFilterDialog(platform::Dialog& owner, const DialogContext& context, FilterSettings& filter,
+                      const SaveRecord& save) {
+  frmFilter(context, filter, save).ShowModal(owner.Window());
 }
 
 }  // namespace folivant

@@ -1,13 +1,17 @@
 // The dialog in which the user edits the filter and the sort order.
 #pragma once
 
+#include "scan/FilterSettings.h"
+#include "ui/DialogContext.h"
+
 namespace folivant {
 
 namespace platform {
 class Dialog;
 }
 
-/// Shows the dialog; OK changes mdlVars::Filter and saves it. Returns whether OK was pressed.
-bool ShowFilterDialog(platform::Dialog& owner);
+/// Shows the dialog until it is closed. OK changes `filter` and calls `save`.
+void ShowFilterDialog(platform::Dialog& owner, const DialogContext& context, FilterSettings& filter,
+                      const SaveRecord& save);
 
 }  // namespace folivant

@@ -1,7 +1,5 @@
 #include "scan/frmFormat.h"
 
-#include "app/Settings.h"
-#include "app/mdlVars.h"
 #include "scan/FormatChoice.h"
 #include "scan/frmColumns.h"
 #include "ui/frmBase.h"
@@ -28,18 +26,19 @@ constexpr int kStyleButtons[] = {optNoSub, optSub, optSubTree, optTree, optFull,
 
 class frmFormat final : public frmBase {
  public:
-  frmFormat() : frmBase(dlgFormat) {}
+  frmFormat(const DialogContext& context, ListingFormat& format, const FormatSaves& saves)
+      : frmBase(dlgFormat, context), format_(format), saves_(saves) {}
 
  private:
   void Form_Load() override {
-    SetWindowTextW(Window(), mdlVars::Texts[Text::FormatTitle].c_str());
+    SetWindowTextW(Window(), Texts()[Text::FormatTitle].c_str());
     SetCaptions<NoRecord>(kCaptions);
-    ShowStyle(mdlVars::Format.ListingStyle);
+    ShowStyle(format_.ListingStyle);
     for (const int button : kStyleButtons) {
       OnClick(button, [this] { ShowStyle(ChosenStyle()); });
       OnDoubleClick(button, [this] { cmdOK_Click(); });
     }
-    OnClick(Command1, [this] { ShowColumnsDialog(*this); });
+    OnClick(Command1, [this] { ShowColumnsDialog(*this, Context(), format_, saves_.Columns); });
     OnClick(cmdOK, [this] { cmdOK_Click(); });
     OnClick(cmdHelp, [this] { ShowHelp(); });
   }
@@ -61,16 +60,20 @@ class frmFormat final : public frmBase {
   }
 
   void cmdOK_Click() {
-    mdlVars::Format.ListingStyle = ChosenStyle();
-    SaveListingStyle();
+    format_.ListingStyle = ChosenStyle();
+    saves_.Style();
     Close(IDOK);
   }
+
+  ListingFormat& format_;
+  const FormatSaves& saves_;
 };
 
 }  // namespace
 
-bool ShowFormatDialog(platform::Dialog& owner) {
-  return frmFormat().ShowModal(owner.Window()) == IDOK;
+void ShowFormatDialog(platform::Dialog& owner, const DialogContext& context, ListingFormat& format,
+                      const FormatSaves& saves) {
+  frmFormat(context, format, saves).ShowModal(owner.Window());
 }
 
 }  // namespace folivant

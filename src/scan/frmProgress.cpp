@@ -4,7 +4,6 @@
 #include <cmath>
 #include <string>
 
-#include "app/mdlVars.h"
 #include "platform/MessageBox.h"
 #include "scan/NameRules.h"
 #include "scan/ProgressBar.h"
@@ -26,7 +25,7 @@ constexpr ULONGLONG kLabelInterval = 100;  // milliseconds
 
 class frmProgress final : public frmBase, public Progress, private TextMeasure {
  public:
-  explicit frmProgress(platform::Dialog& owner) : frmBase(dlgProgress) {
+  frmProgress(platform::Dialog& owner, const DialogContext& context) : frmBase(dlgProgress, context) {
     Create(owner.Window());
     ShowWindow(Window(), SW_SHOW);
     UpdateWindow(Window());
@@ -61,7 +60,7 @@ class frmProgress final : public frmBase, public Progress, private TextMeasure {
  private:
   void Form_Load() override {
     SetCaptions<NoRecord>(kCaptions);
-    SetWindowTextW(Window(), mdlVars::Texts[Text::ProgressTitle].c_str());
+    SetWindowTextW(Window(), Texts()[Text::ProgressTitle].c_str());
     OnClick(cmdCancel, [this] { cmdCancel_Click(); });
     SetTimer(Window(), kTimer1, kTimerInterval, nullptr);
   }
@@ -76,8 +75,8 @@ class frmProgress final : public frmBase, public Progress, private TextMeasure {
   }
 
   void cmdCancel_Click() {
-    const auto answer = platform::ShowMessage(mdlVars::Texts[Text::CancelQuestion], platform::BoxIcon::Question,
-                                              platform::BoxButtons::YesNo);
+    const auto answer =
+        platform::ShowMessage(Texts()[Text::CancelQuestion], platform::BoxIcon::Question, platform::BoxButtons::YesNo);
     cancelled_ = cancelled_ || answer == platform::BoxAnswer::Yes;
   }
 
@@ -103,8 +102,8 @@ class frmProgress final : public frmBase, public Progress, private TextMeasure {
 
 }  // namespace
 
-std::unique_ptr<Progress> OpenProgressWindow(platform::Dialog& owner) {
-  return std::make_unique<frmProgress>(owner);
+std::unique_ptr<Progress> OpenProgressWindow(platform::Dialog& owner, const DialogContext& context) {
+  return std::make_unique<frmProgress>(owner, context);
 }
 
 }  // namespace folivant

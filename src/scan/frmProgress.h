@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "scan/Progress.h"
+#include "ui/DialogContext.h"
 
 namespace folivant {
 
@@ -12,6 +13,6 @@ class Dialog;
 }
 
 /// Shows the window over `owner` and returns at once; it goes when the object does.
-std::unique_ptr<Progress> OpenProgressWindow(platform::Dialog& owner);
+std::unique_ptr<Progress> OpenProgressWindow(platform::Dialog& owner, const DialogContext& context);
 
 }  // namespace folivant

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "shell/FindChoice.h"
-#include "ui/Messages.h"
+#include "ui/DialogContext.h"
 
 namespace folivant {
 
@@ -19,7 +19,7 @@ class FindDialog {
   virtual void LetEventsThrough() = 0;
 };
 
-/// Makes the dialog, not yet visible. Both records outlive it.
-std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const Messages& texts);
+/// Makes the dialog, not yet visible. The choice outlives it.
+std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const DialogContext& context);
 
 }  // namespace folivant

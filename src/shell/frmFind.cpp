@@ -14,7 +14,7 @@ constexpr DWORD kRestInterval = 20;  // milliseconds
 
 }  // namespace
 
-frmFind::frmFind(FindChoice& choice, const Messages& texts) : frmBase(dlgFind), choice_(choice), texts_(texts) {}
+frmFind::frmFind(FindChoice& choice, const DialogContext& context) : frmBase(dlgFind, context), choice_(choice) {}
 
 frmFind::~frmFind() {
   Close();
@@ -34,7 +34,7 @@ void frmFind::LetEventsThrough() {
 }
 
 void frmFind::Form_Load() {
-  SetWindowTextW(Window(), texts_[Text::FindTitle].c_str());
+  SetWindowTextW(Window(), Texts()[Text::FindTitle].c_str());
   SetCaptions<NoRecord>(kCaptions);
   OnClick(cmdOK, [this] { cmdOK_Click(); });
   OnClick(cmdCancel, [this] { cmdCancel_Click(); });
@@ -62,8 +62,8 @@ void frmFind::cmdCancel_Click() {
   Close();
 }
 
-std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const Messages& texts) {
-  return std::make_unique<frmFind>(choice, texts);
+std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const DialogContext& context) {
+  return std::make_unique<frmFind>(choice, context);
 }
 
 }  // namespace folivant

@@ -8,7 +8,7 @@ namespace folivant {
 
 class frmFind final : public frmBase, public FindDialog {
  public:
-  frmFind(FindChoice& choice, const Messages& texts);
+  frmFind(FindChoice& choice, const DialogContext& context);
   ~frmFind() override;
 
   void Show() override;
@@ -23,7 +23,6 @@ class frmFind final : public frmBase, public FindDialog {
   void cmdCancel_Click();
 
   FindChoice& choice_;
-  const Messages& texts_;
 };
 
 }  // namespace folivant

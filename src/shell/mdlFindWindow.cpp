@@ -63,7 +63,7 @@ std::vector<FoundItem> ReadFindResults(const FindChoice& choice, ListingRun& run
 FoundRows FindCapture::PrintFromFind(ListingRun& run) {
   FindChoice choice;
   {
-    const auto dialog = OpenFindDialog(choice, run.Texts);
+    const auto dialog = OpenFindDialog(choice, context_);
     BeginChoice(choice, *dialog, run.Texts);
     WaitForChoice(choice, *dialog, run);
   }

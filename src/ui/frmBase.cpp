@@ -1,6 +1,5 @@
 #include "ui/frmBase.h"
 
-#include "app/mdlVars.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/win32/Shell.h"
@@ -35,7 +34,7 @@ float frmBase::SingleOf(int control) const {
 }
 
 void frmBase::SetCaption(int control, Text caption) {
-  SetText(Has(LABEL_OF(control)) ? LABEL_OF(control) : control, mdlVars::Texts[caption]);
+  SetText(Has(LABEL_OF(control)) ? LABEL_OF(control) : control, Texts()[caption]);
 }
 
 std::wstring frmBase::FieldNameOf(int control) const {
@@ -45,15 +44,15 @@ std::wstring frmBase::FieldNameOf(int control) const {
 std::wstring frmBase::ProblemOf(const FieldError& error) const {
   const std::wstring field = FieldNameOf(error.Control());
   const std::optional<ValueLimits>& limits = error.Limits();
-  return limits ? WithPlaceholders(mdlVars::Texts[Text::NumberOutOfRange], field, limits->Lowest, limits->Highest)
-                : WithPlaceholders(mdlVars::Texts[Text::NotANumber], field);
+  return limits ? WithPlaceholders(Texts()[Text::NumberOutOfRange], field, limits->Lowest, limits->Highest)
+                : WithPlaceholders(Texts()[Text::NotANumber], field);
 }
 
 void frmBase::ShowHelp() {
-  if (platform::PathExists(mdlVars::HelpFile)) {
-    platform::OpenHelpFile(Window(), mdlVars::HelpFile);
+  if (platform::PathExists(context_.HelpFile)) {
+    platform::OpenHelpFile(Window(), context_.HelpFile);
   } else {
-    platform::OpenDocument(Window(), mdlVars::ManualFile);
+    platform::OpenDocument(Window(), context_.ManualFile);
   }
 }
 
@@ -65,7 +64,7 @@ void frmBase::ShowProblem(const std::exception& problem) noexcept {
       ShowField(control);
       SetFocusTo(control);
     } else {
-      ShowError(problem, mdlVars::Texts);
+      ShowError(problem, Texts());
     }
   } catch (const std::exception&) {
     // No memory even for telling: the window stays, which is all that can be done.

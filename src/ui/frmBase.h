@@ -11,6 +11,7 @@
 #include "base/Numbers.h"
 #include "platform/win32/Dialog.h"
 #include "res/Controls.h"
+#include "ui/DialogContext.h"
 #include "ui/FieldText.h"
 #include "ui/Text.h"
 
@@ -56,7 +57,8 @@ class FieldError final : public std::exception {
 /// A dialog that speaks the user's language.
 class frmBase : public platform::Dialog {
  public:
-  using Dialog::Dialog;
+  /// `resource` is the number of a dialog template.
+  frmBase(int resource, const DialogContext& context) : Dialog(resource), context_(context) {}
 
   // What a bound field is to its control: a check box or option button's flag, or a text box's content. Reading throws
   // FieldError where the text does not convert.
@@ -73,6 +75,10 @@ class frmBase : public platform::Dialog {
   std::int32_t LeadingWholeNumberOf(int control, WholeRange range, WholeRange told) const;
 
  protected:
+  const Messages& Texts() const { return context_.Texts; }
+  /// For the dialogs that this one opens.
+  const DialogContext& Context() const { return context_; }
+
   template <class Record>
   void SetCaptions(std::span<const Binding<Record>> table);
   template <class Record>
@@ -96,6 +102,9 @@ class frmBase : public platform::Dialog {
   void ShowHelp() override;
   /// A FieldError names the field and moves the focus to it; everything else is shown as its sentence.
   void ShowProblem(const std::exception& problem) noexcept override;
+
+ private:
+  DialogContext context_;
 };
 
 template <class Record, class Value>

@@ -7,9 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "app/Settings.h"
-#include "app/mdlVars.h"
-#include "output/PageLayout.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
@@ -104,7 +101,14 @@ std::wstring FontText(const std::wstring& name, int points) {
 
 class frmOptions final : public frmBase {
  public:
-  frmOptions() : frmBase(dlgOptions), general_(mdlVars::General), printer_(mdlVars::Printer) {}
+  frmOptions(const DialogContext& context, GeneralSettings& general, PrinterSettings& printer,
+             const OptionsCaller& caller)
+      : frmBase(dlgOptions, context),
+        generalResult_(general),
+        printerResult_(printer),
+        caller_(caller),
+        general_(general),
+        printer_(printer) {}
 
  private:
   void Form_Load() override;
@@ -138,7 +142,10 @@ class frmOptions final : public frmBase {
   Margins EnteredMargins() const;
   void CloseKeepingTab(int result);
 
-  GeneralSettings general_;
+  GeneralSettings& generalResult_;
+  PrinterSettings& printerResult_;
+  const OptionsCaller& caller_;
+  GeneralSettings general_;  ///< as far as it has been edited; the controls hold the rest
   PrinterSettings printer_;
   std::vector<HWND> pages_;
   std::vector<std::wstring> languageFiles_;  ///< by the position that a language's key tells
@@ -146,11 +153,11 @@ class frmOptions final : public frmBase {
 };
 
 void frmOptions::Form_Load() {
-  SetWindowTextW(Window(), mdlVars::Texts[Text::OptionsTitle].c_str());
+  SetWindowTextW(Window(), Texts()[Text::OptionsTitle].c_str());
   MakePages();
   SetCaptions<General>(kBindings);
   for (int i = 0; const Legend& row : kLegend) {
-    SetText(lblLegend + i++, row.Code + mdlVars::Texts[row.Meaning]);
+    SetText(lblLegend + i++, row.Code + Texts()[row.Meaning]);
   }
   FillDateFormats();
   ShowFlags();
@@ -159,19 +166,19 @@ void frmOptions::Form_Load() {
   Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
   Choose({optPort, optLand}, general_.Portrait ? optPort : optLand);
   SetText(txtCopies, WholeText(printer_.PrinterCopies));
-  SetText(lblPrinter, ShownPrinterName(printer_, mdlVars::Texts));
+  SetText(lblPrinter, ShownPrinterName(printer_, Texts()));
   SetPicture(picPort, picPortrait);
   SetPicture(picLand, picLandscape);
   SetUnitLabels();
   ShowFonts();
   SetHandlers();
   PlacePages();
-  ShowPage(std::clamp(LoadLastTab(), 1, static_cast<int>(std::size(kPages))) - 1);
+  ShowPage(std::clamp(caller_.LoadLastTab(), 1, static_cast<int>(std::size(kPages))) - 1);
 }
 
 void frmOptions::MakePages() {
   for (const PageDesign& page : kPages) {
-    std::wstring caption = mdlVars::Texts[page.Caption];
+    std::wstring caption = Texts()[page.Caption];
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = caption.data();
@@ -279,7 +286,7 @@ void frmOptions::SetHandlers() {
 void frmOptions::SetUnitLabels() {
   general_.Inches = Checked(optInches);
   for (int i = 0; i < 4; ++i) {
-    SetText(lblUnit + i, mdlVars::Texts[general_.Inches ? Text::UnitInches : Text::UnitMillimeter]);
+    SetText(lblUnit + i, Texts()[general_.Inches ? Text::UnitInches : Text::UnitMillimeter]);
   }
 }
 
@@ -293,7 +300,7 @@ void frmOptions::ShowFonts() {
 
 void frmOptions::cmdBrowse_Click() {
   platform::FileDialog dialog;
-  dialog.Types = mdlVars::Texts[Text::ProgramFiles] + L" (*.exe)|*.exe|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.Types = Texts()[Text::ProgramFiles] + L" (*.exe)|*.exe|" + Texts()[Text::AllFiles] + L"|*.*";
   if (platform::AskForOpenName(Window(), dialog)) {
     SetText(txtViewer, dialog.FileName);
   }
@@ -301,9 +308,9 @@ void frmOptions::cmdBrowse_Click() {
 
 void frmOptions::cmdPrinter_Click() {
   if (platform::PrinterNames().empty()) {
-    platform::ShowMessage(mdlVars::Texts[Text::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
-  } else if (ShowPrinterDialog(*this, printer_)) {
-    SetText(lblPrinter, ShownPrinterName(printer_, mdlVars::Texts));
+    platform::ShowMessage(Texts()[Text::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+  } else if (ShowPrinterDialog(*this, Context(), printer_)) {
+    SetText(lblPrinter, ShownPrinterName(printer_, Texts()));
   }
 }
 
@@ -340,9 +347,8 @@ bool frmOptions::CheckMargins(const PageMargins& device) {
   if (MarginsSuffice(entered, minimum)) {
     return true;
   }
-  const auto answer =
-      platform::ShowMessage(mdlVars::Texts[Text::MarginsTooSmall] + L"\r\n" + mdlVars::Texts[Text::RaiseMargins],
-                            platform::BoxIcon::Question, platform::BoxButtons::YesNoCancel);
+  const auto answer = platform::ShowMessage(Texts()[Text::MarginsTooSmall] + L"\r\n" + Texts()[Text::RaiseMargins],
+                                            platform::BoxIcon::Question, platform::BoxButtons::YesNoCancel);
   if (answer == platform::BoxAnswer::Yes) {
     const Margins raised = RaisedMargins(entered, minimum, Checked(optInches));
     SetText(txtLeft, SingleText(raised.Left));
@@ -357,7 +363,7 @@ bool frmOptions::CheckMargins(const PageMargins& device) {
 /// dialog has to stay open, at the field that is to blame.
 bool frmOptions::CheckRoom(std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general) {
   try {
-    LayOut(*MakePage(std::move(surface), general), general, mdlVars::Format, mdlVars::Texts);
+    caller_.CheckRoom(std::move(surface), general);
   } catch (const RuntimeError& problem) {
     if (problem.Action() == FailedAction::Print) {  // a printer that cannot be asked keeps nobody here
       return true;
@@ -394,17 +400,16 @@ void frmOptions::cmdOK_Click() {
   if (surface && !CheckRoom(std::move(surface), general)) {
     return;
   }
-  mdlVars::General = general;
-  mdlVars::Printer = printer;
-  SaveGeneralSettings();
-  SavePrinterSettings();
+  generalResult_ = general;
+  printerResult_ = printer;
+  caller_.Save();
   CloseKeepingTab(IDOK);
 }
 
 /// However the dialog is closed, the page that was shown comes back next time. A store that refuses keeps nobody here.
 void frmOptions::CloseKeepingTab(int result) {
   try {
-    SaveLastTab(ShownPage() + 1);
+    caller_.SaveLastTab(ShownPage() + 1);
   } catch (const std::exception& problem) {
     ShowProblem(problem);
   }
@@ -413,8 +418,9 @@ void frmOptions::CloseKeepingTab(int result) {
 
 }  // namespace
 
-bool ShowOptionsDialog(platform::Dialog& owner) {
-  return frmOptions().ShowModal(owner.Window()) == IDOK;
+void ShowOptionsDialog(platform::Dialog& owner, const DialogContext& context, GeneralSettings& general,
+                       PrinterSettings& printer, const OptionsCaller& caller) {
+  frmOptions(context, general, printer, caller).ShowModal(owner.Window());
 }
 
 }  // namespace folivant

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "app/mdlVars.h"
 #include "platform/Printers.h"
 #include "ui/PrinterChoice.h"
 #include "ui/frmBase.h"
@@ -38,8 +37,8 @@ constexpr int kDuplexModes = 3;
 
 class frmPrinter final : public frmBase {
  public:
-  explicit frmPrinter(PrinterSettings& settings)
-      : frmBase(dlgPrinter), settings_(settings), printers_(platform::PrinterNames()) {}
+  frmPrinter(const DialogContext& context, PrinterSettings& settings)
+      : frmBase(dlgPrinter, context), settings_(settings), printers_(platform::PrinterNames()) {}
 
  private:
   void Form_Load() override;
@@ -54,13 +53,13 @@ class frmPrinter final : public frmBase {
 };
 
 void frmPrinter::Form_Load() {
-  SetWindowTextW(Window(), mdlVars::Texts[Text::PrinterTitle].c_str());
+  SetWindowTextW(Window(), Texts()[Text::PrinterTitle].c_str());
   SetCaptions<NoRecord>(kCaptions);
   for (const std::wstring& printer : printers_) {
     AddItem(cmbPrinter, printer);
   }
   for (const ListEntry& entry : kListEntries) {
-    AddItem(entry.List, mdlVars::Texts[entry.Item]);
+    AddItem(entry.List, Texts()[entry.Item]);
   }
   const PrinterChoice choice = ChoiceFor(settings_, printers_);
   Select(cmbPrinter, choice.Printer);
@@ -90,8 +89,8 @@ int frmPrinter::GetDuplex() const {
 
 }  // namespace
 
-bool ShowPrinterDialog(platform::Dialog& owner, PrinterSettings& settings) {
-  return frmPrinter(settings).ShowModal(owner.Window()) == cmdOK;
+bool ShowPrinterDialog(platform::Dialog& owner, const DialogContext& context, PrinterSettings& settings) {
+  return frmPrinter(context, settings).ShowModal(owner.Window()) == cmdOK;
 }
 
 }  // namespace folivant

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/GeneralSettings.h"
+#include "ui/DialogContext.h"
 
 namespace folivant {
 
@@ -11,6 +12,6 @@ class Dialog;
 
 /// Shows the dialog; OK changes `settings`, all but the copies, and saves nothing. Returns whether OK was pressed. To
 /// be opened only when there is a printer.
-bool ShowPrinterDialog(platform::Dialog& owner, PrinterSettings& settings);
+bool ShowPrinterDialog(platform::Dialog& owner, const DialogContext& context, PrinterSettings& settings);
 
 }  // namespace folivant

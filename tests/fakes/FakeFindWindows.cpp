@@ -83,7 +83,7 @@ FakeWindow FindWindow(platform::WindowHandle handle, std::wstring title, std::ve
 
 namespace folivant {
 
-std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const Messages&) {
+std::unique_ptr<FindDialog> OpenFindDialog(FindChoice& choice, const DialogContext&) {
   return std::make_unique<fakes::PlayedDialog>(choice);
 }
 

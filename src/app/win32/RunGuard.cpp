@@ -16,8 +16,8 @@ RunGuard::Inert::~Inert() {
   running_ = false;
 }
 
-RunGuard::RunGuard(platform::Dialog& window, bool& running)
-    : inert_(window, running), progress_(OpenProgressWindow(window)) {}
+RunGuard::RunGuard(platform::Dialog& window, const DialogContext& context, bool& running)
+    : inert_(window, running), progress_(OpenProgressWindow(window, context)) {}
 
 // Enabled first: otherwise another program's window would come to the front when the progress window goes.
 RunGuard::~RunGuard() {

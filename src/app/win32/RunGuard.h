@@ -5,6 +5,7 @@
 
 #include "platform/win32/Dialog.h"
 #include "scan/Progress.h"
+#include "ui/DialogContext.h"
 
 namespace folivant {
 
@@ -12,7 +13,7 @@ namespace folivant {
 class RunGuard {
  public:
   /// `running` is true meanwhile, from before the progress window opens; it and `window` outlive the guard.
-  RunGuard(platform::Dialog& window, bool& running);
+  RunGuard(platform::Dialog& window, const DialogContext& context, bool& running);
   ~RunGuard();
   RunGuard(const RunGuard&) = delete;
   RunGuard& operator=(const RunGuard&) = delete;

@@ -12,7 +12,7 @@ class NoFindDialog final : public FindDialog {
 
 }  // namespace
 
-std::unique_ptr<FindDialog> OpenFindDialog(FindChoice&, const Messages&) {
+std::unique_ptr<FindDialog> OpenFindDialog(FindChoice&, const DialogContext&) {
   return std::make_unique<NoFindDialog>();
 }
 
