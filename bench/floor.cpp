@@ -1,4 +1,4 @@
-// The native floor: reads each directory, takes each entry's status once, sorts the names, prints nothing.
+// The floor on the host: reads each directory, takes each entry's status once, sorts the names, prints nothing.
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>

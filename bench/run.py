@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Measures Folivant against the cost of merely looking at the same files.
 
-Builds the native release and the Windows program, makes the trees in a scratch directory (removed at the end), runs
+Builds the host release and the Windows program, makes the trees in a scratch directory (removed at the end), runs
 whole processes in alternating pairs with a warm cache, and prints tables of ratios: the median of the paired ratios.
 With --write the tables replace those of the same title between the markers in docs/benchmarks.md and README.md.
 """
@@ -160,7 +160,7 @@ def table(title, head, rows):
     return lines
 
 
-def native(bench, trees):
+def on_host(bench, trees):
     host = [HOUSE / 'build/host-release/folivant-host']
     out = bench.scratch / 'list.out'
     others = {'bfs -printf': lambda t: ['bfs', t, '-printf', '%p %s %t\n'],
@@ -175,14 +175,14 @@ def native(bench, trees):
         for command in others.values():
             row.append(f'{bench.ratio((command(tree), out), floor, max(3, bench.pairs // 3)):.2f}')
         rows.append(row)
-    lines = table('Native, whole process, against the floor', ['Tree', 'Folivant', *others], rows)
+    lines = table('On the host, whole process, against the floor', ['Tree', 'Folivant', *others], rows)
 
     tree = trees[WIDE]
     rows = []
     for kind, name in (('h', 'HTML'), ('x', 'XML'), ('a', 'tab-delimited'), ('c', 'CSV')):
         ratio = bench.ratio((listing(host, tree, out, kind), None), (listing(host, tree, out), None))
         rows.append([name, f'{ratio:.2f}'])
-    return lines + table('Other kinds of file against text, native', ['Kind', 'Ratio'], rows)
+    return lines + table('Other kinds of file against text, on the host', ['Kind', 'Ratio'], rows)
 
 
 def orders(bench, small, large):
@@ -200,7 +200,7 @@ def orders(bench, small, large):
 
 
 def memory(bench, few, many, nodes, name_length):
-    """Peaks of the native program. `few` and `many` hold 100 files in each directory, `nodes` one in each; all are pairs
+    """Peaks of the host program. `few` and `many` hold 100 files in each directory, `nodes` one in each; all are pairs
     of a tree and its number of directories."""
     host = [HOUSE / 'build/host-release/folivant-host']
     out = bench.scratch / 'list.out'
@@ -310,7 +310,7 @@ def sections(text):
     return {part.split('\n', 1)[0]: f'### {part.rstrip()}\n\n' for part in re.split('^### ', text, flags=re.M)[1:]}
 
 
-PARTS = ('pages', 'native', 'orders', 'memory', 'wine', 'window')
+PARTS = ('pages', 'host', 'orders', 'memory', 'wine', 'window')
 WIDE = '300,000 files in 3,000 directories'
 
 
@@ -351,8 +351,8 @@ def measure(bench, make, parts, scale):
     trees['chain of 300 directories'] = make.chain(300)
     empty = make.empty()
     lines = []
-    if 'native' in parts:
-        lines += native(bench, trees)
+    if 'host' in parts:
+        lines += on_host(bench, trees)
     if 'orders' in parts:
         lines += orders(bench, small_flat, large_flat)
     if 'memory' in parts:
