@@ -115,7 +115,7 @@ TEST_F(StartUp, ASentRelativeFileIsReadInTheCurrentDirectory) {
   mdlVars::OutputFile = L"C:\\Out\\list.csv";
   OutputDriver output;
   output.Choose(OutputKind::Csv);
-  FindCapture rows;
+  FindCapture rows(mdlVars::MakeDialogContext());
   NoProgress nobody;
   ListingRun run = mdlVars::MakeRun(nobody);
   RunListing(run, output, rows);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "scan/ListingRun.h"
+#include "ui/DialogContext.h"
 
 namespace folivant::fakes {
 
@@ -16,7 +17,14 @@ struct RunRecords {
   LongPath Start{L"C:\\Data", L"C:\\Data"};
   std::wstring OutputFile = L"C:\\Out\\list";
   std::wstring DatePattern = L"yyyy/mm/dd";
+  std::wstring HelpFile;
+  std::wstring ManualFile;
+  DialogContext Context{Texts, HelpFile, ManualFile};
   NoProgress Nobody;
+
+  RunRecords() = default;
+  RunRecords(const RunRecords&) = delete;  // the context names them
+  RunRecords& operator=(const RunRecords&) = delete;
 
   /// A run of these records, which outlive it.
   ListingRun MakeRun(Progress& watcher) {

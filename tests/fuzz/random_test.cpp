@@ -175,7 +175,7 @@ TEST(RandomPathLists, EveryListIsListedOrIsOneError) {
   fakes::RunRecords records;
   records.Format.ListingStyle = ListingStyle::PathListFile;
   records.Start = {L"C:\\list", L"C:\\list"};
-  FindCapture rows;
+  FindCapture rows(records.Context);
   int withRows = 0;
   int withErrors = 0;
   int withoutPaths = 0;

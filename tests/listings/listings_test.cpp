@@ -243,16 +243,17 @@ OutputKind KindOf(const std::string& ending) {
 /// The rows of a Find window are prepared; those of a path list are read.
 class Rows final : public FoundRowSource {
  public:
-  explicit Rows(const FoundRows& findWindow) : findWindow_(findWindow) {}
+  Rows(const FoundRows& findWindow, const DialogContext& context) : findWindow_(findWindow), context_(context) {}
   FoundRows PrintFromFind(ListingRun&) override { return findWindow_; }
   FoundRows PrintFromFileList(ListingRun& run) override {
-    FoundRows rows = FindCapture().PrintFromFileList(run);
+    FoundRows rows = FindCapture(context_).PrintFromFileList(run);
     rows.Title = findWindow_.Title;
     return rows;
   }
 
  private:
   const FoundRows& findWindow_;
+  const DialogContext& context_;
 };
 
 class Listings : public testing::TestWithParam<Case> {};
@@ -270,7 +271,7 @@ TEST_P(Listings, MatchTheExpectationByteForByte) {
     (records.*step.Configure)();
     CancelAt progress(step.CancelledAt);
     ListingRun run = records.MakeRun(progress);
-    Rows rows(records.FindWindow);
+    Rows rows(records.FindWindow, records.Context);
     RunListing(run, driver, rows);
   }
 

@@ -39,7 +39,7 @@ class CancelledPages : public ListingTest {
     Start = {path, path};
     OutputDriver driver;
     driver.Choose(OutputKind::Printer);
-    FindCapture fileLists;
+    FindCapture fileLists(Context);
     RunListing(Run, driver, fileLists);
   }
 

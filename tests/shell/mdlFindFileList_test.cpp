@@ -52,7 +52,7 @@ class PathList : public testing::Test, protected fakes::RunRecords {
   static void Lines(const std::string& bytes) { Tree().File(L"C:\\list.txt", bytes); }
   RowKeeper ListWith(Progress& progress) {
     RowKeeper rows;
-    FindCapture capture;
+    FindCapture capture(Context);
     ListingRun run = MakeRun(progress);
     RunListing(run, rows, capture);
     return rows;
@@ -256,7 +256,7 @@ TEST_F(PathList, AVeryLongLineIsReadWhole) {
 TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
   Lines("C:\\Data\\Big.bin\r\nC:\\Data\\gone.txt\r\nC:\\Data\\README.TXT\r\n");
   RowKeeper rows;
-  FindCapture capture;
+  FindCapture capture(Context);
   ListingRun run = MakeRun();
   try {
     RunListing(run, rows, capture);

@@ -67,7 +67,7 @@ class PrintFromFind : public testing::Test, protected fakes::RunRecords {
     }
   }
 
-  FindCapture Capture;
+  FindCapture Capture{Context};
   bool Cancelled = false;  ///< the last run
 };
 
