@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/ChosenPrinter.h"
+#include "app/MainControls.h"
 #include "app/MainWindow.h"
 #include "app/Settings.h"
 #include "app/StartUp.h"
@@ -28,28 +29,37 @@
 namespace folivant {
 namespace {
 
-constexpr Binding<NoRecord> kCaptions[] = {
-    {Label1, Text::Directory},       {Label3, Text::Filter},
-    {Label2, Text::OutputFormat},    {fraTo, Text::OutputTo},
-    {cmdBrowse, Text::Browse},       {cmdFilter, Text::FilterButton},
-    {cmdFormat, Text::FormatButton}, {optPrinter, Text::ToPrinter},
-    {optFile, Text::ToFile},         {optScreen, Text::ToScreen},
-    {cmdLoad, Text::LoadFilters},    {cmdSave, Text::SaveFilters},
-    {cmdOptions, Text::Options},     {cmdOK, Text::Ok},
-    {cmdCancel, Text::Close},        {cmdHelp, Text::Help},
-};
+platform::FileDialog FilterFileDialog() {
+  platform::FileDialog dialog;
+  dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.FileName = mdlVars::FilterFile;
+  return dialog;
+}
+
+/// The save dialog, preset with `choice`, which takes what the user chooses. False when the user cancels.
+bool AskForOutputFile(HWND owner, DestinationChooser::Choice& choice) {
+  CDTextfile dialog(owner, mdlVars::Texts);
+  if (!ChooseOutputFile(dialog, mdlVars::Texts, choice)) {
+    return false;
+  }
+  mdlVars::OutputFile = choice.FileName;
+  mdlVars::OutputKind = choice.Kind;
+  return true;
+}
+
+void SaveOptions() {
+  SaveGeneralSettings();
+  SavePrinterSettings();
+}
+
+/// Throws RuntimeError when no line of a listing with these settings stands on a page of `surface`.
+void CheckRoom(std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general) {
+  LayOut(*MakePage(std::move(surface), general), general, mdlVars::Format, mdlVars::Texts);
+}
 
 class frmMain final : public frmBase, private TextMeasure {
  public:
   frmMain() : frmBase(dlgMain, mdlVars::MakeDialogContext()), rows_(Context()) {}
-
-  int Run() {
-    Create(nullptr);
-    RestorePlace(Window());
-    ShowWindow(Window(), SW_SHOWDEFAULT);
-    platform::RunUntilClosed(*this);
-    return kExitDone;
-  }
 
  private:
   void Form_Load() override;
@@ -59,7 +69,6 @@ class frmMain final : public frmBase, private TextMeasure {
   void MakeFilterLabel();
   void MakeFormatLabel();
   void MakePathLabel();
-  void SetOutputTo(OutputTarget target);
   OutputTarget GetOutputTo() const;
   void ShowEverything();
 
@@ -87,7 +96,8 @@ class frmMain final : public frmBase, private TextMeasure {
 };
 
 void frmMain::Form_Load() {
-  SetCaptions<NoRecord>(kCaptions);
+  SetTexts(kMainControls);
+  SetTexts(kOutputToControls);
   FitToTexts();
   ShowEverything();
   file_ = {mdlVars::OutputFile, mdlVars::OutputKind};
@@ -100,9 +110,8 @@ void frmMain::Form_Load() {
   OnClick(cmdSave, [this] { cmdSave_Click(); });
   OnClick(cmdOK, [this] { cmdOK_Click(); });
   OnClick(cmdCancel, [this] { Unload(); });
-  OnClick(cmdHelp, [this] { ShowHelp(); });
-  for (const int destination : {optPrinter, optScreen, optFile}) {
-    OnClick(destination, [this] { mdlVars::OutputTo = GetOutputTo(); });
+  for (const Binding<OutputTarget>& destination : kOutputToControls) {
+    OnClick(destination.Control, [this] { mdlVars::OutputTo = GetOutputTo(); });
   }
   drop_ = std::make_unique<platform::DropTarget>(Item(lblPath), [this](const auto& path) { lblPath_Drop(path); });
   SetFocusTo(cmdOK);
@@ -149,25 +158,17 @@ void frmMain::MakePathLabel() {
   SetToolTip(lblPath, mdlVars::Start.Shown);
 }
 
-void frmMain::SetOutputTo(OutputTarget target) {
-  const auto button = target == OutputTarget::Printer  ? optPrinter
-                      : target == OutputTarget::File   ? optFile
-                      : target == OutputTarget::Screen ? optScreen
-                                                       : 0;
-  if (button != 0) {
-    Choose({optPrinter, optScreen, optFile}, button);
-  }
-}
-
 OutputTarget frmMain::GetOutputTo() const {
-  return Checked(optPrinter) ? OutputTarget::Printer : Checked(optFile) ? OutputTarget::File : OutputTarget::Screen;
+  OutputTarget target{};
+  Read(kOutputToControls, target);
+  return target;
 }
 
 void frmMain::ShowEverything() {
   MakePathLabel();
   MakeFilterLabel();
   MakeFormatLabel();
-  SetOutputTo(mdlVars::OutputTo);
+  Fill(kOutputToControls, mdlVars::OutputTo);
   // A file that was sent to the program names what to list: folder, filter and style do not apply.
   for (const int button : {cmdBrowse, cmdFilter, cmdFormat}) {
     Enable(button, mdlVars::Format.ListingStyle != ListingStyle::PathListFile);
@@ -193,19 +194,9 @@ void frmMain::cmdFormat_Click() {
 }
 
 void frmMain::cmdOptions_Click() {
-  ShowOptionsDialog(*this, Context(), mdlVars::General, mdlVars::Printer,
-                    {.CheckRoom =
-                         [this](std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general) {
-                           const auto page = MakePage(std::move(surface), general);
-                           LayOut(*page, general, mdlVars::Format, Texts());
-                         },
-                     .Save =
-                         [] {
-                           SaveGeneralSettings();
-                           SavePrinterSettings();
-                         },
-                     .LoadLastTab = LoadLastTab,
-                     .SaveLastTab = SaveLastTab});
+  ShowOptionsDialog(
+      *this, Context(), mdlVars::General, mdlVars::Printer,
+      {.CheckRoom = CheckRoom, .Save = SaveOptions, .LoadLastTab = LoadLastTab, .SaveLastTab = SaveLastTab});
 }
 
 void frmMain::lblPath_Drop(const std::wstring& path) {
@@ -214,18 +205,14 @@ void frmMain::lblPath_Drop(const std::wstring& path) {
 }
 
 void frmMain::cmdLoad_Click() {
-  platform::FileDialog dialog;
-  dialog.Types = Texts()[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + Texts()[Text::AllFiles] + L"|*.*";
-  dialog.FileName = mdlVars::FilterFile;
+  platform::FileDialog dialog = FilterFileDialog();
   if (platform::AskForOpenName(Window(), dialog) && LoadFilterFileIfWanted(dialog.FileName)) {
     ShowEverything();
   }
 }
 
 void frmMain::cmdSave_Click() {
-  platform::FileDialog dialog;
-  dialog.Types = Texts()[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + Texts()[Text::AllFiles] + L"|*.*";
-  dialog.FileName = mdlVars::FilterFile;
+  platform::FileDialog dialog = FilterFileDialog();
   dialog.DefaultExtension = L"fvf";
   dialog.AskBeforeOverwriting = true;
   if (platform::AskForSaveName(Window(), dialog)) {
@@ -240,15 +227,8 @@ bool frmMain::ChooseDestination() {
     case OutputTarget::Printer:
       mdlVars::OutputKind = OutputKind::Printer;
       return FindPrinter(mdlVars::Printer, mdlVars::Texts);
-    case OutputTarget::File: {
-      CDTextfile dialog(Window(), Texts());
-      if (!ChooseOutputFile(dialog, Texts(), file_)) {
-        return false;
-      }
-      mdlVars::OutputFile = file_.FileName;
-      mdlVars::OutputKind = file_.Kind;
-      return true;
-    }
+    case OutputTarget::File:
+      return AskForOutputFile(Window(), file_);
     case OutputTarget::Screen:
       mdlVars::OutputFile = ScreenFileName();
       mdlVars::OutputKind = OutputKind::Text;
@@ -304,19 +284,17 @@ void frmMain::Unload() {
 
 int ShowMainWindow() {
   frmMain window;
-  return window.Run();
+  window.Create(nullptr);
+  RestorePlace(window.Window());
+  ShowWindow(window.Window(), SW_SHOWDEFAULT);
+  platform::RunUntilClosed(window);
+  return kExitDone;
 }
 
 bool AskForOutputFile() {
   platform::PrepareWindows();
-  CDTextfile dialog(nullptr, mdlVars::Texts);
   DestinationChooser::Choice choice{mdlVars::OutputFile, mdlVars::OutputKind};
-  if (!ChooseOutputFile(dialog, mdlVars::Texts, choice)) {
-    return false;
-  }
-  mdlVars::OutputFile = choice.FileName;
-  mdlVars::OutputKind = choice.Kind;
-  return true;
+  return AskForOutputFile(nullptr, choice);
 }
 
 }  // namespace folivant

@@ -35,8 +35,8 @@ struct GeneralSettings {
   std::wstring Footer;
 };
 
-/// The stored name where no printer has been chosen, the same in every language. ShownPrinterName (ui/PrinterChoice.h)
-/// is what the user reads.
+/// The stored name where no printer has been chosen, the same in every language. ShownPrinterName
+/// (ui/PrinterControls.h) is what the user reads.
 inline constexpr wchar_t kNoPrinter[] = L"(no printer)";
 
 struct PrinterSettings {

@@ -1,28 +1,11 @@
 #include "scan/frmFormat.h"
 
-#include "scan/FormatChoice.h"
+#include "scan/FormatControls.h"
 #include "scan/frmColumns.h"
 #include "ui/frmBase.h"
 
 namespace folivant {
 namespace {
-
-constexpr Binding<NoRecord> kCaptions[] = {
-    {fraStyle, Text::Style},
-    {optNoSub, Text::NoSubdirectories},
-    {optSub, Text::IncludeSubdirectories},
-    {optSubTree, Text::TreeStyle},
-    {optFull, Text::FullPathList},
-    {optTree, Text::DirectoryView},
-    {optFind, Text::FindWindowStyle},
-    {Command1, Text::Columns},
-    {cmdOK, Text::Ok},
-    {cmdCancel, Text::Cancel},
-    {cmdHelp, Text::Help},
-};
-
-/// By the style's code.
-constexpr int kStyleButtons[] = {optNoSub, optSub, optSubTree, optTree, optFull, optFind};
 
 class frmFormat final : public frmBase {
  public:
@@ -31,36 +14,34 @@ class frmFormat final : public frmBase {
 
  private:
   void Form_Load() override {
-    SetWindowTextW(Window(), Texts()[Text::FormatTitle].c_str());
-    SetCaptions<NoRecord>(kCaptions);
-    ShowStyle(format_.ListingStyle);
-    for (const int button : kStyleButtons) {
-      OnClick(button, [this] { ShowStyle(ChosenStyle()); });
-      OnDoubleClick(button, [this] { cmdOK_Click(); });
+    SetTexts(kFormatControls);
+    SetTexts(kStyleControls);
+    ShowStyle(format_);
+    for (const Binding<ListingFormat>& style : kStyleControls) {
+      OnClick(style.Control, [this] { ShowStyle(Chosen()); });
+      OnDoubleClick(style.Control, [this] { cmdOK_Click(); });
     }
     OnClick(Command1, [this] { ShowColumnsDialog(*this, Context(), format_, saves_.Columns); });
     OnClick(cmdOK, [this] { cmdOK_Click(); });
-    OnClick(cmdHelp, [this] { ShowHelp(); });
   }
 
-  ListingStyle ChosenStyle() const {
-    return StyleOf({.NoSub = Checked(optNoSub),
-                    .Sub = Checked(optSub),
-                    .SubTree = Checked(optSubTree),
-                    .Tree = Checked(optTree),
-                    .Find = Checked(optFind)});
+  /// The format with the style whose button is set.
+  ListingFormat Chosen() const {
+    ListingFormat format = format_;
+    Read(kStyleControls, format);
+    return format;
   }
 
-  /// A style without a picture sets nothing.
-  void ShowStyle(ListingStyle style) {
-    if (const auto picture = PreviewPictureOf(style)) {
-      Choose({optNoSub, optSub, optSubTree, optTree, optFull, optFind}, kStyleButtons[*picture - picStyles]);
+  /// A style without a picture has no button either, and leaves the picture.
+  void ShowStyle(const ListingFormat& format) {
+    Fill(kStyleControls, format);
+    if (const auto picture = PreviewPictureOf(format.ListingStyle)) {
       SetPicture(picPreview, *picture);
     }
   }
 
   void cmdOK_Click() {
-    format_.ListingStyle = ChosenStyle();
+    Read(kStyleControls, format_);
     saves_.Style();
     Close(IDOK);
   }

@@ -12,7 +12,8 @@
 namespace folivant {
 namespace {
 
-constexpr Binding<NoRecord> kCaptions[] = {
+constexpr Binding<NoRecord> kControls[] = {
+    {kWindow, Text::ProgressTitle},
     {lblProgress, Text::Scanning},
     {cmdCancel, Text::Cancel},
 };
@@ -59,8 +60,7 @@ class frmProgress final : public frmBase, public Progress, private TextMeasure {
 
  private:
   void Form_Load() override {
-    SetCaptions<NoRecord>(kCaptions);
-    SetWindowTextW(Window(), Texts()[Text::ProgressTitle].c_str());
+    SetTexts(kControls);
     OnClick(cmdCancel, [this] { cmdCancel_Click(); });
     SetTimer(Window(), kTimer1, kTimerInterval, nullptr);
   }

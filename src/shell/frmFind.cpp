@@ -3,7 +3,8 @@
 namespace folivant {
 namespace {
 
-constexpr Binding<NoRecord> kCaptions[] = {
+constexpr Binding<NoRecord> kControls[] = {
+    {kWindow, Text::FindTitle},
     {lstFind, Text::SelectFindWindow},  // goes to its label
     {cmdOK, Text::Ok},
     {cmdCancel, Text::Cancel},
@@ -34,8 +35,7 @@ void frmFind::LetEventsThrough() {
 }
 
 void frmFind::Form_Load() {
-  SetWindowTextW(Window(), Texts()[Text::FindTitle].c_str());
-  SetCaptions<NoRecord>(kCaptions);
+  SetTexts(kControls);
   OnClick(cmdOK, [this] { cmdOK_Click(); });
   OnClick(cmdCancel, [this] { cmdCancel_Click(); });
   On(lstFind, LBN_DBLCLK, [this] { cmdOK_Click(); });
@@ -45,12 +45,12 @@ void frmFind::Initialize() {
   for (const FindCandidate& candidate : choice_.Candidates) {
     AddItem(lstFind, candidate.Title);
   }
-  Send(lstFind, LB_SETCURSEL, 0);
+  Select(lstFind, 0);
 }
 
 void frmFind::cmdOK_Click() {
-  const auto row = static_cast<int>(Send(lstFind, LB_GETCURSEL));
-  if (row == LB_ERR) {
+  const int row = Selected(lstFind);
+  if (row == platform::kNothingSelected) {
     return;
   }
   choice_.Choose(row);

@@ -5,71 +5,23 @@
 #include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
-#include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
 #include "platform/RuntimeError.h"
-#include "platform/win32/Owned.h"
 #include "platform/win32/Shell.h"
-#include "ui/Language.h"
 #include "ui/MarginCheck.h"
+#include "ui/OptionsControls.h"
 #include "ui/PageMargins.h"
-#include "ui/PrinterChoice.h"
+#include "ui/PrinterControls.h"
 #include "ui/ValueText.h"
-#include "ui/frmBase.h"
+#include "ui/frmLanguageList.h"
+#include "ui/frmPages.h"
 #include "ui/frmPrinter.h"
 
 namespace folivant {
 namespace {
 
-using General = GeneralSettings;
-
-constexpr Binding<General> kBindings[] = {
-    {txtViewer, Text::Viewer, Edits<&General::TextViewer>},
-    {cmdBrowse, Text::Browse},
-    {fraPage, Text::TextPage},
-    {txtWidth, Text::Width, EditsLeadingNumber<&General::TextWidth, kReadableTextWidths, kTextWidths>},
-    {lblChars, Text::Characters},
-    {txtHeight, Text::Height, EditsLeadingNumber<&General::TextHeight>},
-    {lblLines, Text::Lines},
-    {cmbDate, Text::DateFormat},
-    {chkExit, Text::ExitAfterPrinting, Edits<&General::ExitWhenDone>},
-    {chkFF, Text::FilesBeforeDirs, Edits<&General::FilesFirst>},
-    {chkEmptyDirs, Text::PrintEmptyDirs, Edits<&General::EmptyDirs>},
-    {fraInches, Text::MarginsUnit},
-    {optInches, Text::Inches},
-    {optMilimeter, Text::Millimeter},
-    {fraMargins, Text::Margins},
-    {txtLeft, Text::MarginLeft, Edits<&General::MarginLeft>},
-    {txtTop, Text::MarginTop, Edits<&General::MarginTop>},
-    {txtRight, Text::MarginRight, Edits<&General::MarginRight>},
-    {txtBottom, Text::MarginBottom, Edits<&General::MarginBottom>},
-    {fraOrientation, Text::Orientation},
-    {optPort, Text::Portrait},
-    {optLand, Text::Landscape},
-    {txtCopies, Text::Copies},
-    {cmdPrinter, Text::PrinterButton},
-    {cmdFont, Text::ChooseFont},
-    {lblFont, Text::ListingsFont},
-    {chkFontHF, Text::HeaderFooter80, Edits<&General::Font80HF>},
-    {lblFontHF, Text::HeaderFooterFont},
-    {cmdFontHF, Text::ChooseHeaderFooterFont},
-    {txtHeader, Text::HeaderLabel, Edits<&General::Header>},
-    {txtFooter, Text::FooterLabel, Edits<&General::Footer>},
-    {fraLegend, Text::Placeholders},
-    {cmbLang, Text::LanguageLabel},
-    {lblRestart, Text::RestartNote},
-    {cmdOK, Text::Ok},
-    {cmdCancel, Text::Cancel},
-    {cmdHelp, Text::Help},
-};
-
-struct PageDesign {
-  int Template;
-  Text Caption;
-};
 constexpr PageDesign kPages[] = {
     {dlgPageGeneral, Text::PageGeneral},           {dlgPagePrinter, Text::PagePrinter},   {dlgPageFont, Text::PageFont},
     {dlgPageHeaderFooter, Text::PageHeaderFooter}, {dlgPageLanguage, Text::PageLanguage},
@@ -85,25 +37,15 @@ constexpr Legend kLegend[] = {
     {L"%n  ", Text::LegendPage},
 };
 
-struct ImageListKind {
-  using Raw = HIMAGELIST;
-  static Raw Empty() { return nullptr; }
-  static void Close(Raw list) { ImageList_Destroy(list); }
-};
-using OwnedImageList = platform::Owned<ImageListKind>;
-
-constexpr int kFlagWidth = 20;  // dots at 96 per inch
-constexpr int kPageBorder = 4;  // between the tab strip's frame and a page, likewise
-
 std::wstring FontText(const std::wstring& name, int points) {
   return name + L", " + std::to_wstring(points);
 }
 
-class frmOptions final : public frmBase {
+class frmOptions final : public frmPages {
  public:
   frmOptions(const DialogContext& context, GeneralSettings& general, PrinterSettings& printer,
              const OptionsCaller& caller)
-      : frmBase(dlgOptions, context),
+      : frmPages(dlgOptions, context),
         generalResult_(general),
         printerResult_(printer),
         caller_(caller),
@@ -114,19 +56,11 @@ class frmOptions final : public frmBase {
   void Form_Load() override;
   void Form_QueryClose() override { CloseKeepingTab(IDCANCEL); }
   void Form_DpiChanged() override {
-    ShowFlags();
+    languages_.ShowFlags();
     PlacePages();
   }
-  bool Form_KeyDown(WPARAM key) override;
-  void ShowField(int control) override;
 
-  void MakePages();
-  void PlacePages();
-  void ShowPage(int index);
-  int ShownPage() const { return static_cast<int>(Send(TabStrip, TCM_GETCURSEL)); }
   void FillDateFormats();
-  void ShowFlags();
-  void FillLanguages();
   void SetHandlers();
   void SetUnitLabels();
   void ShowFonts();
@@ -147,25 +81,21 @@ class frmOptions final : public frmBase {
   const OptionsCaller& caller_;
   GeneralSettings general_;  ///< as far as it has been edited; the controls hold the rest
   PrinterSettings printer_;
-  std::vector<HWND> pages_;
-  std::vector<std::wstring> languageFiles_;  ///< by the position that a language's key tells
-  OwnedImageList flags_;
+  LanguageList languages_{*this, cmbLang};
 };
 
 void frmOptions::Form_Load() {
-  SetWindowTextW(Window(), Texts()[Text::OptionsTitle].c_str());
-  MakePages();
-  SetCaptions<General>(kBindings);
+  MakePages(kPages);
+  SetTexts(kOptionsControls);
+  SetTexts(kCopiesControls);
   for (int i = 0; const Legend& row : kLegend) {
     SetText(lblLegend + i++, row.Code + Texts()[row.Meaning]);
   }
   FillDateFormats();
-  ShowFlags();
-  FillLanguages();
-  Fill<General>(kBindings, general_);
-  Choose({optInches, optMilimeter}, general_.Inches ? optInches : optMilimeter);
-  Choose({optPort, optLand}, general_.Portrait ? optPort : optLand);
-  SetText(txtCopies, WholeText(printer_.PrinterCopies));
+  languages_.ShowFlags();
+  languages_.Fill(general_.Language);
+  Fill(kOptionsControls, general_);
+  Fill(kCopiesControls, printer_);
   SetText(lblPrinter, ShownPrinterName(printer_, Texts()));
   SetPicture(picPort, picPortrait);
   SetPicture(picLand, picLandscape);
@@ -176,110 +106,23 @@ void frmOptions::Form_Load() {
   ShowPage(std::clamp(caller_.LoadLastTab(), 1, static_cast<int>(std::size(kPages))) - 1);
 }
 
-void frmOptions::MakePages() {
-  for (const PageDesign& page : kPages) {
-    std::wstring caption = Texts()[page.Caption];
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = caption.data();
-    Send(TabStrip, TCM_INSERTITEMW, pages_.size(), reinterpret_cast<LPARAM>(&item));
-    pages_.push_back(AddPage(page.Template));
-  }
-}
-
-/// Gives all pages the size of the largest one, and the tab strip and the window what that takes.
-void frmOptions::PlacePages() {
-  RECT strip{};
-  GetWindowRect(Item(TabStrip), &strip);
-  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&strip), 2);
-  RECT page = strip;
-  Send(TabStrip, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
-  InflateRect(&page, -Scaled(kPageBorder), -Scaled(kPageBorder));
-  SIZE needed{page.right - page.left, page.bottom - page.top};
-  for (const HWND each : pages_) {
-    const SIZE size = FitPageToTexts(each);
-    needed = {std::max(needed.cx, size.cx), std::max(needed.cy, size.cy)};
-  }
-  Grow(TabStrip, {needed.cx - (page.right - page.left), needed.cy - (page.bottom - page.top)});
-  for (const HWND each : pages_) {
-    SetWindowPos(each, HWND_TOP, page.left, page.top, needed.cx, needed.cy, SWP_NOACTIVATE);
-  }
-  FitToTexts();
-}
-
-void frmOptions::ShowPage(int index) {
-  Send(TabStrip, TCM_SETCURSEL, static_cast<WPARAM>(index));
-  for (int i = 0; const HWND page : pages_) {
-    ShowWindow(page, i++ == index ? SW_SHOW : SW_HIDE);
-  }
-}
-
-void frmOptions::ShowField(int control) {
-  const auto page = std::find(pages_.begin(), pages_.end(), GetParent(Item(control)));
-  if (page != pages_.end()) {
-    ShowPage(static_cast<int>(page - pages_.begin()));
-  }
-}
-
-/// The keys that turn pages in the system's own property sheets.
-bool frmOptions::Form_KeyDown(WPARAM key) {
-  const bool backwards = key == VK_PRIOR || (key == VK_TAB && GetKeyState(VK_SHIFT) < 0);
-  if (GetKeyState(VK_CONTROL) >= 0 || (key != VK_TAB && key != VK_NEXT && key != VK_PRIOR)) {
-    return false;
-  }
-  const int count = static_cast<int>(pages_.size());
-  ShowPage((ShownPage() + (backwards ? count - 1 : 1)) % count);
-  SetFocusTo(TabStrip);
-  return true;
-}
-
 void frmOptions::FillDateFormats() {
   for (std::int32_t i = 0; !DatePatternOf(i).empty(); ++i) {
     AddItem(cmbDate, std::wstring(DatePatternOf(i)));
   }
-  Send(cmbDate, CB_SETCURSEL, static_cast<WPARAM>(general_.DateFormat));
-}
-
-void frmOptions::ShowFlags() {
-  const int percent = Scaled(100);
-  const int strip = picFlags + (percent <= 100 ? 0 : percent <= 150 ? 1000 : 2000);
-  const int width = kFlagWidth * (percent <= 100 ? 100 : percent <= 150 ? 150 : 200) / 100;
-  OwnedImageList flags(ImageList_LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(strip), width, 0, CLR_NONE,
-                                            IMAGE_BITMAP, LR_CREATEDIBSECTION));
-  Send(cmbLang, CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(flags.Get()));
-  flags_ = std::move(flags);
-}
-
-void frmOptions::FillLanguages() {
-  for (LanguageEntry& language : ListLanguages(platform::ProgramFolder())) {
-    COMBOBOXEXITEMW item{};
-    item.mask = CBEIF_TEXT | CBEIF_IMAGE | CBEIF_SELECTEDIMAGE | CBEIF_LPARAM;
-    item.iItem = -1;
-    item.pszText = language.Name.data();
-    item.iImage = language.Flag;
-    item.iSelectedImage = language.Flag;
-    item.lParam = static_cast<LPARAM>(languageFiles_.size());
-    const LRESULT row = Send(cmbLang, CBEM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    if (lstrcmpiW(language.FileName.c_str(), general_.Language.c_str()) == 0) {
-      Send(cmbLang, CB_SETCURSEL, static_cast<WPARAM>(row));
-    }
-    languageFiles_.push_back(std::move(language.FileName));
-  }
 }
 
 void frmOptions::SetHandlers() {
-  On(TabStrip, static_cast<int>(TCN_SELCHANGE), [this] { ShowPage(ShownPage()); });
   OnClick(optInches, [this] { SetUnitLabels(); });
   OnClick(optMilimeter, [this] { SetUnitLabels(); });
-  OnClick(picPort, [this] { Choose({optPort, optLand}, optPort); });
-  OnClick(picLand, [this] { Choose({optPort, optLand}, optLand); });
+  OnClick(picPort, [this] { ChooseButton(kOptionsControls, optPort); });
+  OnClick(picLand, [this] { ChooseButton(kOptionsControls, optLand); });
   OnClick(chkFontHF, [this] { ShowFonts(); });
   OnClick(cmdBrowse, [this] { cmdBrowse_Click(); });
   OnClick(cmdPrinter, [this] { cmdPrinter_Click(); });
   OnClick(cmdFont, [this] { cmdFont_Click(); });
   OnClick(cmdFontHF, [this] { cmdFontHF_Click(); });
   OnClick(cmdOK, [this] { cmdOK_Click(); });
-  OnClick(cmdHelp, [this] { ShowHelp(); });
 }
 
 /// The numbers in the boxes stay as they are, on purpose: after a change of the unit the user enters margins anew.
@@ -333,8 +176,10 @@ void frmOptions::cmdFontHF_Click() {
 }
 
 Margins frmOptions::EnteredMargins() const {
-  return {
-      .Left = SingleOf(txtLeft), .Top = SingleOf(txtTop), .Right = SingleOf(txtRight), .Bottom = SingleOf(txtBottom)};
+  return {.Left = SingleOf(*this, txtLeft),
+          .Top = SingleOf(*this, txtTop),
+          .Right = SingleOf(*this, txtRight),
+          .Bottom = SingleOf(*this, txtBottom)};
 }
 
 /// `device` are the printer's minimum margins. False when the dialog has to stay open.
@@ -384,18 +229,10 @@ void frmOptions::cmdOK_Click() {
   }
   GeneralSettings general = general_;
   PrinterSettings printer = printer_;
-  Read<General>(kBindings, general);
-  general.DateFormat = static_cast<std::int32_t>(Send(cmbDate, CB_GETCURSEL));
-  general.Inches = Checked(optInches);
-  general.Portrait = Checked(optPort);
-  printer.PrinterCopies = WholeNumberOf(txtCopies, kRangeOf<std::int16_t>);
-  const LRESULT row = Send(cmbLang, CB_GETCURSEL);
-  if (row != CB_ERR) {
-    COMBOBOXEXITEMW item{};
-    item.mask = CBEIF_LPARAM;
-    item.iItem = row;
-    Send(cmbLang, CBEM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    general.Language = languageFiles_[static_cast<std::size_t>(item.lParam)];
+  Read(kOptionsControls, general);
+  Read(kCopiesControls, printer);
+  if (const auto language = languages_.SelectedFile()) {
+    general.Language = *language;
   }
   if (surface && !CheckRoom(std::move(surface), general)) {
     return;

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Holds every language file against the numbers that the program uses: each text is there, placeholders and line breaks are
 those of the English text, no two mnemonics of one window are the same, and texts whose place is narrow fit into it; French
-marks have blanks that do not break. Which captions meet in one window is read from the tables of the frm files.
+marks have blanks that do not break. Which captions meet in one window is read from
+the tables of the dialogs.
 
     tests/house/languages.py REPOSITORY
 """
@@ -39,7 +40,9 @@ def texts(language):
 def windows():
     """Each window, and each page together with the dialog around it: the names of the texts that stand in it."""
     for script in sorted((ROOT / 'src/res').glob('frm*.rc')):
-        code = ''.join(source.read_text() for source in ROOT.glob(f'src/*/{script.stem}.cpp'))
+        window = script.stem.removeprefix('frm')
+        sources = [*ROOT.glob(f'src/*/{window}Controls.h'), *ROOT.glob(f'src/*/{script.stem}.cpp')]
+        code = ''.join(source.read_text() for source in sources)
         captions = dict(re.findall(r'\{([\w +]+), Text::(\w+)', code))
         dialogs = {}
         for name, body in re.findall(r'^(\w+) DIALOGEX(.*?)^END', script.read_text(), re.M | re.S):

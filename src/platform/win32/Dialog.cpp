@@ -26,10 +26,22 @@ HINSTANCE Program() {
   return GetModuleHandleW(nullptr);
 }
 
-bool IsEdit(HWND control) {
+bool IsOfClass(HWND control, const wchar_t* wanted) {
   wchar_t name[16] = {};
   GetClassNameW(control, name, 16);
-  return lstrcmpiW(name, L"Edit") == 0;
+  return lstrcmpiW(name, wanted) == 0;
+}
+
+/// The messages of a list, which are others for list boxes than for combo boxes.
+struct ListMessages {
+  UINT Add, Count, TextLength, Text, Select, Selected;
+};
+constexpr ListMessages kListBox = {LB_ADDSTRING, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, LB_SETCURSEL, LB_GETCURSEL};
+constexpr ListMessages kComboBox = {CB_ADDSTRING, CB_GETCOUNT,  CB_GETLBTEXTLEN,
+                                    CB_GETLBTEXT, CB_SETCURSEL, CB_GETCURSEL};
+
+const ListMessages& MessagesOf(HWND list) {
+  return IsOfClass(list, L"ListBox") ? kListBox : kComboBox;
 }
 
 }  // namespace
@@ -150,6 +162,9 @@ void Dialog::Remove() {
 }
 
 HWND Dialog::Item(int control) const {
+  if (control == kWindow) {
+    return window_;
+  }
   if (const HWND own = GetDlgItem(window_, control); own != nullptr) {
     return own;
   }
@@ -177,12 +192,12 @@ void Dialog::SetText(int control, const std::wstring& text) {
   SetWindowTextW(Item(control), text.c_str());
 }
 
-bool Dialog::Checked(int control) const {
-  return Send(control, BM_GETCHECK) == BST_CHECKED;
+bool Dialog::Checked(int button) const {
+  return Send(button, BM_GETCHECK) == BST_CHECKED;
 }
 
-void Dialog::SetChecked(int control, bool checked) {
-  Send(control, BM_SETCHECK, checked ? WPARAM{BST_CHECKED} : WPARAM{BST_UNCHECKED});
+void Dialog::SetChecked(int button, bool checked) {
+  Send(button, BM_SETCHECK, checked ? WPARAM{BST_CHECKED} : WPARAM{BST_UNCHECKED});
 }
 
 void Dialog::Enable(int control, bool enabled) {
@@ -198,10 +213,10 @@ LRESULT Dialog::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) co
   return SendMessageW(Item(control), message, wParam, lParam);
 }
 
-void Dialog::Choose(std::initializer_list<int> buttons, int button) {
+void Dialog::Choose(std::span<const int> buttons, int button) {
   // Arrow keys and Tab enter a group at its chosen button, or at the first one.
   const bool any = std::find(buttons.begin(), buttons.end(), button) != buttons.end();
-  const int entrance = any ? button : *buttons.begin();
+  const int entrance = any ? button : buttons.front();
   for (const int each : buttons) {
     SetChecked(each, each == button);
     const HWND item = Item(each);
@@ -262,11 +277,43 @@ void Dialog::GrowToPicture(int control, SIZE picture) {
   }
 }
 
-void Dialog::AddItem(int control, const std::wstring& text) {
-  wchar_t name[16] = {};
-  GetClassNameW(Item(control), name, 16);
-  const UINT add = lstrcmpiW(name, L"ListBox") == 0 ? UINT{LB_ADDSTRING} : UINT{CB_ADDSTRING};
-  Send(control, add, 0, reinterpret_cast<LPARAM>(text.c_str()));
+void Dialog::AddItem(int list, const std::wstring& text) {
+  Send(list, MessagesOf(Item(list)).Add, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::vector<std::wstring> Dialog::ItemsOf(int list) const {
+  const ListMessages& messages = MessagesOf(Item(list));
+  std::vector<std::wstring> items(static_cast<std::size_t>(std::max<LRESULT>(Send(list, messages.Count), 0)));
+  for (WPARAM position = 0; std::wstring & text : items) {
+    const LRESULT length = Send(list, messages.TextLength, position);
+    text.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)) + 1);
+    Send(list, messages.Text, position++, reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back();
+  }
+  return items;
+}
+
+void Dialog::Select(int list, int position) {
+  Send(list, MessagesOf(Item(list)).Select, static_cast<WPARAM>(position));
+}
+
+int Dialog::Selected(int list) const {
+  static_assert(LB_ERR == kNothingSelected && CB_ERR == kNothingSelected);
+  return static_cast<int>(Send(list, MessagesOf(Item(list)).Selected));
+}
+
+void Dialog::SetDay(int picker, const CalendarTime& day) {
+  SYSTEMTIME shown{};
+  shown.wYear = static_cast<WORD>(day.Year);
+  shown.wMonth = static_cast<WORD>(day.Month);
+  shown.wDay = static_cast<WORD>(day.Day);
+  Send(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&shown));
+}
+
+CalendarTime Dialog::DayOf(int picker) const {
+  SYSTEMTIME shown{};
+  Send(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&shown));
+  return {shown.wYear, shown.wMonth, shown.wDay};
 }
 
 int Dialog::Scaled(int length) const {
@@ -416,7 +463,7 @@ INT_PTR Dialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 bool Dialog::Notify(int control, int code, HWND sender) {
-  if (code == EN_SETFOCUS && sender != nullptr && IsEdit(sender)) {
+  if (code == EN_SETFOCUS && sender != nullptr && IsOfClass(sender, L"Edit")) {
     // Posted, because a mouse click places the caret after this notification.
     PostMessageW(sender, EM_SETSEL, 0, -1);
   }

@@ -6,24 +6,24 @@
 
 #include <exception>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/Controls.h"
 #include "platform/win32/Win32.h"
 
 #include <commctrl.h>
 
 namespace folivant::platform {
 
-class Dialog {
+class Dialog : public Controls {
  public:
   /// `resource` is the number of a dialog template.
   explicit Dialog(int resource);
-  virtual ~Dialog();
+  ~Dialog() override;
   Dialog(const Dialog&) = delete;
   Dialog& operator=(const Dialog&) = delete;
 
@@ -38,22 +38,25 @@ class Dialog {
 
   // Controls are named by their id and looked for in the window and in its pages.
   HWND Item(int control) const;
-  bool Has(int control) const;
-  std::wstring TextOf(int control) const;
-  void SetText(int control, const std::wstring& text);
-  bool Checked(int control) const;
-  void SetChecked(int control, bool checked);
+  bool Has(int control) const override;
+  std::wstring TextOf(int control) const override;
+  void SetText(int control, const std::wstring& text) override;
+  bool Checked(int button) const override;
+  void SetChecked(int button, bool checked) override;
+  void Choose(std::span<const int> buttons, int button) override;
+  void AddItem(int list, const std::wstring& text) override;
+  std::vector<std::wstring> ItemsOf(int list) const override;
+  void Select(int list, int position) override;
+  int Selected(int list) const override;
+  CalendarTime DayOf(int picker) const override;
+  void SetDay(int picker, const CalendarTime& day) override;
   void Enable(int control, bool enabled);
   void SetFocusTo(int control);
   LRESULT Send(int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  /// Checks `button` alone among `buttons`.
-  void Choose(std::initializer_list<int> buttons, int button);
   void SetToolTip(int control, const std::wstring& text);
   /// Shows a bitmap resource; the numbers 1000 and 2000 above it hold the same picture for 150 and 200 percent. In
   /// Form_Load a control that is too small for its picture grows.
   void SetPicture(int control, int resource);
-  /// Adds an item to a combo or list box.
-  void AddItem(int control, const std::wstring& text);
   /// A length given for 96 dots per inch, in dots of this window's screen.
   int Scaled(int length) const;
   /// The width of `text` in this window's font, in dots; "&" is a letter like any other.

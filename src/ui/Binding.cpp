@@ -1,0 +1,32 @@
+#include "ui/Binding.h"
+
+#include "res/Controls.h"
+#include "ui/FieldText.h"
+#include "ui/Language.h"
+
+namespace folivant {
+namespace {
+
+/// The control that carries the caption of `control`.
+int CaptionedBy(const Controls& controls, int control) {
+  return controls.Has(LABEL_OF(control)) ? LABEL_OF(control) : control;
+}
+
+}  // namespace
+
+std::wstring FieldNameOf(const Controls& controls, int control) {
+  return FieldName(controls.TextOf(CaptionedBy(controls, control)));
+}
+
+std::wstring ProblemOf(const Controls& controls, const FieldError& error, const Messages& texts) {
+  const std::wstring field = FieldNameOf(controls, error.Control());
+  const std::optional<ValueLimits>& limits = error.Limits();
+  return limits ? WithPlaceholders(texts[Text::NumberOutOfRange], field, limits->Lowest, limits->Highest)
+                : WithPlaceholders(texts[Text::NotANumber], field);
+}
+
+void SetCaption(Controls& controls, int control, const std::wstring& caption) {
+  controls.SetText(CaptionedBy(controls, control), caption);
+}
+
+}  // namespace folivant
