@@ -17,8 +17,8 @@ void LanguageList::ShowFlags() {
   const int percent = dialog_.Scaled(100);
   const int strip = picFlags + (percent <= 100 ? 0 : percent <= 150 ? 1000 : 2000);
   const int width = kFlagWidth * (percent <= 100 ? 100 : percent <= 150 ? 150 : 200) / 100;
-  OwnedImageList flags(ImageList_LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(strip), width, 0, CLR_NONE,
-                                            IMAGE_BITMAP, LR_CREATEDIBSECTION));
+  platform::OwnedImageList flags(ImageList_LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(strip), width, 0,
+                                                      CLR_NONE, IMAGE_BITMAP, LR_CREATEDIBSECTION));
   dialog_.Send(list_, CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(flags.Get()));
   flags_ = std::move(flags);
 }

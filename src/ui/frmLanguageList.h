@@ -6,16 +6,9 @@
 #include <vector>
 
 #include "platform/win32/Dialog.h"
-#include "platform/win32/Owned.h"
+#include "platform/win32/OwnedWindows.h"
 
 namespace folivant {
-
-struct ImageListKind {
-  using Raw = HIMAGELIST;
-  static Raw Empty() { return nullptr; }
-  static void Close(Raw list) { ImageList_Destroy(list); }
-};
-using OwnedImageList = platform::Owned<ImageListKind>;
 
 class LanguageList {
  public:
@@ -33,7 +26,7 @@ class LanguageList {
   platform::Dialog& dialog_;
   int list_;
   std::vector<std::wstring> files_;  ///< by the number that an item carries
-  OwnedImageList flags_;
+  platform::OwnedImageList flags_;
 };
 
 }  // namespace folivant

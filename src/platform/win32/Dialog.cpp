@@ -7,6 +7,7 @@
 
 #include "platform/win32/DialogFit.h"
 #include "platform/win32/DialogTemplate.h"
+#include "platform/win32/OwnedWindows.h"
 #include "platform/win32/Picture.h"
 #include "platform/win32/WindowSystem.h"
 
@@ -85,10 +86,7 @@ class Dialog::KeyWatch {
   explicit KeyWatch(Dialog& dialog)
       : outer_(std::exchange(current_, &dialog)),
         hook_(SetWindowsHookExW(WH_MSGFILTER, Procedure, nullptr, GetCurrentThreadId())) {}
-  ~KeyWatch() {
-    UnhookWindowsHookEx(hook_);
-    current_ = outer_;
-  }
+  ~KeyWatch() { current_ = outer_; }
   KeyWatch(const KeyWatch&) = delete;
   KeyWatch& operator=(const KeyWatch&) = delete;
 
@@ -105,7 +103,7 @@ class Dialog::KeyWatch {
 
   static inline Dialog* current_ = nullptr;
   Dialog* outer_;
-  HHOOK hook_;
+  OwnedHook hook_;
 };
 
 Dialog::Dialog(int resource) : resource_(resource) {}

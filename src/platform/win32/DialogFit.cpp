@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/win32/OwnedWindows.h"
 #include "platform/win32/WindowSystem.h"
 
 namespace folivant::platform {
@@ -34,11 +35,9 @@ std::wstring ClassOf(HWND control) {
 /// The box that one line of `text` takes in the window's font.
 RECT Measure(HWND window, const std::wstring& text, UINT format) {
   RECT box{};
-  const HDC screen = GetDC(window);
-  const HGDIOBJ old = SelectObject(screen, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
-  DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &box, DT_CALCRECT | DT_SINGLELINE | format);
-  SelectObject(screen, old);
-  ReleaseDC(window, screen);
+  const WindowContext screen(window);
+  const Selection font(screen.Get(), reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
+  DrawTextW(screen.Get(), text.c_str(), static_cast<int>(text.size()), &box, DT_CALCRECT | DT_SINGLELINE | format);
   return box;
 }
 

@@ -5,7 +5,6 @@
 #include <shlobj.h>
 
 #include <exception>
-#include <memory>
 
 #ifdef __GNUC__
 // Interfaces of the system have no virtual destructor; objects behind them delete themselves.
@@ -26,12 +25,12 @@ std::wstring FirstItem(IDataObject* object) {
   if (FAILED(object->GetData(&format, &medium))) {
     return {};
   }
-  const std::unique_ptr<STGMEDIUM, decltype(&ReleaseStgMedium)> owned(&medium, ReleaseStgMedium);
+  const OwnedMedium owned(medium);
+  const LockedMemory locked(owned.Memory());
   std::wstring path;
-  if (auto* drop = static_cast<HDROP>(GlobalLock(medium.hGlobal)); drop != nullptr) {
+  if (auto* drop = static_cast<HDROP>(locked.Address()); drop != nullptr) {
     path.resize(DragQueryFileW(drop, 0, nullptr, 0));
     DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size()) + 1);
-    GlobalUnlock(medium.hGlobal);
   }
   return path;
 }
@@ -95,13 +94,11 @@ class DropTarget::Target final : public IDropTarget {
 };
 
 DropTarget::DropTarget(HWND window, std::function<void(const std::wstring&)> dropped)
-    : window_(window), target_(new Target(window, std::move(dropped))) {
-  RegisterDragDrop(window_, target_);
+    : target_(new Target(window, std::move(dropped))) {
+  RegisterDragDrop(window, target_.Get());
+  window_ = OwnedDropWindow(window);
 }
 
-DropTarget::~DropTarget() {
-  RevokeDragDrop(window_);
-  target_->Release();
-}
+DropTarget::~DropTarget() = default;
 
 }  // namespace folivant::platform

@@ -64,7 +64,9 @@ struct ForeignWindow::State {
   std::wstring Title;
   OwnedKernel Process;
   RecordLayout Layout = RecordLayout::Bits64;
-  char* Block = nullptr;  // an address in the other program
+  OwnedForeignMemory Block = OwnedForeignMemory();  // after the process, which it needs at its end
+
+  char* Address() const { return static_cast<char*>(Block.Get().Address); }
 
   [[noreturn]] void Fail(DWORD code) const { throw SystemError(FailedAction::ReadWindow, Title, code); }
 
@@ -92,11 +94,7 @@ ForeignWindow::ForeignWindow(WindowHandle window, std::wstring title)
   state_->Open();
 }
 
-ForeignWindow::~ForeignWindow() {
-  if (state_->Block != nullptr) {
-    VirtualFreeEx(state_->Process.Get(), state_->Block, 0, MEM_RELEASE);
-  }
-}
+ForeignWindow::~ForeignWindow() = default;
 
 RecordLayout ForeignWindow::Layout() const {
   return state_->Layout;
@@ -108,18 +106,18 @@ std::uint64_t ForeignWindow::Reserve(std::size_t size) {
   if (block == nullptr) {
     state_->Fail(GetLastError());
   }
-  state_->Block = static_cast<char*>(block);
+  state_->Block = OwnedForeignMemory({state_->Process.Get(), block});
   return reinterpret_cast<std::uint64_t>(block);
 }
 
 void ForeignWindow::Write(std::size_t offset, std::span<const std::byte> bytes) {
-  if (!WriteProcessMemory(state_->Process.Get(), state_->Block + offset, bytes.data(), bytes.size(), nullptr)) {
+  if (!WriteProcessMemory(state_->Process.Get(), state_->Address() + offset, bytes.data(), bytes.size(), nullptr)) {
     state_->Fail(GetLastError());
   }
 }
 
 void ForeignWindow::Read(std::size_t offset, std::span<std::byte> bytes) {
-  if (!ReadProcessMemory(state_->Process.Get(), state_->Block + offset, bytes.data(), bytes.size(), nullptr)) {
+  if (!ReadProcessMemory(state_->Process.Get(), state_->Address() + offset, bytes.data(), bytes.size(), nullptr)) {
     state_->Fail(GetLastError());
   }
 }

@@ -82,7 +82,7 @@ void OutputFile::Close() {
     return;
   }
   closing->Flush(true);
-  if (!CloseHandle(closing->File.Release())) {  // a network drive may report the full disk only here
+  if (!closing->File.Close()) {  // a network drive may report the full disk only here
     throw SystemError(FailedAction::WriteFile, closing->Path, GetLastError());
   }
 }

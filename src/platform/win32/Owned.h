@@ -1,4 +1,5 @@
-// Owners of system handles: each kind knows its empty value and its closer, and nobody else closes.
+// Owners of files, kernel objects and memory: each kind knows its empty value and its closer, and nobody else closes.
+// Those of windows, drawing and printing are in platform/win32/OwnedWindows.h.
 #pragma once
 
 #include <utility>
@@ -18,14 +19,14 @@ class Owned {
     return *this;
   }
   ~Owned() {
-    if (raw_ != Kind::Empty()) {
+    if (IsOpen()) {
       Kind::Close(raw_);
     }
   }
   Raw Get() const { return raw_; }
   bool IsOpen() const { return raw_ != Kind::Empty(); }
-  /// Gives the handle up to the caller.
-  Raw Release() { return std::exchange(raw_, Kind::Empty()); }
+  /// Closes now what is open, for a kind whose closing can fail: false, with the number of the failure in GetLastError.
+  bool Close() { return Kind::Close(std::exchange(raw_, Kind::Empty())); }
 
  private:
   Raw raw_;
@@ -34,7 +35,7 @@ class Owned {
 struct FileKind {
   using Raw = HANDLE;
   static Raw Empty() { return INVALID_HANDLE_VALUE; }
-  static void Close(Raw handle) { CloseHandle(handle); }
+  static bool Close(Raw handle) { return CloseHandle(handle) != FALSE; }
 };
 using OwnedFile = Owned<FileKind>;
 
@@ -60,11 +61,17 @@ struct RegistryKind {
 };
 using OwnedKey = Owned<RegistryKind>;
 
-struct BitmapKind {
-  using Raw = HBITMAP;
-  static Raw Empty() { return nullptr; }
-  static void Close(Raw handle) { DeleteObject(handle); }
+/// Memory inside another process.
+struct ForeignMemory {
+  HANDLE Process = nullptr;
+  void* Address = nullptr;  ///< as that process sees it
+  bool operator==(const ForeignMemory&) const = default;
 };
-using OwnedBitmap = Owned<BitmapKind>;
+struct ForeignMemoryKind {
+  using Raw = ForeignMemory;
+  static Raw Empty() { return {}; }
+  static void Close(Raw memory) { VirtualFreeEx(memory.Process, memory.Address, 0, MEM_RELEASE); }
+};
+using OwnedForeignMemory = Owned<ForeignMemoryKind>;
 
 }  // namespace folivant::platform

@@ -13,13 +13,6 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-struct FontKind {
-  using Raw = HFONT;
-  static Raw Empty() { return nullptr; }
-  static void Close(Raw font) { DeleteObject(font); }
-};
-using OwnedFont = Owned<FontKind>;
-
 /// The system's number for a spooler call that answered `result`, when it left none of its own.
 DWORD SpoolerError(int result) {
   switch (result) {
@@ -50,7 +43,7 @@ class PrinterSurface final : public PageSurface {
 
   void SelectFont(const PageFont& font) override {
     selected_ = FontOf(font);
-    SelectObject(Dc(), selected_);
+    selection_.Select(selected_);
   }
 
   double TextWidth(std::wstring_view text) override {
@@ -124,7 +117,7 @@ class PrinterSurface final : public PageSurface {
     SetBkMode(Dc(), TRANSPARENT);
     SetTextAlign(Dc(), TA_LEFT | TA_TOP | TA_NOUPDATECP);
     if (selected_ != nullptr) {
-      SelectObject(Dc(), selected_);
+      selection_.Select(selected_);
     }
   }
 
@@ -149,8 +142,9 @@ class PrinterSurface final : public PageSurface {
   }
 
   std::wstring printer_;
-  std::vector<std::pair<PageFont, OwnedFont>> fonts_;  ///< outlives the context that may have one selected
+  std::vector<std::pair<PageFont, OwnedFont>> fonts_;  ///< outlives the selection of one
   OwnedDeviceContext dc_;
+  Selection selection_{dc_.Get()};
   PageArea area_;
   double dotsPerTwipX_;
   double dotsPerTwipY_;

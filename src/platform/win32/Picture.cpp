@@ -5,20 +5,15 @@ namespace {
 
 OwnedBitmap Stretched(HBITMAP source, SIZE wanted) {
   const SIZE size = SizeOfBitmap(source);
-  const HDC screen = GetDC(nullptr);
-  const HDC from = CreateCompatibleDC(screen);
-  const HDC to = CreateCompatibleDC(screen);
-  OwnedBitmap made(CreateCompatibleBitmap(screen, wanted.cx, wanted.cy));
-  const HGDIOBJ oldFrom = SelectObject(from, source);
-  const HGDIOBJ oldTo = SelectObject(to, made.Get());
-  SetStretchBltMode(to, HALFTONE);
-  SetBrushOrgEx(to, 0, 0, nullptr);
-  StretchBlt(to, 0, 0, wanted.cx, wanted.cy, from, 0, 0, size.cx, size.cy, SRCCOPY);
-  SelectObject(from, oldFrom);
-  SelectObject(to, oldTo);
-  DeleteDC(from);
-  DeleteDC(to);
-  ReleaseDC(nullptr, screen);
+  const WindowContext screen(nullptr);
+  const OwnedDeviceContext from(CreateCompatibleDC(screen.Get()));
+  const OwnedDeviceContext to(CreateCompatibleDC(screen.Get()));
+  OwnedBitmap made(CreateCompatibleBitmap(screen.Get(), wanted.cx, wanted.cy));
+  const Selection read(from.Get(), source);
+  const Selection drawn(to.Get(), made.Get());
+  SetStretchBltMode(to.Get(), HALFTONE);
+  SetBrushOrgEx(to.Get(), 0, 0, nullptr);
+  StretchBlt(to.Get(), 0, 0, wanted.cx, wanted.cy, from.Get(), 0, 0, size.cx, size.cy, SRCCOPY);
   return made;
 }
 

@@ -2,7 +2,7 @@
 // above it for 150 and 200 percent.
 #pragma once
 
-#include "platform/win32/Owned.h"
+#include "platform/win32/OwnedWindows.h"
 
 namespace folivant::platform {
 

@@ -16,13 +16,6 @@
 namespace folivant::platform {
 namespace {
 
-struct PrinterKind {
-  using Raw = HANDLE;
-  static Raw Empty() { return nullptr; }
-  static void Close(Raw printer) { ClosePrinter(printer); }
-};
-using OwnedPrinter = Owned<PrinterKind>;
-
 // The printer functions take names that they do not change as pointers to changeable text.
 wchar_t* Changeable(const std::wstring& text) {
   return const_cast<wchar_t*>(text.c_str());

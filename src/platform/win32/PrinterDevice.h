@@ -6,17 +6,9 @@
 #include <vector>
 
 #include "platform/PageSurface.h"
-#include "platform/win32/Owned.h"
-#include "platform/win32/Win32.h"
+#include "platform/win32/OwnedWindows.h"
 
 namespace folivant::platform {
-
-struct DeviceContextKind {
-  using Raw = HDC;
-  static Raw Empty() { return nullptr; }
-  static void Close(Raw dc) { DeleteDC(dc); }
-};
-using OwnedDeviceContext = Owned<DeviceContextKind>;
 
 /// A driver's DEVMODE, which is longer than the structure by what the driver keeps for itself.
 class DeviceSettings {

@@ -10,6 +10,7 @@
 #include <array>
 #include <vector>
 
+#include "platform/win32/OwnedWindows.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/WindowSystem.h"
 
@@ -88,9 +89,10 @@ std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& titl
   browse.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE | BIF_NONEWFOLDERBUTTON;
   browse.lpfn = PreselectStart;
   browse.lParam = reinterpret_cast<LPARAM>(start.c_str());
-  const std::unique_ptr<ITEMIDLIST, decltype(&CoTaskMemFree)> chosen(SHBrowseForFolderW(&browse), CoTaskMemFree);
+  const OwnedTaskMemory chosen(SHBrowseForFolderW(&browse));
   std::vector<wchar_t> path(kPathRoom);
-  if (!chosen || !SHGetPathFromIDListEx(chosen.get(), path.data(), static_cast<DWORD>(path.size()), GPFIDL_DEFAULT)) {
+  if (!chosen.IsOpen() || !SHGetPathFromIDListEx(static_cast<const ITEMIDLIST*>(chosen.Get()), path.data(),
+                                                 static_cast<DWORD>(path.size()), GPFIDL_DEFAULT)) {
     return std::nullopt;
   }
   return std::wstring(path.data());

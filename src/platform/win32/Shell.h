@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/win32/Win32.h"
+#include "platform/win32/OwnedWindows.h"
 
 namespace folivant::platform {
 
@@ -53,8 +53,8 @@ class DropTarget {
 
  private:
   class Target;
-  HWND window_;
-  Target* target_;
+  OwnedInterface<Target> target_;
+  OwnedDropWindow window_;  ///< closed first
 };
 
 }  // namespace folivant::platform

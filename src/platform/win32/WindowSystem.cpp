@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <ole2.h>
 
+#include "platform/win32/OwnedWindows.h"
 #include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
@@ -25,10 +26,8 @@ FARPROC NewerFunction(const wchar_t* module, const char* name) {
 }
 
 int SystemDpi() {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-  ReleaseDC(nullptr, screen);
-  return dpi;
+  const WindowContext screen(nullptr);
+  return GetDeviceCaps(screen.Get(), LOGPIXELSY);
 }
 
 int DpiOf(HWND window) {
