@@ -1,4 +1,4 @@
-// The main window: what is listed, where to, and the way into every other window.
+// The main window: what will be listed, and the way to everything else.
 #include <memory>
 #include <optional>
 #include <string>

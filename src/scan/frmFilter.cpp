@@ -1,4 +1,5 @@
-// The filter window: which entries are listed, and in which order.
+// Beside the table of its controls: each part of the filter follows its check box, and bare controls get texts for
+// screen readers.
 #include "scan/frmFilter.h"
 
 #include "scan/FilterControls.h"

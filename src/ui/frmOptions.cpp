@@ -1,4 +1,5 @@
-// The options: five pages over the general settings and the printer, checked as a whole on OK.
+// Values that no table can hold are looked after here: fonts, the printer with its own dialog, and margins, which must
+// leave room on the sheet of the chosen printer before anything is stored.
 #include "ui/frmOptions.h"
 
 #include <algorithm>

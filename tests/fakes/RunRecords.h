@@ -21,6 +21,11 @@ struct RunRecords {
   std::wstring ManualFile;
   DialogContext Context{Texts, HelpFile, ManualFile};
   NoProgress Nobody;
+  std::wstring HelpFile;
+  std::wstring ManualFile;
+
+  /// Of the dialogs that a run opens.
+  DialogContext Dialogs() const { return {.Texts = Texts, .HelpFile = HelpFile, .ManualFile = ManualFile}; }
 
   RunRecords() = default;
   RunRecords(const RunRecords&) = delete;  // the context names them
