@@ -1,7 +1,8 @@
 #!/bin/bash
-# Takes the pictures of every window for the manuals and the README: docs/screenshots.sh [LANGUAGE...], all languages when
-# none is named. Builds the Windows program, starts it in a world of its own (tests/env/with-wine.sh, with a print server of
-# its own) and leaves the pictures in help/pictures/LANGUAGE. Look at them before they are committed.
+# Takes the pictures of every window for the manuals, and those of the README: docs/screenshots.sh [readme] [LANGUAGE...],
+# everything when nothing is named. Builds the Windows program, starts it in a world of its own (tests/env/with-wine.sh, with
+# a print server of its own) and leaves the pictures in help/pictures/LANGUAGE and docs/pictures. Those of the README need
+# the Debian package gnumeric besides. Look at the pictures before they are committed.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=$root/build/windows
@@ -14,8 +15,9 @@ import subprocess, sys
 sys.path.insert(0, sys.argv[1])
 from print_server import PrintServer
 server = PrintServer({"Office": (18, 24, 30, 36)})
+environment = dict(server.environment, FOLIVANT_PRINTED=str(server.folder("Office")))
 try:
-    sys.exit(subprocess.run(sys.argv[2:], env=server.environment, stdin=subprocess.DEVNULL).returncode)
+    sys.exit(subprocess.run(sys.argv[2:], env=environment, stdin=subprocess.DEVNULL).returncode)
 finally:
     server.remove()' "$root/tests/print" "$0" "$@"
 fi
@@ -158,8 +160,83 @@ take_find() {
   kill "${standins[@]}" 2>/dev/null || true
 }
 
-[ $# -gt 0 ] || set -- $(cd "$root/lang" && ls *.ini | sed 's/\.ini$//')
+# file BYTES DATE PATH: in the tree of the README
+file() {
+  mkdir -p "$(dirname "$holiday/$3")"
+  truncate -s "$1" "$holiday/$3"
+  touch -d "$2" "$holiday/$3"
+}
+make_holiday() {
+  local number
+  file 48500 '2026-06-03 18:40' 'Budget 2026.xlsx'
+  file 390700 '2026-06-10 07:55' 'Ferry tickets.pdf'
+  file 2140 '2026-06-01 09:12' 'Packing list.txt'
+  file 8214000 '2026-06-28 21:30' 'Route from Bergen to Lofoten with all stops.gpx'
+  for number in 1 2 3 4 5 6; do
+    file $((3100000 + 77000 * number)) "2026-07-0$number 11:2$number" "Bergen/IMG_041$number.jpg"
+  done
+  for number in 1 2 3 4 5 6 7 8 9; do
+    file $((2900000 + 91000 * number)) "2026-07-1$number 15:0$number" "Lofoten/IMG_050$number.jpg"
+  done
+  file 31400 '2026-07-20 22:10' 'Lofoten/Diary.docx'
+  file 48300000 '2026-07-16 10:31' 'Lofoten/Panoramas/Nusfjord.tif'
+  file 61200000 '2026-07-15 00:04' 'Lofoten/Panoramas/Reine at midnight.tif'
+  find "$holiday" -depth -type d -exec touch -d '2026-07-20 22:15' {} +
+}
+
+# list KIND FILE [LINE...]: a listing of C:\Holiday as a script makes it; the lines are its filter file's
+list() {
+  local kind=$1 file=$2
+  shift 2
+  { printf '[Folivant 3.5]\r\n' && printf '%s\r\n' "$@"; } >"$WINEPREFIX/drive_c/readme.fvf"
+  wine "$program" /f 'C:\readme.fvf' /d 'C:\Holiday' /t "$kind" /o "C:\\$file" /g </dev/null >/dev/null 2>&1
+}
+
+take_readme() {
+  local holiday=$WINEPREFIX/drive_c/Holiday
+  make_holiday
+  wine reg delete 'HKCU\Software\Folivant 3.0' /f >/dev/null 2>&1 </dev/null || true
+
+  # A printed page.
+  list p none FShow=10111
+  for _ in $(seq 100); do
+    [ -n "$(find "$FOLIVANT_PRINTED" -name '*.pdf')" ] && break
+    sleep 0.2
+  done
+  pdftoppm -r 85 -png -singlefile "$FOLIVANT_PRINTED"/*.pdf "$TMPDIR/page"
+  convert "$TMPDIR/page.png" -bordercolor '#aaa' -border 1 "$TMPDIR/page.png"
+  shrink "$TMPDIR/page.png" "$root/docs/pictures/page.png"
+
+  # Tab-delimited text in a spreadsheet.
+  list a holiday.txt Format=2 'Header=%p'
+  gnumeric "$WINEPREFIX/drive_c/holiday.txt" >/dev/null 2>&1 </dev/null &
+  local sheet=$! shown key
+  shown=$(window 'holiday.txt - Gnumeric')
+  xdotool windowsize --sync "$shown" 760 620 windowactivate --sync "$shown"
+  sleep 2
+  for key in ctrl+a alt+o c Up Return ctrl+Home; do # all columns as wide as their content
+    xdotool key $key
+    sleep 0.5
+  done
+  import -frame -window "$shown" "$TMPDIR/spreadsheet.png"
+  shrink "$TMPDIR/spreadsheet.png" "$root/docs/pictures/spreadsheet.png"
+  kill $sheet
+
+  # An HTML listing in a browser.
+  list h holiday.html 'Header=%p, %d'
+  chromium --headless --no-sandbox --disable-gpu --hide-scrollbars --disable-background-networking --disable-sync \
+    --disable-component-update --no-first-run --user-data-dir="$TMPDIR/browser" --window-size=760,620 \
+    --screenshot="$TMPDIR/html.png" "file://$WINEPREFIX/drive_c/holiday.html" >/dev/null 2>&1
+  shrink "$TMPDIR/html.png" "$root/docs/pictures/html.png"
+  echo 'README: 3 pictures'
+}
+
+[ $# -gt 0 ] || set -- $(cd "$root/lang" && ls *.ini | sed 's/\.ini$//') readme
 for language in "$@"; do
+  if [ "$language" = readme ]; then
+    take_readme
+    continue
+  fi
   out=$root/help/pictures/$language
   mkdir -p "$out"
   wine reg delete 'HKCU\Software\Folivant 3.0' /f >/dev/null 2>&1 </dev/null || true
@@ -175,12 +252,3 @@ for language in "$@"; do
   take_find
   echo "$language: $(ls "$out" | wc -l) pictures"
 done
-
-# An HTML listing as a browser shows it, for the README.
-printf '[Folivant 3.5]\r\nHeader=%%p, %%d\r\n' >"$data.fvf"
-wine reg delete 'HKCU\Software\Folivant 3.0' /f >/dev/null 2>&1 </dev/null || true
-wine "$program" /f 'C:\Data.fvf' /d 'C:\Data' /t h /o 'C:\Data.html' /g </dev/null >/dev/null 2>&1
-chromium --headless --no-sandbox --disable-gpu --hide-scrollbars --disable-background-networking --disable-sync \
-  --disable-component-update --no-first-run --user-data-dir="$TMPDIR/browser" --window-size=640,620 \
-  --screenshot="$TMPDIR/html.png" "file://$data.html" >/dev/null 2>&1
-shrink "$TMPDIR/html.png" "$root/docs/pictures/html.png"
