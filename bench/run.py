@@ -3,7 +3,8 @@
 
 Builds the host release and the Windows program, makes the trees in a scratch directory (removed at the end), runs
 whole processes in alternating pairs with a warm cache, and prints tables of ratios: the median of the paired ratios.
-With --write the tables replace those of the same title between the markers in docs/benchmarks.md and README.md.
+With --write the tables replace those of the same title between the markers in docs/benchmarks.md, and README.md gets the
+five figures of SUMMARY from there.
 """
 import argparse
 import os
@@ -19,6 +20,16 @@ import tempfile
 HOUSE = pathlib.Path(__file__).resolve().parent.parent
 WINDOWS_COMPILER = 'x86_64-w64-mingw32-g++-posix'
 BEGIN, END = '<!-- benchmarks: begin -->', '<!-- benchmarks: end -->'
+WIDE, FLAT = '300,000 files in 3,000 directories', '100,000 files in one directory'
+ON_HOST, UNDER_WINE = 'On the host, whole process, against the floor', 'Under Wine, whole process, against the floor'
+COLLECTING, OTHER_RUNS = 'Memory of the collecting styles, bytes', 'Under Wine, other runs'
+# What the README shows: its own words, the title of a table, a row of it, and the unit of the first figure there.
+SUMMARY = [(f'{WIDE}, host build', ON_HOST, WIDE, 'times the floor'),
+           (f'{WIDE}, under Wine', UNDER_WINE, WIDE, 'times the floor'),
+           (f'{FLAT}, host build', ON_HOST, FLAT, 'times the floor'),
+           ('Start: an empty folder, under Wine', OTHER_RUNS, 'Empty folder against an empty program',
+            'times a program that does nothing'),
+           ('Memory of a tree-style listing', COLLECTING, 'Tree-style, per entry', 'bytes per entry')]
 
 
 def build(scratch, windows):
@@ -175,7 +186,7 @@ def on_host(bench, trees):
         for command in others.values():
             row.append(f'{bench.ratio((command(tree), out), floor, max(3, bench.pairs // 3)):.2f}')
         rows.append(row)
-    lines = table('On the host, whole process, against the floor', ['Tree', 'Folivant', *others], rows)
+    lines = table(ON_HOST, ['Tree', 'Folivant', *others], rows)
 
     tree = trees[WIDE]
     rows = []
@@ -223,7 +234,7 @@ def memory(bench, few, many, nodes, name_length):
     view = growth(*nodes, 3)
     rows = [['Tree-style, per entry', f'{tree:.0f}', f'{tree - 4 * (name_length + 5 + 16):.0f}'],
             ['Directory view, per directory', f'{view:.0f}', f'{view - 4 * 11:.0f}']]
-    return lines + table('Memory of the collecting styles, bytes', ['Style', 'All', 'Beyond texts'], rows)
+    return lines + table(COLLECTING, ['Style', 'All', 'Beyond texts'], rows)
 
 
 def under_wine(bench, trees, empty):
@@ -233,14 +244,14 @@ def under_wine(bench, trees, empty):
     for name, tree in trees.items():
         floor = (['wine', bench.scratch / 'program/floor.exe', dos(tree)], None)
         rows.append([name, f'{bench.ratio((listing(exe, tree, out), None), floor):.2f}'])
-    lines = table('Under Wine, whole process, against the floor', ['Tree', 'Folivant.exe'], rows)
+    lines = table(UNDER_WINE, ['Tree', 'Folivant.exe'], rows)
     tree = next(iter(trees.values()))
     rows = []
     for kind, name in (('h', 'HTML'), ('x', 'XML')):
         rows.append([f'{name} against text', f'{bench.ratio((listing(exe, tree, out, kind), None), (listing(exe, tree, out), None)):.2f}'])
     rows.append(['Empty folder against an empty program',
                  f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "program/empty.exe"], None), 15 * bench.pairs):.2f}'])
-    return lines + table('Under Wine, other runs', ['Run', 'Ratio'], rows)
+    return lines + table(OTHER_RUNS, ['Run', 'Ratio'], rows)
 
 
 def interpreter(bench, trees):
@@ -296,13 +307,27 @@ def start_wine(bench):
     return lambda: subprocess.run(['/usr/lib/wine/wineserver64', '-k'], **quiet)
 
 
-def put_between_markers(path, text):
-    content = path.read_text() if path.exists() else ''
-    if BEGIN not in content:
-        return
-    before, rest = content.split(BEGIN, 1)
+def put_between_markers(path, make):
+    """Replaces what stands between the markers by what `make` makes of it."""
+    before, rest = path.read_text().split(BEGIN, 1)
     old, after = rest.split(END, 1)
-    path.write_text(f'{before}{BEGIN}\n{"".join((sections(old) | sections(text)).values())}{END}{after}')
+    path.write_text(f'{before}{BEGIN}\n{make(old)}{END}{after}')
+
+
+def write(text):
+    """The tables of this run into docs/benchmarks.md, and the summary of all that stands there into README.md."""
+    page = HOUSE / 'docs/benchmarks.md'
+    put_between_markers(page, lambda old: ''.join((sections(old) | sections(text)).values()))
+    tables = sections(page.read_text().split(BEGIN, 1)[1].split(END, 1)[0])
+    put_between_markers(HOUSE / 'README.md', lambda _: summary(tables))
+
+
+def summary(tables):
+    lines = ['| What | Cost |', '| --- | --- |']
+    for words, title, row, unit in SUMMARY:
+        figure = re.search(rf'^\| {re.escape(row)} \| (\S+) \|', tables[title], re.M).group(1)
+        lines.append(f'| {words} | {figure} {unit} |')
+    return '\n'.join(lines) + '\n'
 
 
 def sections(text):
@@ -311,8 +336,6 @@ def sections(text):
 
 
 PARTS = ('pages', 'host', 'orders', 'memory', 'wine', 'window')
-WIDE = '300,000 files in 3,000 directories'
-
 
 def main():
     options = argparse.ArgumentParser(description=__doc__)
@@ -323,7 +346,11 @@ def main():
                          help='cpu for a busy machine; under Wine the server\'s share is not in it')
     options.add_argument('--scale', type=float, default=1.0, help='share of the trees, for trying the script')
     options.add_argument('--write', action='store_true')
+    options.add_argument('--summary', action='store_true',
+                         help="measure nothing; only make the README's table of what docs/benchmarks.md says")
     chosen = options.parse_args()
+    if chosen.summary:
+        return write('')
     parts = chosen.only or PARTS
     with tempfile.TemporaryDirectory(prefix='folivant-bench-') as name:
         scratch = pathlib.Path(name)
@@ -336,8 +363,7 @@ def main():
             lines += measure(bench, Trees(scratch), parts, chosen.scale)
     text = '\n'.join(lines)
     if chosen.write:
-        for path in (HOUSE / 'docs/benchmarks.md', HOUSE / 'README.md'):
-            put_between_markers(path, text)
+        write(text)
 
 
 def measure(bench, make, parts, scale):
@@ -346,7 +372,7 @@ def measure(bench, make, parts, scale):
     name_length = make.name_length / (many * 100)
     few = make.wide('few', max(1, many // 10), 100)
     large = max(2, int(200_000 * scale))
-    trees['100,000 files in one directory'] = small_flat = make.flat(large // 2)
+    trees[FLAT] = small_flat = make.flat(large // 2)
     trees['200,000 files in one directory'] = large_flat = make.flat(large)
     trees['chain of 300 directories'] = make.chain(300)
     empty = make.empty()
