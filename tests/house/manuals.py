@@ -189,9 +189,8 @@ def of_the_program(english):
     line = (ROOT / 'src/app/CommandLine.cpp').read_text()
     start = (ROOT / 'src/app/StartUp.cpp').read_text()
     switches = set(re.findall(r'L"(/\w+)"', line + start))
-    kinds = (ROOT / 'src/output/OutputKinds.cpp').read_text()
-    letters = set(re.findall(r"\{OutputKind::\w+, L\"\w+\", L'(\w)'", kinds))
-    expanded = (ROOT / 'src/output/DriverServices.cpp').read_text() + (ROOT / 'src/ui/frmOptions.cpp').read_text()
+    letters = set(re.findall(r"\{OutputKind::\w+, L\"\w+\", L'(\w)'", (ROOT / 'src/output/OutputKinds.cpp').read_text()))
+    expanded = (ROOT / 'src/output/DriverServices.cpp').read_text()
     placeholders = set(re.findall(r'L"(%\w)', expanded))
     if len(switches) < 6 or len(letters) < 6 or len(placeholders) < 7:
         yield f'the sources do not show what there is to explain: {switches} {letters} {placeholders}'
