@@ -27,7 +27,9 @@ done
 # One strip of flags in the order of their numbers.
 for percent in 100 150 200; do
   for flag in flag-*.svg; do
-    rsvg-convert -w $((20 * percent / 100)) -h $((14 * percent / 100)) -b white "$flag" -o "$scratch/$(basename "$flag" .svg).png"
+    number=${flag#flag-} # with zeros before it, because file names are in the order of their letters
+    rsvg-convert -w $((20 * percent / 100)) -h $((14 * percent / 100)) -b white "$flag" \
+      -o "$scratch/flag-$(printf %03d "${number%%-*}").png"
   done
   convert "$scratch"/flag-*.png +append -type TrueColor "BMP3:$out/flags-$percent.bmp"
 done

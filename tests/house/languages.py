@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds every language file against the numbers that the program uses: each text is there, placeholders and line breaks are
 those of the English text, no two mnemonics of one window are the same, and texts whose place is narrow fit into it; French
-marks have blanks that do not break. Which captions meet in one window is read from
+marks have blanks that do not break, and every language has a flag. Which captions meet in one window is read from
 the tables of the dialogs.
 
     tests/house/languages.py REPOSITORY
@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 ROOT = Path(sys.argv[1])
-LANGUAGES = ['english', 'dutch', 'german', 'french', 'spanish', 'italian', 'portuguese', 'polish', 'russian']
+LANGUAGES = sorted(path.stem for path in (ROOT / 'lang').glob('*.ini'))
 LONGEST = 299
 # Characters that a listing leaves for a text: directory-view captions (on paper, less the blank before them), the size
 # text of directories before its three blanks, units, column captions.
@@ -64,6 +64,8 @@ def complaints(language, used, english):
     for key in ['Language', 'Flag']:
         if key not in own:
             yield f'{language}: no {key}'
+    if not (ROOT / 'art' / f'flag-{own.get("Flag")}-{language}.svg').is_file():
+        yield f'{language}: no drawing of its flag, art/flag-{own.get("Flag")}-{language}.svg'
     for name, number in used.items():
         text = own.get(str(number))
         if text is None:
