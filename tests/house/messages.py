@@ -13,13 +13,13 @@ ROOT = Path(sys.argv[1])
 PAGE = ROOT / 'docs/messages.md'
 HEAD = '''# Messages
 
-Every text that the program shows has a number. `src/ui/Text.h` names the numbers, a file in `lang/` holds the texts of one
-language, and this page lists them with the English texts and the sources that use them. Written by
-`tests/house/messages.py . --write`; a test compares it.
+Every text that the program shows has a number. `src/ui/Text.h` names the numbers, each file in `lang/` holds the texts of one
+language, and this page lists the numbers with the English texts and the sources that use them. It is made by
+`tests/house/messages.py . --write`, and a test says when it is stale.
 
-In a language file `&` stands before the letter that is pressed with Alt, `\\n` is a line break, and `%1`, `%2` and `%3` are
-replaced by the program. A text ends after 299 characters; a number that a file lacks is taken from `english.ini`, and one
-that is missing there shows itself: `**57**`. Numbers that are not listed are unused.
+In a language file `&` comes before the letter that is pressed with Alt, `\\n` is a line break, and the program replaces `%1`,
+`%2` and `%3`. A text is cut after 299 characters. A text that a file lacks is taken from `english.ini`; one that is missing
+there, too, appears as its number: `**57**`. Numbers that are not listed are unused.
 '''
 
 
