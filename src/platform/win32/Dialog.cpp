@@ -27,22 +27,10 @@ HINSTANCE Program() {
   return GetModuleHandleW(nullptr);
 }
 
-bool IsOfClass(HWND control, const wchar_t* wanted) {
+bool IsEdit(HWND control) {
   wchar_t name[16] = {};
   GetClassNameW(control, name, 16);
-  return lstrcmpiW(name, wanted) == 0;
-}
-
-/// The messages of a list, which are others for list boxes than for combo boxes.
-struct ListMessages {
-  UINT Add, Count, TextLength, Text, Select, Selected;
-};
-constexpr ListMessages kListBox = {LB_ADDSTRING, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, LB_SETCURSEL, LB_GETCURSEL};
-constexpr ListMessages kComboBox = {CB_ADDSTRING, CB_GETCOUNT,  CB_GETLBTEXTLEN,
-                                    CB_GETLBTEXT, CB_SETCURSEL, CB_GETCURSEL};
-
-const ListMessages& MessagesOf(HWND list) {
-  return IsOfClass(list, L"ListBox") ? kListBox : kComboBox;
+  return lstrcmpiW(name, L"Edit") == 0;
 }
 
 }  // namespace
@@ -174,55 +162,6 @@ HWND Dialog::Item(int control) const {
   return nullptr;
 }
 
-bool Dialog::Has(int control) const {
-  return Item(control) != nullptr;
-}
-
-std::wstring Dialog::TextOf(int control) const {
-  const HWND item = Item(control);
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)), L'\0');
-  const int copied = GetWindowTextW(item, text.data(), static_cast<int>(text.size()) + 1);
-  text.resize(static_cast<std::size_t>(copied));
-  return text;
-}
-
-void Dialog::SetText(int control, const std::wstring& text) {
-  SetWindowTextW(Item(control), text.c_str());
-}
-
-bool Dialog::Checked(int button) const {
-  return Send(button, BM_GETCHECK) == BST_CHECKED;
-}
-
-void Dialog::SetChecked(int button, bool checked) {
-  Send(button, BM_SETCHECK, checked ? WPARAM{BST_CHECKED} : WPARAM{BST_UNCHECKED});
-}
-
-void Dialog::Enable(int control, bool enabled) {
-  EnableWindow(Item(control), enabled);
-}
-
-void Dialog::SetFocusTo(int control) {
-  SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(control)), TRUE);
-  focusGiven_ = true;
-}
-
-LRESULT Dialog::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {
-  return SendMessageW(Item(control), message, wParam, lParam);
-}
-
-void Dialog::Choose(std::span<const int> buttons, int button) {
-  // Arrow keys and Tab enter a group at its chosen button, or at the first one.
-  const bool any = std::find(buttons.begin(), buttons.end(), button) != buttons.end();
-  const int entrance = any ? button : buttons.front();
-  for (const int each : buttons) {
-    SetChecked(each, each == button);
-    const HWND item = Item(each);
-    const LONG_PTR style = GetWindowLongPtrW(item, GWL_STYLE);
-    SetWindowLongPtrW(item, GWL_STYLE, each == entrance ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});
-  }
-}
-
 void Dialog::SetToolTip(int control, const std::wstring& text) {
   if (toolTips_ == nullptr) {
     toolTips_ =
@@ -275,45 +214,6 @@ void Dialog::GrowToPicture(int control, SIZE picture) {
   }
 }
 
-void Dialog::AddItem(int list, const std::wstring& text) {
-  Send(list, MessagesOf(Item(list)).Add, 0, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-std::vector<std::wstring> Dialog::ItemsOf(int list) const {
-  const ListMessages& messages = MessagesOf(Item(list));
-  std::vector<std::wstring> items(static_cast<std::size_t>(std::max<LRESULT>(Send(list, messages.Count), 0)));
-  for (WPARAM position = 0; std::wstring & text : items) {
-    const LRESULT length = Send(list, messages.TextLength, position);
-    text.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)) + 1);
-    Send(list, messages.Text, position++, reinterpret_cast<LPARAM>(text.data()));
-    text.pop_back();
-  }
-  return items;
-}
-
-void Dialog::Select(int list, int position) {
-  Send(list, MessagesOf(Item(list)).Select, static_cast<WPARAM>(position));
-}
-
-int Dialog::Selected(int list) const {
-  static_assert(LB_ERR == kNothingSelected && CB_ERR == kNothingSelected);
-  return static_cast<int>(Send(list, MessagesOf(Item(list)).Selected));
-}
-
-void Dialog::SetDay(int picker, const CalendarTime& day) {
-  SYSTEMTIME shown{};
-  shown.wYear = static_cast<WORD>(day.Year);
-  shown.wMonth = static_cast<WORD>(day.Month);
-  shown.wDay = static_cast<WORD>(day.Day);
-  Send(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&shown));
-}
-
-CalendarTime Dialog::DayOf(int picker) const {
-  SYSTEMTIME shown{};
-  Send(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&shown));
-  return {shown.wYear, shown.wMonth, shown.wDay};
-}
-
 int Dialog::Scaled(int length) const {
   return MulDiv(length, DpiOf(window_), kOrdinaryDpi);
 }
@@ -329,51 +229,6 @@ void Dialog::On(int control, int code, Handler handler) {
 HWND Dialog::AddPage(int resource) {
   pages_.push_back(std::make_unique<Page>(*this, resource));
   return pages_.back()->Window();
-}
-
-void Dialog::FitToTexts() {
-  GrowWindow(window_, FitChildren(window_));
-}
-
-void Dialog::Grow(int control, SIZE by) {
-  const HWND parent = GetParent(Item(control));
-  GrowChild(parent, Item(control), by);
-  GrowWindow(parent, by);
-}
-
-void Dialog::GrowWindow(HWND window, SIZE by) {
-  RECT frame{};
-  GetWindowRect(window, &frame);
-  SetWindowPos(window, nullptr, 0, 0, frame.right - frame.left + by.cx, frame.bottom - frame.top + by.cy,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-SIZE Dialog::FitPageToTexts(HWND page) {
-  const SIZE grown = FitChildren(page);
-  RECT client{};
-  GetClientRect(page, &client);
-  return {client.right + grown.cx, client.bottom + grown.cy};
-}
-
-void Dialog::Centre() {
-  RECT frame{};
-  GetWindowRect(window_, &frame);
-  const HWND owner = GetWindow(window_, GW_OWNER);
-  MONITORINFO screen{};
-  screen.cbSize = sizeof(screen);
-  GetMonitorInfoW(MonitorFromWindow(owner != nullptr ? owner : window_, MONITOR_DEFAULTTONEAREST), &screen);
-  RECT around = screen.rcWork;
-  if (owner != nullptr && IsWindowVisible(owner)) {
-    GetWindowRect(owner, &around);
-  }
-  const LONG width = frame.right - frame.left;
-  const LONG height = frame.bottom - frame.top;
-  const RECT& work = screen.rcWork;
-  const LONG x = (around.left + around.right - width) / 2;
-  const LONG y = (around.top + around.bottom - height) / 2;
-  SetWindowPos(window_, nullptr, static_cast<int>(std::max(work.left, std::min(x, work.right - width))),
-               static_cast<int>(std::max(work.top, std::min(y, work.bottom - height))), 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -461,7 +316,7 @@ INT_PTR Dialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 bool Dialog::Notify(int control, int code, HWND sender) {
-  if (code == EN_SETFOCUS && sender != nullptr && IsOfClass(sender, L"Edit")) {
+  if (code == EN_SETFOCUS && sender != nullptr && IsEdit(sender)) {
     // Posted, because a mouse click places the caret after this notification.
     PostMessageW(sender, EM_SETSEL, 0, -1);
   }
