@@ -19,13 +19,8 @@ struct RunRecords {
   std::wstring DatePattern = L"yyyy/mm/dd";
   std::wstring HelpFile;
   std::wstring ManualFile;
-  DialogContext Context{Texts, HelpFile, ManualFile};
+  DialogContext Context{Texts, HelpFile, ManualFile};  ///< of the dialogs that a run opens
   NoProgress Nobody;
-  std::wstring HelpFile;
-  std::wstring ManualFile;
-
-  /// Of the dialogs that a run opens.
-  DialogContext Dialogs() const { return {.Texts = Texts, .HelpFile = HelpFile, .ManualFile = ManualFile}; }
 
   RunRecords() = default;
   RunRecords(const RunRecords&) = delete;  // the context names them
