@@ -244,7 +244,11 @@ TEST(Numbers, ANumberOutsideItsRangeIsToldFromNone) {
     EXPECT_EQ(typed.OutOfRange, !row.fits) << testing::PrintToString(std::wstring(row.text));
     EXPECT_EQ(ReadLeadingWhole(row.text, kSmall), typed) << testing::PrintToString(std::wstring(row.text));
   }
-  EXPECT_FALSE(ReadWhole(L"many", NumberSource::Typed, kSmall).OutOfRange);
+  for (const wchar_t* const none : {L"", L"-", L"many"}) {
+    EXPECT_FALSE(ReadWhole(none, NumberSource::Typed, kSmall).OutOfRange) << none;
+    EXPECT_FALSE(ReadFraction<double>(none, NumberSource::Stored).OutOfRange) << none;
+  }
+  EXPECT_FALSE(ReadFraction<double>(L"e5", NumberSource::Stored).OutOfRange) << "an exponent of nothing";
   EXPECT_TRUE(ReadWhole(L"2147483647.5", NumberSource::Stored).OutOfRange) << "rounds beyond the limit";
   EXPECT_TRUE(ReadWhole(L"32768", NumberSource::Stored, kRangeOf<std::int16_t>).OutOfRange);
   EXPECT_TRUE(ReadWhole(std::wstring(400, L'9'), NumberSource::Stored).OutOfRange);

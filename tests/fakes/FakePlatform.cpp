@@ -27,7 +27,6 @@ class ResetBeforeEachTest final : public testing::EmptyTestEventListener {
     mdlVars::DatePattern.clear();
     mdlVars::PageNumber = 0;
     mdlVars::FilterFile.clear();
-    mdlVars::UseFilterFile = false;
     mdlVars::Texts = {};
     mdlVars::HelpFile.clear();
     mdlVars::ManualFile.clear();

@@ -32,6 +32,7 @@ class Room : public PageWriter {
       Begin(style);
     } catch (const RuntimeError& error) {
       EXPECT_TRUE(error.SystemText().empty());
+      EXPECT_EQ(error.SystemCode(), 0U);
       outcome = (error.Action() == FailedAction::UseMargins ? L"margins: " : L"font: ") + error.Object();
       EXPECT_TRUE(printer.Jobs.empty()) << "nothing reaches the queue";
     }
@@ -164,6 +165,39 @@ TEST_F(Room, TheHeadersOwnFontIsNamedWhenItIsToBlame) {
   }
   general.FontSizeHF = 14;
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
+TEST_F(Room, TheHeadersLargerFontIsNotToBlameForWhatItDoesNotTake) {
+  general.FontNameHF = L"Arial";
+  general.FontSizeHF = 30;
+  general.Font80HF = false;
+  general.FontSize = 24;  // five columns take 13,824 of 12,000, whatever the header's font
+  EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
+  general.FontSizeHF = 300;
+  general.Font80HF = true;  // then it is not in use
+  general.FontSize = 100;
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
+}
+
+TEST_F(Room, NoDeviceIsAskedForAFontBeyondItsSheet) {
+  printer.Area = {12000, 15000, 0, 400, 0, 600};  // 16,000 twips with the borders: 800 points
+  const auto selects = [this] {
+    try {
+      MakePage(platform::OpenPageSurface({}), general);
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Action(), FailedAction::UseFont);
+      return false;
+    }
+    return true;
+  };
+  for (const bool header : {false, true}) {
+    general.Font80HF = !header;
+    for (const int points : {0, 1, 800, 801}) {
+      general.FontSize = static_cast<std::int16_t>(header ? 10 : points);
+      general.FontSizeHF = header ? points : 10;
+      EXPECT_EQ(selects(), points == 1 || points == 800) << points;
+    }
+  }
 }
 
 struct MarginCase {

@@ -56,6 +56,7 @@ TEST(Files, ReadsNothingThatIsLargerThanALimit) {
   EXPECT_EQ(error.Action(), FailedAction::ReadLargeFile);
   EXPECT_EQ(error.Object(), path);
   EXPECT_EQ(error.SystemText(), L"16");
+  EXPECT_EQ(error.SystemCode(), 0U);
 }
 
 TEST(InputFile, ReadsInPiecesAndFromTheBeginningAgain) {
@@ -226,6 +227,8 @@ TEST(FindNames, ComparesWithoutLetterCase) {
   EXPECT_EQ(FindNames(scratch.Folder(), L"?.INI?"), std::vector<std::wstring>{L"a.inix"});
   EXPECT_EQ(FindNames(scratch.Folder(), L"*i*i*.t*"), std::vector<std::wstring>{L"x.ini.txt"});
   EXPECT_EQ(FindNames(scratch.Folder(), L"*").size(), 7U);
+  scratch.MakeFile(L"abc");
+  EXPECT_TRUE(FindNames(scratch.Folder(), L"ab*bc").empty()) << "no letter serves on both sides of a star";
   EXPECT_TRUE(FindNames(scratch.Path(L"missing"), L"*").empty());
 }
 

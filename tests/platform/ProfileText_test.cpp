@@ -37,6 +37,7 @@ TEST(ProfileText, DropsBlanksAndOnePairOfQuotes) {
 
 TEST(ProfileText, SkipsCommentsAndLinesWithoutEquals) {
   EXPECT_EQ(Value("[S]\n;k=1\n ; k=2\nk\nk=3;4\n", L"S", L"k"), L"3;4");
+  EXPECT_EQ(Value("[S]\n;k=1\n", L"S", L";k"), L"(none)");
   EXPECT_EQ(Value("k=0\n[S]\nx=1\n", L"S", L"k"), L"(none)");
 }
 

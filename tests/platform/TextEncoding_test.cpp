@@ -106,7 +106,7 @@ TEST(TextEncoding, IsSureAsSoonAsItCanBe) {
     probe.Add(sure);
     EXPECT_TRUE(probe.IsSure());
   }
-  for (const char* open : {"", "\xEF\xBB", "abcdef", "\xC3\xA9\xC3\xA9", "abc\xE9"}) {
+  for (const char* open : {"", "\xFF", "\xFE", "\xEF\xBB", "abcdef", "\xC3\xA9\xC3\xA9", "abc\xE9"}) {
     EncodingProbe probe;
     probe.Add(open);
     EXPECT_FALSE(probe.IsSure());
