@@ -56,6 +56,13 @@ TEST(ReadCommandLine, TakesTheFirstOccurrenceOfEachSwitchInAnyOrder) {
   EXPECT_TRUE(command.Go);
 }
 
+TEST(ReadCommandLine, ABlankAfterASwitchMayBeMissing) {
+  const CommandLine command = ReadCommandLine(L"/fa.fvf /dC:\\b /oout");
+  EXPECT_EQ(command.FilterFile, L"a.fvf");
+  EXPECT_EQ(command.Directory, L"C:\\b");
+  EXPECT_EQ(command.OutputFile, L"out");
+}
+
 TEST(ReadCommandLine, SwitchesAreSmallLetters) {
   const CommandLine command = ReadCommandLine(L"/F a.fvf /D C:\\ /T t /O out /G");
   EXPECT_TRUE(command.HasSwitches);

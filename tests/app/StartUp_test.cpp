@@ -97,6 +97,7 @@ TEST_F(StartUp, ASentDirectoryIsTheOneToList) {
   EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\Data");
   Start(L"C:\\My Data\"");
   EXPECT_EQ(mdlVars::Tree.StartPath, L"C:\\My Data");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::IncludeSubdirectories) << "the stored one";
   EXPECT_EQ(Session().Shown, 3);
 }
 

@@ -129,6 +129,15 @@ TEST_F(Room, UnprintableBordersCountAsPaper) {
   EXPECT_TRUE(Prints(ListingStyle::IncludeSubdirectories));
   printer.Area.Width -= 1;
   EXPECT_FALSE(Prints(ListingStyle::IncludeSubdirectories));
+
+  // Where the right margin lies beyond the sheet, the sheet ends the line: it begins at 11,520 of 12,000 twips, the
+  // last 500 of which are border, and "W..." takes 480.
+  printer.Area = {11500, 16000, 0, 0, 500, 0};
+  general.MarginLeft = 8;
+  general.MarginRight = -1;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+  printer.Area.Width -= 1;
+  EXPECT_FALSE(Prints(ListingStyle::FullPathList));
 }
 
 TEST_F(Room, AFontSizeThatIsNoneOrBeyondTheSheetIsRefused) {
@@ -173,9 +182,11 @@ TEST_F(Room, TheHeadersLargerFontIsNotToBlameForWhatItDoesNotTake) {
   general.Font80HF = false;
   general.FontSize = 24;  // five columns take 13,824 of 12,000, whatever the header's font
   EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
+  general.FontSize = 100;
+  general.FontSizeHF = 99;
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
   general.FontSizeHF = 300;
   general.Font80HF = true;  // then it is not in use
-  general.FontSize = 100;
   EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
 }
 

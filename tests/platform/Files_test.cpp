@@ -48,6 +48,7 @@ TEST(Files, ReadsAllBytes) {
 
 TEST(Files, ReadsNothingThatIsLargerThanALimit) {
   const Scratch scratch;
+  EXPECT_EQ(kLongestWholeFile, 16U * 1024 * 1024);
   const std::wstring path = scratch.MakeFile(L"large");
   std::filesystem::resize_file(Scratch::Native(path), kLongestWholeFile);
   EXPECT_EQ(ReadWholeFile(path).size(), kLongestWholeFile);

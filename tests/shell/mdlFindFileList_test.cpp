@@ -119,6 +119,10 @@ TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
   EXPECT_EQ(NamesOf("README.TXT\r\nC:README.TXT\r\n\\Data\r\nC:\r\nx\r\nC:\\Data\\Big.bin"), (Names{L"Big.bin"}));
 }
 
+TEST_F(PathList, ANetworkPathIsAFullPath) {
+  EXPECT_EQ(ErrorOf("\\\\server\\share\\gone.txt"), L"\\\\server\\share\\gone.txt");
+}
+
 TEST_F(PathList, ASlashSeparatesLikeABackslash) {
   Tree().Dir(L"C:\\Data").Dir(L"deep").Dir(L"er").File(L"b.doc", 1);
   const Rows rows = Read("c:\\data/deep/er/b.doc\r\nC:/Data/deep\\b.doc");

@@ -152,6 +152,13 @@ TEST(PrintFromFind, FailsWithoutInnerWindowsWhenNobodyWatches) {
   EXPECT_EQ("error 0", Capture(run));
 }
 
+TEST(PrintFromFind, TheUserMayStillChooseWhenNobodyWatches) {
+  FindWindows().TopLevel = {FindWindow(10, L"Find: one", {}), FindWindow(20, L"Find: two", TwoRows())};
+  FindWindows().User = {[](FindChoice&) {}, [](FindChoice& choice) { choice.Choose(1); }};
+  NoProgress run;
+  EXPECT_EQ("lists 1 rows 2", Capture(run));
+}
+
 TEST(PrintFromFind, CancelOfTheRunEndsTheChoice) {
   FindWindows().TopLevel = {FindWindow(10, L"Find: one", TwoRows()), FindWindow(20, L"Find: two", TwoRows())};
   WatchedRun run(5);
