@@ -186,14 +186,14 @@ void Save(SettingsStore& store, const Setting& setting) {
   }
 }
 
+/// Into the per-user store, which keeps each setting at once.
 void SaveGroup(Group group) {
-  SettingsStore store = OpenStore();
+  SettingsStore store;
   for (const Setting& setting : Settings()) {
     if (setting.Set == group) {
       Save(store, setting);
     }
   }
-  store.Save();
 }
 
 /// Raises UseFilterFile around one complete load or save.

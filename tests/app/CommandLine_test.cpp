@@ -38,6 +38,7 @@ TEST(GetSwitchArgument, OfASwitchAtTheEndOfTheLineIsEmpty) {
   EXPECT_EQ(GetSwitchArgument(L"/f", 1), L"");
   EXPECT_EQ(GetSwitchArgument(L"/", 1), L"");
   EXPECT_EQ(GetSwitchArgument(L"//", 1), L"");
+  EXPECT_EQ(GetSwitchArgument(L"//x", 1), L"") << "it ends with the slash";
 }
 
 TEST(ReadCommandLine, WithoutASlashIsOnePath) {

@@ -461,6 +461,7 @@ TEST(Settings, ABadValueIsToldAndTakesItsDefault) {
       {L"Filter", L"Attr", L""},
       {L"Filter", L"FilterDateMin", L"1999/13/01"},
       {L"Filter", L"FilterDateMin", L"1999/02/29"},
+      {L"Filter", L"FilterDateMax", L"2000/04/31"},  // of a leap year
       {L"Filter", L"FilterDateMax", L"tomorrow"},
       {L"Filter", L"FilterDateMax", L"1999/09"},
       {L"Format", L"TShow", L"111"},

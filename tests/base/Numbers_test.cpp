@@ -204,13 +204,29 @@ TEST(Numbers, ASeparatorOfThousandsCountsOnlyBeforeThreeDigits) {
 
 TEST(Numbers, ATypedWholeNumberIsRoundedButNeverGuessedAt) {
   const Row rows[] = {
-      {&kGerman, L"20.5", 20},      {&kGerman, L"1.000", 1000},    {&kGerman, L"1,000", 1},
-      {&kAmerican, L"1,000", 1000}, {&kAmerican, L"1.000", 1},     {&kAmerican, L"2.5", 2},
-      {&kAmerican, L"3.5", 4},      {&kAmerican, L"-2.5", -2},     {&kAmerican, L"2.51", 3},
-      {&kAmerican, L"12,5", 12},    {&kFrench, L"1.000", kNone},   {&kFrench, L"1,000", 1},
-      {&kFrench, L"1.00", 1},       {&kSwiss, L"1,000", kNone},    {&kSwiss, L"1.000", 1},
-      {&kPolish, L"1 000", 1000},   {&kPolish, L"1 000.5", 1000},  {&kAmerican, L"1e3", kNone},
-      {&kFrench, L"0.500", 0},      {&kFrench, L"1000.000", 1000},
+      {&kGerman, L"20.5", 20},
+      {&kGerman, L"1.000", 1000},
+      {&kGerman, L"1,000", 1},
+      {&kAmerican, L"1,000", 1000},
+      {&kAmerican, L"1.000", 1},
+      {&kAmerican, L"2.5", 2},
+      {&kAmerican, L"3.5", 4},
+      {&kAmerican, L"-2.5", -2},
+      {&kAmerican, L"2.51", 3},
+      {&kAmerican, L"12,5", 12},
+      {&kFrench, L"1.000", kNone},
+      {&kFrench, L"1,000", 1},
+      {&kFrench, L"1.00", 1},
+      {&kSwiss, L"1,000", kNone},
+      {&kSwiss, L"1.000", 1},
+      {&kPolish, L"1 000", 1000},
+      {&kPolish, L"1 000.5", 1000},
+      {&kAmerican, L"1e3", kNone},
+      {&kFrench, L"0.500", 0},
+      {&kFrench, L"1000.000", 1000},
+      // After separators of thousands the other mark can only be a decimal one.
+      {&kFrench, L"1 000.250", 1000},
+      {&kSwiss, L"1'000,250", 1000},
   };
   ExpectEach(rows, TypedWhole);
 }

@@ -58,9 +58,11 @@ class Place:
 class Context:
     """What a node must know of those around it."""
 
-    def __init__(self, name='', function=None, at_run_time=False, in_lambda=False, ends_in_return=True, constant=None):
+    def __init__(self, name='', function=None, at_run_time=False, in_lambda=False, ends_in_return=True, constant=None,
+                 last=None):
         self.name, self.function, self.at_run_time = name, function, at_run_time
         self.in_lambda, self.ends_in_return, self.constant = in_lambda, ends_in_return, constant
+        self.last = last  # where the function's last statement ends
 
     def but(self, **changes):
         made = Context(**vars(self))
@@ -187,7 +189,8 @@ class Source:
         last = list(body.get_children())[-1:] if body else []
         return Context(name='::'.join(re.sub(r'<.*', '', n) if not n.startswith('operator') else n for n in names),
                        function=node, at_run_time=bool(re.search(r'\bconst(expr|eval)\b', head)),
-                       ends_in_return=not last or last[0].kind == K.RETURN_STMT)
+                       ends_in_return=not last or last[0].kind == K.RETURN_STMT,
+                       last=last[0].extent.end.offset if last else None)
 
     def walked(self, node, context):
         kind, children = node.kind, list(node.get_children())
@@ -222,7 +225,7 @@ class Source:
         elif kind in (K.BINARY_OPERATOR, K.COMPOUND_ASSIGNMENT_OPERATOR) and len(children) == 2:
             self.change_binary(node, *children, context)
         elif kind == K.CALL_EXPR:
-            self.change_call(node, children, context)
+            self.change_call(node, parent, children, context)
         elif kind == K.UNARY_OPERATOR and children:
             self.change_unary(node, children[0], context)
         elif kind in LITERALS:
@@ -236,10 +239,12 @@ class Source:
 
     def remove_statement(self, node, parent, context):
         kind = node.kind
+        # Without its last statement a function that returns something could come to its end.
+        if node.extent.end.offset == context.last and context.function.result_type.kind != TypeKind.VOID:
+            return
         if kind in (K.BREAK_STMT, K.CONTINUE_STMT) or (kind == K.RETURN_STMT and not list(node.get_children())):
             change = self.of(node) + ' removed'
         elif kind == K.CXX_THROW_EXPR or self.of(node).startswith('throw '):
-            # Without it the end of a function that returns something could be reached.
             if context.function.result_type.kind != TypeKind.VOID and not context.ends_in_return:
                 return
             change = 'throw removed'
@@ -258,7 +263,7 @@ class Source:
         if not semicolon or semicolon[0].spelling != ';':
             return
         end, text = semicolon[0].extent.end.offset, self.of(value)
-        if value.kind in LITERALS or text in ('true', 'false', 'nullptr', '{}', 'std::nullopt', '*this'):
+        if value.kind in LITERALS or text in ('true', 'false', 'nullptr', '0', '{}', 'std::nullopt', '*this'):
             return
         kind = value.type.get_canonical().kind
         if kind == TypeKind.BOOL:
@@ -290,12 +295,14 @@ class Source:
         self.add(node, context, f'{token.spelling} to {change}', self.replaced(node, token, change),
                  at=token.extent.start.offset)
 
-    def change_call(self, node, children, context):
+    def change_call(self, node, parent, children, context):
         if node.spelling.startswith('operator') and len(children) >= 2:
             token = self.operator_between(children[0], children[-1])
             if token is not None and token.spelling in SWAPPED:
                 self.swap(node, token, SWAPPED[token.spelling], context)
         elif node.spelling in CALLS and children:
+            if node.spelling in ('find', 'rfind') and self.of(parent).endswith('npos'):
+                return  # whether there is one, not where
             callee = [t for t in self.tokens_between(children[0].extent.start.offset, children[0].extent.end.offset)
                       if t.spelling == node.spelling]
             if callee:

@@ -140,6 +140,11 @@ TEST_F(Room, UnprintableBordersCountAsPaper) {
   EXPECT_FALSE(Prints(ListingStyle::FullPathList));
 }
 
+TEST_F(Room, ALeftMarginMayBeLittleMoreThanTheBorder) {
+  printer.Area = {10000, 16000, 1000, 0, 1000, 0};  // one inch is 440 more
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
 TEST_F(Room, AFontSizeThatIsNoneOrBeyondTheSheetIsRefused) {
   // 16,000 twips are 800 points.
   for (const int size : {0, -1, -32768, 801, 32767}) {

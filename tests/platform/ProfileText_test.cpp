@@ -43,6 +43,10 @@ TEST(ProfileText, SkipsCommentsAndLinesWithoutEquals) {
   EXPECT_EQ(Value("k=0\n[S]\nx=1\n", L"S", L"k"), L"(none)");
 }
 
+TEST(ProfileText, ASectionsNameGoesUpToTheLastBracket) {
+  EXPECT_EQ(Value("[a]b]\nk=1\n", L"a]b", L"k"), L"1");
+}
+
 TEST(ProfileText, TakesEveryKindOfLineEnd) {
   EXPECT_EQ(Value("[S]\na=1\r\nb=2\nc=3", L"S", L"b"), L"2");
   EXPECT_EQ(Value("[S]\na=1\r\nb=2\nc=3", L"S", L"c"), L"3");

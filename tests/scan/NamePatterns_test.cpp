@@ -52,6 +52,7 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"[a-c][0-9]", L"b7", true},
       {L"[a-c][0-9]", L"7b", false},
       {L"[a-c][0-9]", L"bb", false},
+      {L"[a][b][c]", L"acc", false},
       {L"[a-c0-9_]", L"7", true},
       {L"[a-c0-9_]", L"_", true},
       {L"[a-c0-9_]", L"d", false},

@@ -11,6 +11,10 @@ PrinterSettings Settings(std::wstring name, std::int32_t duplex, std::int32_t qu
   return {std::move(name), 7, duplex, quality, bin};
 }
 
+TEST(PrinterChoice, NothingChosenIsWhatListsSayWithoutASelection) {
+  EXPECT_EQ(kNothingChosen, -1);
+}
+
 TEST(PrinterChoice, TheNameForNoPrinterIsShownInTheUsersLanguage) {
   Messages texts;
   texts.Set(static_cast<std::size_t>(Text::NoPrinterName), L"(kein Drucker)");
