@@ -96,14 +96,14 @@ void Save(SettingsStore& store, const Setting& setting) {
   }
 }
 
+/// Into the per-user store, which keeps each setting at once.
 void SaveGroup(SettingGroup group) {
-  SettingsStore store = OpenStore();
+  SettingsStore store;
   for (const Setting& setting : Settings()) {
     if (setting.Group == group) {
       Save(store, setting);
     }
   }
-  store.Save();
 }
 
 /// Raises UseFilterFile around one complete load or save.

@@ -86,14 +86,8 @@ bool HoldsColumns(const PageLayout& at, const Page& page, const ListingFormat& f
   return Reaches(std::min(width, area.Width + area.RightOffset - at.Origin), needed);
 }
 
-GeneralSettings WithoutMargins(GeneralSettings general) {
-  general.MarginLeft = general.MarginRight = general.MarginTop = general.MarginBottom = 0;
-  return general;
-}
-
-PageLayout Arrange(const Page& page, const GeneralSettings& general, const ListingFormat& format) {
+PageLayout Arrange(const Page& page, const PageMargins& margins, const ListingFormat& format) {
   const platform::PageArea area = page.Area();
-  const PageMargins margins = MarginsInTwips(general);
   PageLayout at;
   at.LineHeight = page.LineHeight();
   at.Origin = margins.Left - area.LeftOffset;
@@ -125,11 +119,11 @@ std::unique_ptr<Page> MakePage(std::unique_ptr<platform::PageSurface> surface, c
 
 PageLayout LayOut(const Page& page, const GeneralSettings& general, const ListingFormat& format,
                   const Messages& texts) {
-  const PageLayout asSet = Arrange(page, general, format);
+  const PageLayout asSet = Arrange(page, MarginsInTwips(general), format);
   if (HoldsALine(asSet, page.Area(), format) && HoldsColumns(asSet, page, format)) {
     return asSet;
   }
-  const PageLayout widest = Arrange(page, WithoutMargins(general), format);
+  const PageLayout widest = Arrange(page, PageMargins{}, format);
   const bool columns = HoldsColumns(widest, page, format);
   if (columns && HoldsALine(widest, page.Area(), format)) {
     throw RuntimeError(FailedAction::UseMargins, MarginsText(general, texts), {}, 0);

@@ -113,7 +113,7 @@ NamePatterns::NamePatterns(std::wstring_view filterName) {
     entries_.push_back({excludes, WildcardPattern(std::wstring_view(piece).substr(hasSign ? 1 : 0))});
   }
   const auto excludes = [](const Entry& entry) { return entry.Excludes; };
-  const auto matchesAll = [](const Entry& entry) { return !entry.Excludes && entry.Pattern.MatchesEveryDottedName(); };
+  const auto matchesAll = [](const Entry& entry) { return entry.Pattern.MatchesEveryDottedName(); };
   admitsAll_ = std::none_of(entries_.begin(), entries_.end(), excludes) &&
                std::any_of(entries_.begin(), entries_.end(), matchesAll);
 }

@@ -17,7 +17,6 @@ class EntrySorter {
   void Clear();
   /// The key of the next entry; entries count from 0.
   void Add(std::wstring_view sortKey);
-  std::size_t Count() const { return keys_.size(); }
   /// The entries' numbers in listing order. `ascending` false compares the other way round, groups included.
   void Sort(bool ascending, std::vector<std::uint32_t>& order);
 

@@ -38,6 +38,7 @@ TEST(GetSwitchArgument, OfASwitchAtTheEndOfTheLineIsEmpty) {
   EXPECT_EQ(GetSwitchArgument(L"/f", 1), L"");
   EXPECT_EQ(GetSwitchArgument(L"/", 1), L"");
   EXPECT_EQ(GetSwitchArgument(L"//", 1), L"");
+  EXPECT_EQ(GetSwitchArgument(L"//x", 1), L"") << "it ends with the slash";
 }
 
 TEST(ReadCommandLine, WithoutASlashIsOnePath) {
@@ -54,6 +55,13 @@ TEST(ReadCommandLine, TakesTheFirstOccurrenceOfEachSwitchInAnyOrder) {
   EXPECT_EQ(command.OutputLetter, L'x');
   EXPECT_EQ(command.OutputFile, L"out");
   EXPECT_TRUE(command.Go);
+}
+
+TEST(ReadCommandLine, ABlankAfterASwitchMayBeMissing) {
+  const CommandLine command = ReadCommandLine(L"/fa.fvf /dC:\\b /oout");
+  EXPECT_EQ(command.FilterFile, L"a.fvf");
+  EXPECT_EQ(command.Directory, L"C:\\b");
+  EXPECT_EQ(command.OutputFile, L"out");
 }
 
 TEST(ReadCommandLine, SwitchesAreSmallLetters) {

@@ -454,10 +454,14 @@ TEST(Settings, ABadValueIsToldAndTakesItsDefault) {
       {L"Settings", L"MarginLeft", L"inf"},
       {L"Filter", L"Filter", L"10"},
       {L"Filter", L"Filter", L"1a00"},
+      {L"Filter", L"Filter", L"1/00"},  // the neighbours of the digits
+      {L"Filter", L"Filter", L"1:00"},
+      {L"Filter", L"Attr", L"22/02"},
       {L"Filter", L"Attr", L"22302"},
       {L"Filter", L"Attr", L""},
       {L"Filter", L"FilterDateMin", L"1999/13/01"},
       {L"Filter", L"FilterDateMin", L"1999/02/29"},
+      {L"Filter", L"FilterDateMax", L"2000/04/31"},  // of a leap year
       {L"Filter", L"FilterDateMax", L"tomorrow"},
       {L"Filter", L"FilterDateMax", L"1999/09"},
       {L"Format", L"TShow", L"111"},

@@ -98,6 +98,7 @@ TEST_F(StartUp, ASentDirectoryIsTheOneToList) {
   EXPECT_EQ(mdlVars::Start.Shown, L"C:\\Data");
   Start(L"C:\\My Data\"");
   EXPECT_EQ(mdlVars::Start.Shown, L"C:\\My Data");
+  EXPECT_EQ(mdlVars::Format.ListingStyle, ListingStyle::IncludeSubdirectories) << "the stored one";
   EXPECT_EQ(Session().Shown, 3);
 }
 
@@ -350,6 +351,13 @@ TEST_F(StartUp, WithoutAChosenAndADefaultPrinterThatIsToldAndFails) {
   Fake().Messages.clear();
   Store(L"PrinterName", L"Laser");
   EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t p /g"), kExitDone);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, WithoutAChosenPrinterTheDefaultOnePrints) {
+  Session().Printers = {L"Laser"};
+  mdlVars::Printer.PrinterName.clear();
+  EXPECT_TRUE(FindPrinter());
   EXPECT_TRUE(Fake().Messages.empty());
 }
 

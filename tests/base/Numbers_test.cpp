@@ -125,8 +125,8 @@ TEST(Numbers, AnyDecimalMarkOfAStoredNumberIsReadAsItWasMeant) {
       {&kMinus, L"12-5", 12.5},          {&kMinus, L"-2", -2},
       {&kTwoLetters, L"1..5", 1.5},      {&kTwoLetters, L"1::500", kNone},
       {&kAmerican, L"1e3", 1000},        {&kGerman, L"1e+20", 1e20},
-      {&kAmerican, L"2,5e-05", 2.5e-05}, {&kAmerican, L"1 000", kNone},
-      {&kPolish, L"1\u00A0000", kNone},
+      {&kGerman, L"1E+20", 1e20},        {&kAmerican, L"2,5e-05", 2.5e-05},
+      {&kAmerican, L"1 000", kNone},     {&kPolish, L"1\u00A0000", kNone},
   };
   ExpectEach(rows, StoredFraction);
 }
@@ -204,13 +204,29 @@ TEST(Numbers, ASeparatorOfThousandsCountsOnlyBeforeThreeDigits) {
 
 TEST(Numbers, ATypedWholeNumberIsRoundedButNeverGuessedAt) {
   const Row rows[] = {
-      {&kGerman, L"20.5", 20},      {&kGerman, L"1.000", 1000},    {&kGerman, L"1,000", 1},
-      {&kAmerican, L"1,000", 1000}, {&kAmerican, L"1.000", 1},     {&kAmerican, L"2.5", 2},
-      {&kAmerican, L"3.5", 4},      {&kAmerican, L"-2.5", -2},     {&kAmerican, L"2.51", 3},
-      {&kAmerican, L"12,5", 12},    {&kFrench, L"1.000", kNone},   {&kFrench, L"1,000", 1},
-      {&kFrench, L"1.00", 1},       {&kSwiss, L"1,000", kNone},    {&kSwiss, L"1.000", 1},
-      {&kPolish, L"1 000", 1000},   {&kPolish, L"1 000.5", 1000},  {&kAmerican, L"1e3", kNone},
-      {&kFrench, L"0.500", 0},      {&kFrench, L"1000.000", 1000},
+      {&kGerman, L"20.5", 20},
+      {&kGerman, L"1.000", 1000},
+      {&kGerman, L"1,000", 1},
+      {&kAmerican, L"1,000", 1000},
+      {&kAmerican, L"1.000", 1},
+      {&kAmerican, L"2.5", 2},
+      {&kAmerican, L"3.5", 4},
+      {&kAmerican, L"-2.5", -2},
+      {&kAmerican, L"2.51", 3},
+      {&kAmerican, L"12,5", 12},
+      {&kFrench, L"1.000", kNone},
+      {&kFrench, L"1,000", 1},
+      {&kFrench, L"1.00", 1},
+      {&kSwiss, L"1,000", kNone},
+      {&kSwiss, L"1.000", 1},
+      {&kPolish, L"1 000", 1000},
+      {&kPolish, L"1 000.5", 1000},
+      {&kAmerican, L"1e3", kNone},
+      {&kFrench, L"0.500", 0},
+      {&kFrench, L"1000.000", 1000},
+      // After separators of thousands the other mark can only be a decimal one.
+      {&kFrench, L"1 000.250", 1000},
+      {&kSwiss, L"1'000,250", 1000},
   };
   ExpectEach(rows, TypedWhole);
 }
@@ -244,7 +260,11 @@ TEST(Numbers, ANumberOutsideItsRangeIsToldFromNone) {
     EXPECT_EQ(typed.OutOfRange, !row.fits) << testing::PrintToString(std::wstring(row.text));
     EXPECT_EQ(ReadLeadingWhole(row.text, kSmall), typed) << testing::PrintToString(std::wstring(row.text));
   }
-  EXPECT_FALSE(ReadWhole(L"many", NumberSource::Typed, kSmall).OutOfRange);
+  for (const wchar_t* const none : {L"", L"-", L"many"}) {
+    EXPECT_FALSE(ReadWhole(none, NumberSource::Typed, kSmall).OutOfRange) << none;
+    EXPECT_FALSE(ReadFraction<double>(none, NumberSource::Stored).OutOfRange) << none;
+  }
+  EXPECT_FALSE(ReadFraction<double>(L"e5", NumberSource::Stored).OutOfRange) << "an exponent of nothing";
   EXPECT_TRUE(ReadWhole(L"2147483647.5", NumberSource::Stored).OutOfRange) << "rounds beyond the limit";
   EXPECT_TRUE(ReadWhole(L"32768", NumberSource::Stored, kRangeOf<std::int16_t>).OutOfRange);
   EXPECT_TRUE(ReadWhole(std::wstring(400, L'9'), NumberSource::Stored).OutOfRange);

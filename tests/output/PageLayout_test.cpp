@@ -32,6 +32,7 @@ class Room : public PageWriter {
       Begin(style);
     } catch (const RuntimeError& error) {
       EXPECT_TRUE(error.SystemText().empty());
+      EXPECT_EQ(error.SystemCode(), 0U);
       outcome = (error.Action() == FailedAction::UseMargins ? L"margins: " : L"font: ") + error.Object();
       EXPECT_TRUE(printer.Jobs.empty()) << "nothing reaches the queue";
     }
@@ -128,6 +129,20 @@ TEST_F(Room, UnprintableBordersCountAsPaper) {
   EXPECT_TRUE(Prints(ListingStyle::IncludeSubdirectories));
   printer.Area.Width -= 1;
   EXPECT_FALSE(Prints(ListingStyle::IncludeSubdirectories));
+
+  // Where the right margin lies beyond the sheet, the sheet ends the line: it begins at 11,520 of 12,000 twips, the
+  // last 500 of which are border, and "W..." takes 480.
+  printer.Area = {11500, 16000, 0, 0, 500, 0};
+  general.MarginLeft = 8;
+  general.MarginRight = -1;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+  printer.Area.Width -= 1;
+  EXPECT_FALSE(Prints(ListingStyle::FullPathList));
+}
+
+TEST_F(Room, ALeftMarginMayBeLittleMoreThanTheBorder) {
+  printer.Area = {10000, 16000, 1000, 0, 1000, 0};  // one inch is 440 more
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
 }
 
 TEST_F(Room, AFontSizeThatIsNoneOrBeyondTheSheetIsRefused) {
@@ -164,6 +179,41 @@ TEST_F(Room, TheHeadersOwnFontIsNamedWhenItIsToBlame) {
   }
   General.FontSizeHF = 14;
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
+TEST_F(Room, TheHeadersLargerFontIsNotToBlameForWhatItDoesNotTake) {
+  general.FontNameHF = L"Arial";
+  general.FontSizeHF = 30;
+  general.Font80HF = false;
+  general.FontSize = 24;  // five columns take 13,824 of 12,000, whatever the header's font
+  EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
+  general.FontSize = 100;
+  general.FontSizeHF = 99;
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
+  general.FontSizeHF = 300;
+  general.Font80HF = true;  // then it is not in use
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
+}
+
+TEST_F(Room, NoDeviceIsAskedForAFontBeyondItsSheet) {
+  printer.Area = {12000, 15000, 0, 400, 0, 600};  // 16,000 twips with the borders: 800 points
+  const auto selects = [this] {
+    try {
+      MakePage(platform::OpenPageSurface({}), general);
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Action(), FailedAction::UseFont);
+      return false;
+    }
+    return true;
+  };
+  for (const bool header : {false, true}) {
+    general.Font80HF = !header;
+    for (const int points : {0, 1, 800, 801}) {
+      general.FontSize = static_cast<std::int16_t>(header ? 10 : points);
+      general.FontSizeHF = header ? points : 10;
+      EXPECT_EQ(selects(), points == 1 || points == 800) << points;
+    }
+  }
 }
 
 struct MarginCase {

@@ -47,6 +47,7 @@ TEST_F(PageTest, DoesNotRememberWithoutEnd) {
 }
 
 TEST_F(PageTest, GoesDownByLinesOfTheSelectedFont) {
+  EXPECT_EQ(page_.Y(), 0);
   page_.MoveTo(1000);
   page_.EndLine();
   EXPECT_EQ(page_.Y(), 1220);

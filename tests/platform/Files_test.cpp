@@ -48,6 +48,7 @@ TEST(Files, ReadsAllBytes) {
 
 TEST(Files, ReadsNothingThatIsLargerThanALimit) {
   const Scratch scratch;
+  EXPECT_EQ(kLongestWholeFile, 16U * 1024 * 1024);
   const std::wstring path = scratch.MakeFile(L"large");
   std::filesystem::resize_file(Scratch::Native(path), kLongestWholeFile);
   EXPECT_EQ(ReadWholeFile(path).size(), kLongestWholeFile);
@@ -56,6 +57,7 @@ TEST(Files, ReadsNothingThatIsLargerThanALimit) {
   EXPECT_EQ(error.Action(), FailedAction::ReadLargeFile);
   EXPECT_EQ(error.Object(), path);
   EXPECT_EQ(error.SystemText(), L"16");
+  EXPECT_EQ(error.SystemCode(), 0U);
 }
 
 TEST(InputFile, ReadsInPiecesAndFromTheBeginningAgain) {

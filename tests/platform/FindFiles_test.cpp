@@ -151,6 +151,15 @@ TEST(FindFiles, GoesDeeperThanThePathLimit) {
   EXPECT_FALSE(PathExists(folder + L"\\bottom.txt"));
 }
 
+TEST(FindFiles, OnlyItsOwnAttributeMakesALink) {
+  FindData data;
+  data.Attributes = kReadOnly | kHidden | kSystem | kDirectory | kArchive;
+  EXPECT_FALSE(data.IsLink());
+  data.Attributes = 0x400;  // as the file system has it
+  EXPECT_TRUE(data.IsLink());
+  EXPECT_FALSE(data.IsDirectory());
+}
+
 TEST(FindEntry, AnswersTheNameOnDisk) {
   const Scratch scratch;
   scratch.MakeFolder(L"Some Folder");

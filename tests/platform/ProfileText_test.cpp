@@ -33,11 +33,18 @@ TEST(ProfileText, DropsBlanksAndOnePairOfQuotes) {
   EXPECT_EQ(Value("[S]\nk=\"\"a\"\"\n", L"S", L"k"), L"\"a\"");
   EXPECT_EQ(Value("[S]\nk=\"a'\n", L"S", L"k"), L"\"a'");
   EXPECT_EQ(Value("[S]\nk=\"\n", L"S", L"k"), L"\"");
+  EXPECT_EQ(Value("[S]\nk=\"\"\n", L"S", L"k"), L"");
 }
 
 TEST(ProfileText, SkipsCommentsAndLinesWithoutEquals) {
   EXPECT_EQ(Value("[S]\n;k=1\n ; k=2\nk\nk=3;4\n", L"S", L"k"), L"3;4");
+  EXPECT_EQ(Value("[S]\n;k=1\n", L"S", L";k"), L"(none)");
+  EXPECT_EQ(Value("[S]\nk;=1\n", L"S", L"k;"), L"1");
   EXPECT_EQ(Value("k=0\n[S]\nx=1\n", L"S", L"k"), L"(none)");
+}
+
+TEST(ProfileText, ASectionsNameGoesUpToTheLastBracket) {
+  EXPECT_EQ(Value("[a]b]\nk=1\n", L"a]b", L"k"), L"1");
 }
 
 TEST(ProfileText, TakesEveryKindOfLineEnd) {

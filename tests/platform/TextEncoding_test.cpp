@@ -102,11 +102,14 @@ TEST(TextEncoding, IsSureAsSoonAsItCanBe) {
                            "a",
                            "ab\xFF"
                            "cde"}) {
-    EncodingProbe probe;
-    probe.Add(sure);
-    EXPECT_TRUE(probe.IsSure());
+    for (std::size_t cut = 0; cut <= std::string_view(sure).size(); ++cut) {
+      EncodingProbe probe;
+      probe.Add(std::string_view(sure).substr(0, cut));
+      probe.Add(std::string_view(sure).substr(cut));
+      EXPECT_TRUE(probe.IsSure()) << cut;
+    }
   }
-  for (const char* open : {"", "\xEF\xBB", "abcdef", "\xC3\xA9\xC3\xA9", "abc\xE9"}) {
+  for (const char* open : {"", "\xFF", "\xFE", "\xEF\xBB", "abcdef", "\xC3\xA9\xC3\xA9", "abc\xE9"}) {
     EncodingProbe probe;
     probe.Add(open);
     EXPECT_FALSE(probe.IsSure());

@@ -17,6 +17,7 @@ const std::pair<const wchar_t*, const char*> kCharacters[] = {
     {L"\uFFFF", "\xEF\xBF\xBF"},
     {L"\U00010000", "\xF0\x90\x80\x80"},
     {L"\U0001F600", "\xF0\x9F\x98\x80"},
+    {L"\U0001F601", "\xF0\x9F\x98\x81"},
     {L"\U0010FFFF", "\xF4\x8F\xBF\xBF"},
 };
 
@@ -34,12 +35,14 @@ TEST(Utf8, GoesThereAndBack) {
 // Worked out from Wine's rules for broken sequences; each row is some bytes and what is shown.
 TEST(Utf8, ShowsBrokenSequencesAsReplacementCharacters) {
   const std::map<std::string, std::wstring> rows{
-      {"a\xFFz", L"a\uFFFDz"},                        // no first byte at all
-      {"b\xE2\x82", L"b\uFFFD"},                      // cut off
-      {"c\xC0\xAFz", L"c\uFFFD\uFFFDz"},              // a form that is never used
-      {"d\xED\xA0\x80z", L"d\uFFFD\uFFFDz"},          // half of a pair
-      {"e\xF4\x90\x80\x80", L"e\uFFFD\uFFFD\uFFFD"},  // beyond the last character
-      {"f\xE2\x41z", L"f\uFFFDAz"},                   // broken off by a letter
+      {"a\xFFz", L"a\uFFFDz"},                                // no first byte at all
+      {"b\xE2\x82", L"b\uFFFD"},                              // cut off
+      {"c\xC0\xAFz", L"c\uFFFD\uFFFDz"},                      // a form that is never used
+      {"d\xED\xA0\x80z", L"d\uFFFD\uFFFDz"},                  // half of a pair
+      {"e\xF4\x90\x80\x80", L"e\uFFFD\uFFFD\uFFFD"},          // beyond the last character
+      {"f\xE2\x41z", L"f\uFFFDAz"},                           // broken off by a letter
+      {"\x80", L"\uFFFD"},                                    // a following byte alone
+      {"g\xF5\x80\x80\x80z", L"g\uFFFD\uFFFD\uFFFD\uFFFDz"},  // no first byte, and three following bytes alone
   };
   for (const auto& [bytes, shown] : rows) {
     EXPECT_EQ(FromUtf8(bytes), shown);

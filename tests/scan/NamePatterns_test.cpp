@@ -25,6 +25,7 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"a*c", L"abbbc", true},
       {L"a*c", L"abcb", false},
       {L"a*b*c", L"a.b.b.c", true},
+      {L"ab*bc", L"abc", false},  // no letter serves on both sides
       {L"*.txt", L"a.txt.txt", true},
       {L"*.txt", L"a.txtx", false},
       {L"**", L"x", true},
@@ -51,6 +52,7 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"[a-c][0-9]", L"b7", true},
       {L"[a-c][0-9]", L"7b", false},
       {L"[a-c][0-9]", L"bb", false},
+      {L"[a][b][c]", L"acc", false},
       {L"[a-c0-9_]", L"7", true},
       {L"[a-c0-9_]", L"_", true},
       {L"[a-c0-9_]", L"d", false},
@@ -59,6 +61,7 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"[a-]", L"b", false},
       {L"[a!]", L"!", true},  // only in front does "!" turn the class round
       {L"[!]", L"!", true},
+      {L"[!]", L"x", false},
       {L"[*]", L"*", true},
       {L"[*]", L"x", false},
       {L"[?]", L"x", false},

@@ -17,6 +17,10 @@ TEST(ProperNameTest, RecasesNamesOfOneCaseOnly) {
       {L"123.456", L"123.456"},
       {L"", L""},
       {L"_readme", L"_readme"},
+      {L"a@[`{b", L"A@[`{b"},  // the neighbours of the letters
+      {L"A@[`{B", L"A@[`{b"},
+      {L"\x00C9\x00E9", L"\x00C9\x00E9"},
+      {L"\x00E9\x00C9", L"\x00E9\x00C9"},
       {L"\x00E4rger", L"\x00C4rger"},
       {L"\x00C4RGER", L"\x00C4rger"},
       {L"\x00C4rGER", L"\x00C4rGER"},

@@ -37,6 +37,24 @@ TEST(EntrySorterTest, AShorterKeyGoesBeforeALongerOneThatBeginsWithIt) {
   EXPECT_THAT(Sorted(keys, false), ElementsAre(0, 3, 1, 2, 4));
 }
 
+// No name has such an end, but nothing else tells how a missing letter compares with the least one.
+TEST(EntrySorterTest, AKeyGoesBeforeTheSameOneWithAZeroAtItsEnd) {
+  const std::wstring zero(1, L'\0');
+  EXPECT_THAT(Sorted({L"a" + zero + zero, L"a" + zero, L"a"}, true), ElementsAre(2, 1, 0));
+  EXPECT_THAT(Sorted({L"a", L"a" + zero}, false), ElementsAre(1, 0));
+}
+
+TEST(EntrySorterTest, OneLetterAnywhereMakesTheDifference) {
+  for (std::size_t length = 1; length <= 20; ++length) {
+    std::wstring later(length, L'x');
+    later.back() = L'c';  // as a number one more than "b"
+    std::wstring earlier = later;
+    earlier.back() = L'b';
+    EXPECT_THAT(Sorted({later, earlier}, true), ElementsAre(1, 0)) << length;
+    EXPECT_THAT(Sorted({earlier, later}, false), ElementsAre(1, 0)) << length;
+  }
+}
+
 TEST(EntrySorterTest, NothingAndOneKeyAreSortedToo) {
   EXPECT_TRUE(Sorted({}, true).empty());
   EXPECT_THAT(Sorted({L"x"}, false), ElementsAre(0));

@@ -99,6 +99,8 @@ TEST_F(PathList, ARowIsNameFolderSizeAndDate) {
 TEST_F(PathList, SizesHaveFixedUnits) {
   Texts.Set(128, L"Octets");
   EXPECT_EQ(Read("C:\\Data\\README.TXT").Items[0].Size, L"9,999 b ");
+  Tree().Dir(L"C:\\Data").File(L"Disk.img", 5'368'709'120);  // 5 x 1024 x 1024 x 1024
+  EXPECT_EQ(Read("C:\\Data\\Disk.img").Items[0].Size, L"5,120 Mb");
 }
 
 TEST_F(PathList, DatesAreLocalAndFollowTheRunsPattern) {
@@ -121,6 +123,10 @@ TEST_F(PathList, BlankLinesYieldNoRows) {
 
 TEST_F(PathList, LinesThatAreNoFullPathYieldNoRows) {
   EXPECT_EQ(NamesOf("README.TXT\r\nC:README.TXT\r\n\\Data\r\nC:\r\nx\r\nC:\\Data\\Big.bin"), (Names{L"Big.bin"}));
+}
+
+TEST_F(PathList, ANetworkPathIsAFullPath) {
+  EXPECT_EQ(ErrorOf("\\\\server\\share\\gone.txt"), L"\\\\server\\share\\gone.txt");
 }
 
 TEST_F(PathList, ASlashSeparatesLikeABackslash) {
@@ -186,7 +192,9 @@ TEST_F(PathList, ABlankListIsAnEmptyListing) {
 }
 
 TEST_F(PathList, ALineThatIsLongerThanAnyPathIsNamedByItsBeginning) {
-  EXPECT_EQ(ErrorOf("C:\\" + std::string(40'000, 'x')), L"C:\\" + std::wstring(256, L'x') + L"...");
+  // With its three first letters the longest path has 32,767.
+  EXPECT_EQ(ErrorOf("C:\\" + std::string(32'764, 'x')), L"C:\\" + std::wstring(32'764, L'x'));
+  EXPECT_EQ(ErrorOf("C:\\" + std::string(32'765, 'x')), L"C:\\" + std::wstring(256, L'x') + L"...");
 }
 
 const std::string kUtf8Mark = "\xEF\xBB\xBF";

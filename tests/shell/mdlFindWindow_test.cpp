@@ -152,6 +152,13 @@ TEST_F(PrintFromFind, FailsWithoutInnerWindowsWhenNobodyWatches) {
   EXPECT_EQ("error 0", ResultOf(run));
 }
 
+TEST_F(PrintFromFind, TheUserMayStillChooseWhenNobodyWatches) {
+  FindWindows().TopLevel = {FindWindow(10, L"Find: one", {}), FindWindow(20, L"Find: two", TwoRows())};
+  FindWindows().User = {[](FindChoice&) {}, [](FindChoice& choice) { choice.Choose(1); }};
+  NoProgress run;
+  EXPECT_EQ("2 rows", ResultOf(run));
+}
+
 TEST_F(PrintFromFind, CancelOfTheRunEndsTheChoice) {
   FindWindows().TopLevel = {FindWindow(10, L"Find: one", TwoRows()), FindWindow(20, L"Find: two", TwoRows())};
   WatchedRun run(5);

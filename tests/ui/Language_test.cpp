@@ -42,6 +42,14 @@ TEST(Language, TextsAreReadByTheirNumbers) {
   EXPECT_EQ(Messages::kCount, 301u) << "301 and beyond are never read";
 }
 
+TEST(Language, TextsAreLoadedOnceTheLastOneIsThere) {
+  Messages texts;
+  texts.Set(0, L"First");
+  EXPECT_FALSE(texts.AreLoaded());
+  texts.Set(Messages::kCount - 1, L"Last");
+  EXPECT_TRUE(texts.AreLoaded());
+}
+
 TEST(Language, WhatAFileLacksIsEnglish) {
   File(L"english.ini", "[Messages]\r\n13=OK\r\n14=&Close\r\n");
   File(L"dutch.ini", "[Messages]\r\n14=&Sluiten\r\n");

@@ -30,6 +30,7 @@ TEST(RaisedMargins, RoundsUpToAHundredthOfAnInch) {
 
 TEST(RaisedMargins, LeavesMarginsThatSuffice) {
   EXPECT_EQ(RaisedMargins({20.3F, 0, 6, 7.7F}, kMinimum, false), (Margins{20.3F, 5, 6, 7.7F}));
+  EXPECT_EQ(RaisedMargins(kMinimum, kMinimum, false), kMinimum) << "not even to a whole millimetre";
 }
 
 }  // namespace
