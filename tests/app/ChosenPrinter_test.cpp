@@ -47,6 +47,13 @@ TEST_F(ChosenPrinter, ARunFindsThePrinterOrSaysWhyNot) {
   EXPECT_EQ(Fake().Messages.size(), 1U);
 }
 
+TEST_F(ChosenPrinter, AnEmptyNameStandsForTheDefaultPrinter) {
+  fakes::Session().Printers = {L"Laser"};
+  settings.PrinterName.clear();
+  EXPECT_TRUE(FindPrinter(settings, texts));
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
 TEST_F(ChosenPrinter, WhereNoneIsChosenAndNoneIsTheDefaultARunSaysSo) {
   fakes::Session().Printers = {L"Laser"};
   fakes::Session().HasDefaultPrinter = false;

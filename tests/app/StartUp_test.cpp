@@ -354,13 +354,6 @@ TEST_F(StartUp, WithoutAChosenAndADefaultPrinterThatIsToldAndFails) {
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
-TEST_F(StartUp, WithoutAChosenPrinterTheDefaultOnePrints) {
-  Session().Printers = {L"Laser"};
-  mdlVars::Printer.PrinterName.clear();
-  EXPECT_TRUE(FindPrinter());
-  EXPECT_TRUE(Fake().Messages.empty());
-}
-
 TEST_F(StartUp, AFileRunDoesNotAskForThePrinter) {
   Session().Printers = {L"Laser"};
   Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /g");

@@ -133,8 +133,8 @@ TEST_F(Room, UnprintableBordersCountAsPaper) {
   // Where the right margin lies beyond the sheet, the sheet ends the line: it begins at 11,520 of 12,000 twips, the
   // last 500 of which are border, and "W..." takes 480.
   printer.Area = {11500, 16000, 0, 0, 500, 0};
-  general.MarginLeft = 8;
-  general.MarginRight = -1;
+  General.MarginLeft = 8;
+  General.MarginRight = -1;
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
   printer.Area.Width -= 1;
   EXPECT_FALSE(Prints(ListingStyle::FullPathList));
@@ -182,16 +182,16 @@ TEST_F(Room, TheHeadersOwnFontIsNamedWhenItIsToBlame) {
 }
 
 TEST_F(Room, TheHeadersLargerFontIsNotToBlameForWhatItDoesNotTake) {
-  general.FontNameHF = L"Arial";
-  general.FontSizeHF = 30;
-  general.Font80HF = false;
-  general.FontSize = 24;  // five columns take 13,824 of 12,000, whatever the header's font
+  General.FontNameHF = L"Arial";
+  General.FontSizeHF = 30;
+  General.Font80HF = false;
+  General.FontSize = 24;  // five columns take 13,824 of 12,000, whatever the header's font
   EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
-  general.FontSize = 100;
-  general.FontSizeHF = 99;
+  General.FontSize = 100;
+  General.FontSizeHF = 99;
   EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
-  general.FontSizeHF = 300;
-  general.Font80HF = true;  // then it is not in use
+  General.FontSizeHF = 300;
+  General.Font80HF = true;  // then it is not in use
   EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
 }
 
@@ -199,7 +199,7 @@ TEST_F(Room, NoDeviceIsAskedForAFontBeyondItsSheet) {
   printer.Area = {12000, 15000, 0, 400, 0, 600};  // 16,000 twips with the borders: 800 points
   const auto selects = [this] {
     try {
-      MakePage(platform::OpenPageSurface({}), general);
+      MakePage(platform::OpenPageSurface({}), General);
     } catch (const RuntimeError& error) {
       EXPECT_EQ(error.Action(), FailedAction::UseFont);
       return false;
@@ -207,10 +207,10 @@ TEST_F(Room, NoDeviceIsAskedForAFontBeyondItsSheet) {
     return true;
   };
   for (const bool header : {false, true}) {
-    general.Font80HF = !header;
+    General.Font80HF = !header;
     for (const int points : {0, 1, 800, 801}) {
-      general.FontSize = static_cast<std::int16_t>(header ? 10 : points);
-      general.FontSizeHF = header ? points : 10;
+      General.FontSize = static_cast<std::int16_t>(header ? 10 : points);
+      General.FontSizeHF = header ? points : 10;
       EXPECT_EQ(selects(), points == 1 || points == 800) << points;
     }
   }
