@@ -13,9 +13,9 @@ constexpr std::size_t kMostLines = 10;
 constexpr std::size_t kMostCharacters = 60;  ///< of a value
 
 std::wstring OneSetting(const BadSetting& setting, const Messages& texts) {
-  std::wstring text = WithPlaceholders(texts[Text::BadSetting], setting.Location, setting.Key, setting.Value);
+  std::wstring text = WithPlaceholders(texts[TextId::BadSetting], setting.Location, setting.Key, setting.Value);
   if (setting.Limits) {
-    text += L"\r\n" + WithPlaceholders(texts[Text::ValidValues], setting.Limits->Lowest, setting.Limits->Highest);
+    text += L"\r\n" + WithPlaceholders(texts[TextId::ValidValues], setting.Limits->Lowest, setting.Limits->Highest);
   }
   return text;
 }
@@ -44,12 +44,12 @@ std::wstring BadSettingsText(const std::vector<BadSetting>& bad, const Messages&
     if (setting.Location != place) {
       place = setting.Location;
       text += text.empty() ? L"" : L"\r\n\r\n";
-      text += WithPlaceholders(texts[Text::BadSettings], place) + L"\r\n";
+      text += WithPlaceholders(texts[TextId::BadSettings], place) + L"\r\n";
     }
     text += L"\r\n" + Line(setting);
   }
   if (bad.size() > kMostLines) {
-    text += L"\r\n" + WithPlaceholders(texts[Text::MoreBadSettings], std::to_wstring(bad.size() - kMostLines));
+    text += L"\r\n" + WithPlaceholders(texts[TextId::MoreBadSettings], std::to_wstring(bad.size() - kMostLines));
   }
   return text;
 }

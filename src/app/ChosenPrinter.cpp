@@ -23,12 +23,12 @@ void ResolvePrinterName(PrinterSettings& settings) {
 bool FindPrinter(PrinterSettings& settings, const Messages& texts) {
   ResolvePrinterName(settings);
   if (platform::PrinterNames().empty()) {
-    ShowWarning(texts[Text::NoPrinter]);
+    ShowWarning(texts[TextId::NoPrinter]);
     return false;
   }
   const std::wstring& name = settings.PrinterName;
   if (name == kNoPrinter || (name.empty() && !platform::DefaultPrinterName())) {
-    ShowWarning(texts[Text::NoPrinterChosen]);
+    ShowWarning(texts[TextId::NoPrinterChosen]);
     return false;
   }
   return true;

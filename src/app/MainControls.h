@@ -8,24 +8,24 @@
 namespace folivant {
 
 inline constexpr Binding<NoRecord> kMainControls[] = {
-    {Label1, Text::Directory},
-    {Label3, Text::Filter},
-    {Label2, Text::OutputFormat},
-    {fraTo, Text::OutputTo},
-    {cmdBrowse, Text::Browse},
-    {cmdFilter, Text::FilterButton},
-    {cmdFormat, Text::FormatButton},
-    {cmdLoad, Text::LoadFilters},
-    {cmdSave, Text::SaveFilters},
-    {cmdOptions, Text::Options},
-    {cmdOK, Text::Ok},
-    {cmdCancel, Text::Close},
-    {cmdHelp, Text::Help},
+    {Label1, TextId::Directory},
+    {Label3, TextId::Filter},
+    {Label2, TextId::OutputFormat},
+    {fraTo, TextId::OutputTo},
+    {cmdBrowse, TextId::Browse},
+    {cmdFilter, TextId::FilterButton},
+    {cmdFormat, TextId::FormatButton},
+    {cmdLoad, TextId::LoadFilters},
+    {cmdSave, TextId::SaveFilters},
+    {cmdOptions, TextId::Options},
+    {cmdOK, TextId::Ok},
+    {cmdCancel, TextId::Close},
+    {cmdHelp, TextId::Help},
 };
 inline constexpr Binding<OutputTarget> kOutputToControls[] = {
-    {optPrinter, Text::ToPrinter, Means<OutputTarget::Printer>},
-    {optFile, Text::ToFile, Means<OutputTarget::File>},
-    {optScreen, Text::ToScreen, Means<OutputTarget::Screen>},
+    {optPrinter, TextId::ToPrinter, Means<OutputTarget::Printer>},
+    {optFile, TextId::ToFile, Means<OutputTarget::File>},
+    {optScreen, TextId::ToScreen, Means<OutputTarget::Screen>},
 };
 
 }  // namespace folivant

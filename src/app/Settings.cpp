@@ -177,7 +177,7 @@ void LoadFilterFile(const std::wstring& path) {
 bool LoadFilterFileIfWanted(const std::wstring& path) {
   const bool wanted =
       SettingsStore(path).HoldsSettings() ||
-      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[Text::LoadDefaults], path), platform::BoxIcon::Question,
+      platform::ShowMessage(WithPlaceholders(mdlVars::Texts[TextId::LoadDefaults], path), platform::BoxIcon::Question,
                             platform::BoxButtons::YesNo, platform::BoxDefault::Second) == platform::BoxAnswer::Yes;
   if (wanted) {
     LoadFilterFile(path);

@@ -33,7 +33,7 @@ void ShowWarning(const std::wstring& text) {
 /// What the line has wrong ends the program; nothing is saved.
 ExitStatus CommandLineError(const std::wstring& detail) {
   const Messages& texts = mdlVars::Texts;
-  ShowWarning(texts[Text::CommandLineProblem] + L"\r\n" + detail + L"\r\n\r\n" + texts[Text::CommandLineHint]);
+  ShowWarning(texts[TextId::CommandLineProblem] + L"\r\n" + detail + L"\r\n\r\n" + texts[TextId::CommandLineHint]);
   return kExitFailed;
 }
 
@@ -79,7 +79,7 @@ Ending ApplyOutputLetter(std::optional<wchar_t> letter) {
   }
   const OutputKindRow* const row = RowOfLetter(*letter);
   if (row == nullptr) {
-    return CommandLineError(mdlVars::Texts[Text::UnknownOutputType]);
+    return CommandLineError(mdlVars::Texts[TextId::UnknownOutputType]);
   }
   mdlVars::OutputKind = row->Kind;
   mdlVars::OutputTo = row->Kind == OutputKind::Printer ? OutputTarget::Printer : OutputTarget::File;

@@ -9,7 +9,7 @@
 #include "app/Settings.h"
 #include "app/StartUp.h"
 #include "app/mdlVars.h"
-#include "app/win32/PlaceOnScreen.h"
+#include "app/win32/PositionOnScreen.h"
 #include "app/win32/RunGuard.h"
 #include "app/win32/SaveDialog.h"
 #include "output/Columns.h"
@@ -31,7 +31,7 @@ namespace {
 
 platform::FileDialog FilterFileDialog() {
   platform::FileDialog dialog;
-  dialog.Types = mdlVars::Texts[Text::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[Text::AllFiles] + L"|*.*";
+  dialog.Types = mdlVars::Texts[TextId::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[TextId::AllFiles] + L"|*.*";
   dialog.FileName = mdlVars::FilterFile;
   return dialog;
 }
@@ -142,14 +142,14 @@ void frmMain::MakeFilterLabel() {
 }
 
 void frmMain::MakeFormatLabel() {
-  if (const std::optional<Text> style = StyleCaption(mdlVars::Format.ListingStyle)) {
+  if (const std::optional<TextId> style = StyleCaption(mdlVars::Format.ListingStyle)) {
     SetText(lblFormat, Texts()[*style]);
   }
 }
 
 void frmMain::MakePathLabel() {
   if (mdlVars::Format.ListingStyle == ListingStyle::PathListFile) {
-    SetText(lblPath, Texts()[Text::PathListStyle]);
+    SetText(lblPath, Texts()[TextId::PathListStyle]);
     return;
   }
   RECT label{};
@@ -176,7 +176,7 @@ void frmMain::ShowEverything() {
 }
 
 void frmMain::cmdBrowse_Click() {
-  const auto folder = platform::BrowseForFolder(Window(), Texts()[Text::BrowseTitle], mdlVars::Start.OnDisk);
+  const auto folder = platform::BrowseForFolder(Window(), Texts()[TextId::BrowseTitle], mdlVars::Start.OnDisk);
   if (folder && SetStartPath(*folder, mdlVars::Start, mdlVars::Format)) {
     ShowEverything();
   }
@@ -265,7 +265,7 @@ void frmMain::FinishRun() {
 
 void frmMain::SaveEverything() {
   mdlVars::OutputTo = GetOutputTo();
-  SavePlace(Window());
+  SavePosition(Window());
   SaveSettings();
 }
 
@@ -285,7 +285,7 @@ void frmMain::Unload() {
 int ShowMainWindow() {
   frmMain window;
   window.Create(nullptr);
-  RestorePlace(window.Window());
+  RestorePosition(window.Window());
   ShowWindow(window.Window(), SW_SHOWDEFAULT);
   platform::RunUntilClosed(window);
   return kExitDone;

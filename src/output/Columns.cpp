@@ -20,28 +20,28 @@ void AppendSum(const DirNode& node, const Messages& texts, std::wstring& out) {
 
 // The fixed blanks assume the lengths of the English captions, on purpose.
 const std::array<DirectoryColumn, 4> kDirectoryColumns = {{
-    {&DirectoryColumns::Files, Text::FilesCaption, 5, AppendCount<&DirNode::Files>, L"files"},
-    {&DirectoryColumns::Size, Text::DirectorySizeCaption, 6, AppendSum<&DirNode::Size>, L"size"},
-    {&DirectoryColumns::TotalFiles, Text::TotalFilesCaption, {}, AppendCount<&DirNode::TotalFiles>, L"total_files"},
-    {&DirectoryColumns::TotalSize, Text::TotalSizeCaption, {}, AppendSum<&DirNode::TotalSize>, L"total_size"},
+    {&DirectoryColumns::Files, TextId::FilesCaption, 5, AppendCount<&DirNode::Files>, L"files"},
+    {&DirectoryColumns::Size, TextId::DirectorySizeCaption, 6, AppendSum<&DirNode::Size>, L"size"},
+    {&DirectoryColumns::TotalFiles, TextId::TotalFilesCaption, {}, AppendCount<&DirNode::TotalFiles>, L"total_files"},
+    {&DirectoryColumns::TotalSize, TextId::TotalSizeCaption, {}, AppendSum<&DirNode::TotalSize>, L"total_size"},
 }};
 
-std::optional<Text> StyleCaption(ListingStyle style) {
+std::optional<TextId> StyleCaption(ListingStyle style) {
   switch (style) {
     case ListingStyle::NoSubdirectories:
-      return Text::NoSubdirectories;
+      return TextId::NoSubdirectories;
     case ListingStyle::IncludeSubdirectories:
-      return Text::IncludeSubdirectories;
+      return TextId::IncludeSubdirectories;
     case ListingStyle::TreeStyle:
-      return Text::TreeStyle;
+      return TextId::TreeStyle;
     case ListingStyle::DirectoryView:
-      return Text::DirectoryView;
+      return TextId::DirectoryView;
     case ListingStyle::FullPathList:
-      return Text::FullPathList;
+      return TextId::FullPathList;
     case ListingStyle::FindWindow:
-      return Text::FindWindowStyle;
+      return TextId::FindWindowStyle;
     case ListingStyle::PathListFile:
-      return Text::PathListStyle;
+      return TextId::PathListStyle;
   }
   return std::nullopt;
 }

@@ -34,27 +34,27 @@ inline constexpr CellLayout kAttributesLayout = {Alignment::AsItStands, 0, 6};
 /// A column of the entry lines. A text writer's name column is as wide as the others leave it.
 struct EntryColumn {
   bool FileColumns::*Shown;
-  Text Caption;
+  TextId Caption;
   void (EntryTexts::*AppendValue)(const FileRecord& entry, std::wstring& out);
   CellLayout Layout;
   std::wstring_view Element;  ///< in XML documents
   bool Escaped;               ///< in HTML and XML documents; by design the size texts alone
 };
 inline constexpr EntryColumn kNameColumn = {
-    &FileColumns::Name, Text::NameCaption, &EntryTexts::AppendName, {}, L"name", false};
+    &FileColumns::Name, TextId::NameCaption, &EntryTexts::AppendName, {}, L"name", false};
 /// All but the name, in the order in which they follow it.
 inline constexpr std::array<EntryColumn, 4> kFurtherColumns = {{
-    {&FileColumns::DosName, Text::DosNameCaption, &EntryTexts::AppendDosName, kDosNameLayout, L"dosname", false},
-    {&FileColumns::Size, Text::SizeCaption, &EntryTexts::AppendSize, kSizeLayout, L"size", true},
-    {&FileColumns::Date, Text::DateCaption, &EntryTexts::AppendDate, kDateLayout, L"date", false},
-    {&FileColumns::Attributes, Text::AttributesCaption, &EntryTexts::AppendAttributes, kAttributesLayout, L"attr",
+    {&FileColumns::DosName, TextId::DosNameCaption, &EntryTexts::AppendDosName, kDosNameLayout, L"dosname", false},
+    {&FileColumns::Size, TextId::SizeCaption, &EntryTexts::AppendSize, kSizeLayout, L"size", true},
+    {&FileColumns::Date, TextId::DateCaption, &EntryTexts::AppendDate, kDateLayout, L"date", false},
+    {&FileColumns::Attributes, TextId::AttributesCaption, &EntryTexts::AppendAttributes, kAttributesLayout, L"attr",
      false},
 }};
 
 /// A column of the directory view. All are right-aligned in kDirectoryColumnWidth characters of plain text.
 struct DirectoryColumn {
   bool DirectoryColumns::*Shown;
-  Text Caption;
+  TextId Caption;
   /// Blanks before the caption in plain text, whatever its length; nothing for a right-aligned caption.
   std::optional<std::size_t> CaptionBlanks;
   void (*AppendValue)(const DirNode& node, const Messages& texts, std::wstring& out);
@@ -65,20 +65,20 @@ extern const std::array<DirectoryColumn, 4> kDirectoryColumns;
 
 /// A column of the file lists. In plain text the folder is twice as wide as the name.
 struct FoundColumn {
-  Text Caption;
+  TextId Caption;
   std::wstring FoundItem::*Value;
   int NameWidths;             ///< its width, in widths of the name column; 0 for one with a layout of its own
   CellLayout Layout;          ///< used when NameWidths is 0
   std::wstring_view Element;  ///< in XML documents
 };
 inline constexpr std::array<FoundColumn, 4> kFoundColumns = {{
-    {Text::NameCaption, &FoundItem::Name, 1, {}, L"name"},
-    {Text::FolderCaption, &FoundItem::InFolder, 2, {}, L"path"},
-    {Text::SizeCaption, &FoundItem::Size, 0, kSizeLayout, L"size"},
-    {Text::DateCaption, &FoundItem::Modified, 0, kDateLayout, L"date"},
+    {TextId::NameCaption, &FoundItem::Name, 1, {}, L"name"},
+    {TextId::FolderCaption, &FoundItem::InFolder, 2, {}, L"path"},
+    {TextId::SizeCaption, &FoundItem::Size, 0, kSizeLayout, L"size"},
+    {TextId::DateCaption, &FoundItem::Modified, 0, kDateLayout, L"date"},
 }};
 
 /// What a listing style is called; nothing for a code that is none.
-std::optional<Text> StyleCaption(ListingStyle style);
+std::optional<TextId> StyleCaption(ListingStyle style);
 
 }  // namespace folivant

@@ -32,7 +32,7 @@ std::wstring DriveLabel(const std::wstring& root, const Messages& texts) {
   if (root.find(L":\\", 1) == 1) {
     label = platform::VolumeLabel(root.substr(0, 3));
   }
-  return label.empty() ? texts[Text::NoLabel] : ProperName(label);
+  return label.empty() ? texts[TextId::NoLabel] : ProperName(label);
 }
 
 std::wstring TotalsLine(const ListingRun& run) {

@@ -7,7 +7,7 @@
 namespace folivant {
 namespace {
 
-const std::wstring& WordFor(std::int32_t count, Text one, Text many, const Messages& texts) {
+const std::wstring& WordFor(std::int32_t count, TextId one, TextId many, const Messages& texts) {
   return texts[count == 1 ? one : many];
 }
 
@@ -20,10 +20,10 @@ std::wstring ShortDate(DateValue date) {
 
 std::wstring TotalsSentence(const RunTotals& totals, const Messages& texts) {
   std::wstring text = std::to_wstring(totals.TotalFiles) + L' ';
-  text += WordFor(totals.TotalFiles, Text::File, Text::Files, texts);
-  text += texts[Text::JoiningWord];
+  text += WordFor(totals.TotalFiles, TextId::File, TextId::Files, texts);
+  text += texts[TextId::JoiningWord];
   text += L' ' + std::to_wstring(totals.TotalDirs) + L' ';
-  text += WordFor(totals.TotalDirs, Text::DirectoryWord, Text::DirectoriesWord, texts);
+  text += WordFor(totals.TotalDirs, TextId::DirectoryWord, TextId::DirectoriesWord, texts);
   text += L", ";
   AppendSize(totals.TotalSize, texts, text);
   return text;
@@ -31,7 +31,7 @@ std::wstring TotalsSentence(const RunTotals& totals, const Messages& texts) {
 
 std::wstring FreeSpaceSentence(const platform::DiskSpace& space, const Messages& texts) {
   std::wstring text = FormatSize(Currency::FromWhole(space.TotalFree), texts);
-  text += L' ' + texts[Text::FreeOf] + L' ';
+  text += L' ' + texts[TextId::FreeOf] + L' ';
   AppendSize(Currency::FromWhole(space.Total), texts, text);
   text += L'.';
   return text;
@@ -44,7 +44,7 @@ std::wstring FilterDescription(const FilterSettings& filter, const Messages& tex
   }
   if (filter.SizeOn) {
     text += filter.SizeMin ? L'>' : L'<';
-    text += std::to_wstring(filter.FilterSize) + L' ' + texts[Text::Kilobytes] + L", ";
+    text += std::to_wstring(filter.FilterSize) + L' ' + texts[TextId::Kilobytes] + L", ";
   }
   if (filter.DateOn) {
     text += ShortDate(filter.DateMin) + L" - " + ShortDate(filter.DateMax) + L", ";

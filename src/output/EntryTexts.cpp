@@ -51,7 +51,7 @@ void EntryTexts::AppendDosName(const FileRecord& entry, std::wstring& out) {
 
 void EntryTexts::AppendSize(const FileRecord& entry, std::wstring& out) {
   if (entry.IsDirectory()) {
-    out += texts_[Text::DirectorySizeText];
+    out += texts_[TextId::DirectorySizeText];
     out += kAfterDirectorySize;
   } else {
     folivant::AppendSize(Currency::FromWhole(entry.Size), texts_, out);

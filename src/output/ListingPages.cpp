@@ -4,7 +4,7 @@
 #include "base/Lengths.h"
 #include "output/DriverServices.h"
 #include "output/NameShortening.h"
-#include "ui/PageMargins.h"
+#include "ui/Margins.h"
 
 namespace folivant {
 namespace {
@@ -106,7 +106,7 @@ void ListingPages::DrawEntryCaptions() {
 }
 
 void ListingPages::DrawDirectoryCaptions() {
-  Draw(0, run_.Texts[Text::DirectoryCaption]);
+  Draw(0, run_.Texts[TextId::DirectoryCaption]);
   for (std::size_t i = 0; i < kDirectoryColumns.size(); ++i) {
     if (run_.Format.Directories.*kDirectoryColumns[i].Shown) {
       const double begin = i == 0 ? layout_.Directories.NameWidth : layout_.Directories.Ends[i - 1];
@@ -118,10 +118,10 @@ void ListingPages::DrawDirectoryCaptions() {
 }
 
 void ListingPages::DrawFoundCaptions() {
-  Draw(0, run_.Texts[Text::NameCaption]);
-  Draw(layout_.Found.Folder, run_.Texts[Text::FolderCaption]);
-  DrawCaption(layout_.Found.SizeEnd, Alignment::Right, run_.Texts[Text::SizeCaption]);
-  Draw(layout_.Found.Date, run_.Texts[Text::DateCaption]);
+  Draw(0, run_.Texts[TextId::NameCaption]);
+  Draw(layout_.Found.Folder, run_.Texts[TextId::FolderCaption]);
+  DrawCaption(layout_.Found.SizeEnd, Alignment::Right, run_.Texts[TextId::SizeCaption]);
+  Draw(layout_.Found.Date, run_.Texts[TextId::DateCaption]);
 }
 
 void ListingPages::DrawCaption(double position, Alignment alignment, std::wstring_view caption) {

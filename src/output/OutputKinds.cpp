@@ -17,7 +17,7 @@ std::unique_ptr<ListingWriter> MakeText() {
   return MakeTextWriter(separator);
 }
 
-template <Text caption>
+template <TextId caption>
 std::wstring FromLanguage(const Messages& texts) {
   return texts[caption];
 }
@@ -32,10 +32,10 @@ std::wstring XmlCaption(const Messages&) {
 // A CSV file without an extension becomes ".txt" everywhere, and an XML file on a command line too, on purpose: scripts
 // depend on the names that they get. The printer's extensions are for a name that is given and that nothing writes.
 constexpr std::array<OutputKindRow, 6> kRows = {{
-    {OutputKind::Text, L"text", L't', L".txt", L".txt", L"*.txt", FromLanguage<Text::TypeText>, MakeText<kPlainText>},
-    {OutputKind::TabDelimited, L"tab", L'a', L".txt", L".txt", L"*.txt", FromLanguage<Text::TypeTabDelimited>,
+    {OutputKind::Text, L"text", L't', L".txt", L".txt", L"*.txt", FromLanguage<TextId::TypeText>, MakeText<kPlainText>},
+    {OutputKind::TabDelimited, L"tab", L'a', L".txt", L".txt", L"*.txt", FromLanguage<TextId::TypeTabDelimited>,
      MakeText<kTabDelimited>},
-    {OutputKind::Html, L"html", L'h', L".html", L".html", L"*.htm*", FromLanguage<Text::TypeHtml>, MakeHtmlWriter},
+    {OutputKind::Html, L"html", L'h', L".html", L".html", L"*.htm*", FromLanguage<TextId::TypeHtml>, MakeHtmlWriter},
     {OutputKind::Csv, L"csv", L'c', L".txt", L".txt", L"*.csv", CsvCaption, MakeText<kCsv>},
     {OutputKind::Xml, L"xml", L'x', L".txt", L".xml", L"*.xml", XmlCaption, MakeXmlWriter},
     {OutputKind::Printer, L"printer", L'p', L".txt", L".txt", L"", nullptr, MakePrinterWriter},

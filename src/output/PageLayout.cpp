@@ -10,7 +10,7 @@
 
 #include "base/Lengths.h"
 #include "platform/RuntimeError.h"
-#include "ui/PageMargins.h"
+#include "ui/Margins.h"
 
 namespace folivant {
 namespace {
@@ -86,7 +86,7 @@ bool HoldsColumns(const PageLayout& at, const Page& page, const ListingFormat& f
   return Reaches(std::min(width, area.Width + area.RightOffset - at.Origin), needed);
 }
 
-PageLayout Arrange(const Page& page, const PageMargins& margins, const ListingFormat& format) {
+PageLayout Arrange(const Page& page, const Margins& margins, const ListingFormat& format) {
   const platform::PageArea area = page.Area();
   PageLayout at;
   at.LineHeight = page.LineHeight();
@@ -123,7 +123,7 @@ PageLayout LayOut(const Page& page, const GeneralSettings& general, const Listin
   if (HoldsALine(asSet, page.Area(), format) && HoldsColumns(asSet, page, format)) {
     return asSet;
   }
-  const PageLayout widest = Arrange(page, PageMargins{}, format);
+  const PageLayout widest = Arrange(page, Margins{}, format);
   const bool columns = HoldsColumns(widest, page, format);
   if (columns && HoldsALine(widest, page.Area(), format)) {
     throw RuntimeError(FailedAction::UseMargins, MarginsText(general, texts), {}, 0);

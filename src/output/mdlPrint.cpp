@@ -10,7 +10,7 @@ namespace {
 
 bool MayOverwrite(const std::wstring& fileName, const Messages& texts) {
   const std::wstring question =
-      texts[Text::OverwriteFirstLine] + L"\r\n" + fileName + L"\r\n" + texts[Text::OverwriteLastLine];
+      texts[TextId::OverwriteFirstLine] + L"\r\n" + fileName + L"\r\n" + texts[TextId::OverwriteLastLine];
   return platform::ShowMessage(question, platform::BoxIcon::Information, platform::BoxButtons::YesNo,
                                platform::BoxDefault::Second) == platform::BoxAnswer::Yes;
 }

@@ -85,7 +85,7 @@ void HtmlWriter::Begin() {
 
 void HtmlWriter::BeginDirectoryView() {
   std::wstring& line = File().Line();
-  line.append(kTable).append(L"<th>").append(Run().Texts[Text::DirectoryCaption]);
+  line.append(kTable).append(L"<th>").append(Run().Texts[TextId::DirectoryCaption]);
   for (const DirectoryColumn& column : kDirectoryColumns) {
     if (Run().Format.Directories.*column.Shown) {
       line.append(L"<th>").append(Run().Texts[column.Caption]);
@@ -99,7 +99,7 @@ void HtmlWriter::WriteHeading(std::wstring_view path) {
   line += L"<a name='";
   AppendAnchor(path, {}, line);
   File().WriteLine(L"'/>");
-  line.append(L"<h4>").append(Run().Texts[Text::DirectoryHeading]).append(L" ").append(path);
+  line.append(L"<h4>").append(Run().Texts[TextId::DirectoryHeading]).append(L" ").append(path);
   File().WriteLine(L"</h4>");
   line += kTable;
   if (Run().Format.Files.*kNameColumn.Shown) {

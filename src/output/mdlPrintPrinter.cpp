@@ -65,7 +65,7 @@ void PrinterWriter::DirectoryHeading(std::wstring_view path) {
   pages_->BreakPageInBody(kLinesBelowHeading);
   pages_->EndLine();
   pages_->Select(Page::Face::Heading);
-  text_ = run_->Texts[Text::DirectoryHeading];
+  text_ = run_->Texts[TextId::DirectoryHeading];
   text_ += L' ';
   text_ += path;
   pages_->Draw(0, FitHeading(text_, pages_->Layout().HeadingWidth, pages_->Measure()));

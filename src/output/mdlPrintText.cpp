@@ -112,7 +112,7 @@ double TextWriter::DirectoryNameWidth() const {
 void TextWriter::BeginDirectoryView() {
   SetNameWidth(DirectoryNameWidth());
   std::wstring& line = File().Line();
-  line += Run().Texts[Text::DirectoryCaption];
+  line += Run().Texts[TextId::DirectoryCaption];
   line.append(CharacterMeasure::Characters(nameWidth_ - kAssumedCaption), L' ');
   EndField(0);
   for (const DirectoryColumn& column : kDirectoryColumns) {
@@ -132,7 +132,7 @@ void TextWriter::BeginDirectoryView() {
 void TextWriter::WriteHeading(std::wstring_view path) {
   SetNameWidth(EntryNameWidth());
   File().EndLine();
-  File().WriteLine(Run().Texts[Text::DirectoryHeading], L" ", path);
+  File().WriteLine(Run().Texts[TextId::DirectoryHeading], L" ", path);
   File().EndLine();
   std::wstring& line = File().Line();
   if (Run().Format.Files.*kNameColumn.Shown) {

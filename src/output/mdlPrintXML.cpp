@@ -48,7 +48,7 @@ class XmlWriter final : public FileWriter {
 void XmlWriter::Begin() {
   const platform::CalendarTime now = platform::Now();
   File().WriteLine(L"<xml><generator>Folivant 4.0</generator><options><format>");
-  if (const std::optional<Text> style = StyleCaption(Run().Format.ListingStyle)) {
+  if (const std::optional<TextId> style = StyleCaption(Run().Format.ListingStyle)) {
     File().WriteLine(Run().Texts[*style]);
   }
   File().WriteLine(L"</format><filter>");

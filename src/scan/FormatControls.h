@@ -11,16 +11,16 @@ namespace folivant {
 
 /// The option buttons of the styles. The last one is also what a style without a button is read as.
 inline constexpr Binding<ListingFormat> kStyleControls[] = {
-    {optNoSub, Text::NoSubdirectories, Chooses<&ListingFormat::ListingStyle, ListingStyle::NoSubdirectories>},
-    {optSub, Text::IncludeSubdirectories, Chooses<&ListingFormat::ListingStyle, ListingStyle::IncludeSubdirectories>},
-    {optSubTree, Text::TreeStyle, Chooses<&ListingFormat::ListingStyle, ListingStyle::TreeStyle>},
-    {optTree, Text::DirectoryView, Chooses<&ListingFormat::ListingStyle, ListingStyle::DirectoryView>},
-    {optFind, Text::FindWindowStyle, Chooses<&ListingFormat::ListingStyle, ListingStyle::FindWindow>},
-    {optFull, Text::FullPathList, Chooses<&ListingFormat::ListingStyle, ListingStyle::FullPathList>},
+    {optNoSub, TextId::NoSubdirectories, Chooses<&ListingFormat::ListingStyle, ListingStyle::NoSubdirectories>},
+    {optSub, TextId::IncludeSubdirectories, Chooses<&ListingFormat::ListingStyle, ListingStyle::IncludeSubdirectories>},
+    {optSubTree, TextId::TreeStyle, Chooses<&ListingFormat::ListingStyle, ListingStyle::TreeStyle>},
+    {optTree, TextId::DirectoryView, Chooses<&ListingFormat::ListingStyle, ListingStyle::DirectoryView>},
+    {optFind, TextId::FindWindowStyle, Chooses<&ListingFormat::ListingStyle, ListingStyle::FindWindow>},
+    {optFull, TextId::FullPathList, Chooses<&ListingFormat::ListingStyle, ListingStyle::FullPathList>},
 };
 inline constexpr Binding<NoRecord> kFormatControls[] = {
-    {kWindow, Text::FormatTitle}, {fraStyle, Text::Style}, {Command1, Text::Columns}, {cmdOK, Text::Ok},
-    {cmdCancel, Text::Cancel},    {cmdHelp, Text::Help},
+    {kWindow, TextId::FormatTitle}, {fraStyle, TextId::Style}, {Command1, TextId::Columns}, {cmdOK, TextId::Ok},
+    {cmdCancel, TextId::Cancel},    {cmdHelp, TextId::Help},
 };
 
 /// The number of the picture of a style; nothing for one that has no button.

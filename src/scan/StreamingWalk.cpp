@@ -45,7 +45,7 @@ void StreamingWalk::SortEntries() {
 
 void StreamingWalk::RaiseEvent(const Frame& frame) {
   const Kept& kept = kept_.back();
-  summary_ = std::to_wstring(kept.Count) + L' ' + Run().Texts[kept.Count == 1 ? Text::File : Text::Files] + L", ";
+  summary_ = std::to_wstring(kept.Count) + L' ' + Run().Texts[kept.Count == 1 ? TextId::File : TextId::Files] + L", ";
   AppendSize(kept.Size, Run().Texts, summary_);
   const ListingStyle style = Run().Format.ListingStyle;
   const DirectoryListing listing{.Path = Path().Shown(),

@@ -13,9 +13,9 @@ namespace folivant {
 namespace {
 
 constexpr Binding<NoRecord> kControls[] = {
-    {kWindow, Text::ProgressTitle},
-    {lblProgress, Text::Scanning},
-    {cmdCancel, Text::Cancel},
+    {kWindow, TextId::ProgressTitle},
+    {lblProgress, TextId::Scanning},
+    {cmdCancel, TextId::Cancel},
 };
 
 constexpr UINT_PTR kTimer1 = 1;
@@ -75,8 +75,8 @@ class frmProgress final : public frmBase, public Progress, private TextMeasure {
   }
 
   void cmdCancel_Click() {
-    const auto answer =
-        platform::ShowMessage(Texts()[Text::CancelQuestion], platform::BoxIcon::Question, platform::BoxButtons::YesNo);
+    const auto answer = platform::ShowMessage(Texts()[TextId::CancelQuestion], platform::BoxIcon::Question,
+                                              platform::BoxButtons::YesNo);
     cancelled_ = cancelled_ || answer == platform::BoxAnswer::Yes;
   }
 

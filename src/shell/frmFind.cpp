@@ -4,10 +4,10 @@ namespace folivant {
 namespace {
 
 constexpr Binding<NoRecord> kControls[] = {
-    {kWindow, Text::FindTitle},
-    {lstFind, Text::SelectFindWindow},  // goes to its label
-    {cmdOK, Text::Ok},
-    {cmdCancel, Text::Cancel},
+    {kWindow, TextId::FindTitle},
+    {lstFind, TextId::SelectFindWindow},  // goes to its label
+    {cmdOK, TextId::Ok},
+    {cmdCancel, TextId::Cancel},
 };
 
 // The wait for the user looks at events this often, or at once when one comes.

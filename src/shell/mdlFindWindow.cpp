@@ -15,7 +15,7 @@ namespace {
 void BeginChoice(FindChoice& choice, FindDialog& dialog, const Messages& texts) {
   choice.FindCandidates();
   if (choice.Candidates.empty()) {
-    platform::ShowMessage(texts[Text::NoFindWindow], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    platform::ShowMessage(texts[TextId::NoFindWindow], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
     choice.Cancel();
   } else if (choice.Candidates.size() == 1) {
     choice.Choose(0);

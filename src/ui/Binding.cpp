@@ -21,8 +21,8 @@ std::wstring FieldNameOf(const Controls& controls, int control) {
 std::wstring ProblemOf(const Controls& controls, const FieldError& error, const Messages& texts) {
   const std::wstring field = FieldNameOf(controls, error.Control());
   const std::optional<ValueLimits>& limits = error.Limits();
-  return limits ? WithPlaceholders(texts[Text::NumberOutOfRange], field, limits->Lowest, limits->Highest)
-                : WithPlaceholders(texts[Text::NotANumber], field);
+  return limits ? WithPlaceholders(texts[TextId::NumberOutOfRange], field, limits->Lowest, limits->Highest)
+                : WithPlaceholders(texts[TextId::NotANumber], field);
 }
 
 void SetCaption(Controls& controls, int control, const std::wstring& caption) {

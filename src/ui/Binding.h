@@ -14,7 +14,7 @@ namespace folivant {
 
 using platform::kWindow;
 
-inline constexpr Text kNoCaption = static_cast<Text>(-1);
+inline constexpr TextId kNoCaption = static_cast<TextId>(-1);
 /// The last row of a group of option buttons may stand for "none of them".
 inline constexpr int kNoControl = -1;
 
@@ -24,7 +24,7 @@ inline constexpr int kNoControl = -1;
 template <class Record>
 struct Binding {
   int Control;
-  Text Caption = kNoCaption;
+  TextId Caption = kNoCaption;
   Field<Record> Edits = {};
 };
 

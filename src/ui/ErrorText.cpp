@@ -9,34 +9,34 @@
 namespace folivant {
 namespace {
 
-Text TextOf(FailedAction action) {
+TextId TextOf(FailedAction action) {
   switch (action) {
     case FailedAction::CreateFile:
-      return Text::CannotCreateFile;
+      return TextId::CannotCreateFile;
     case FailedAction::ReadFile:
-      return Text::CannotReadFile;
+      return TextId::CannotReadFile;
     case FailedAction::WriteFile:
-      return Text::CannotWriteFile;
+      return TextId::CannotWriteFile;
     case FailedAction::WriteSetting:
-      return Text::CannotWriteSetting;
+      return TextId::CannotWriteSetting;
     case FailedAction::Print:
-      return Text::CannotPrint;
+      return TextId::CannotPrint;
     case FailedAction::StartProgram:
-      return Text::CannotStartProgram;
+      return TextId::CannotStartProgram;
     case FailedAction::UseMargins:
-      return Text::MarginsLeaveNoRoom;
+      return TextId::MarginsLeaveNoRoom;
     case FailedAction::UseFont:
-      return Text::FontDoesNotFit;
+      return TextId::FontDoesNotFit;
     case FailedAction::ListPaths:
-      return Text::NoPathInList;
+      return TextId::NoPathInList;
     case FailedAction::ReadLargeFile:
-      return Text::FileTooLarge;
+      return TextId::FileTooLarge;
     case FailedAction::ReadWindow:
-      return Text::CannotReadWindow;
+      return TextId::CannotReadWindow;
     case FailedAction::OpenWindow:
       break;
   }
-  return Text::CannotOpenWindow;
+  return TextId::CannotOpenWindow;
 }
 
 /// The system's words come with a line break at their end.
@@ -73,9 +73,9 @@ void ShowError(const std::exception& error, const Messages& texts) {
   if (known != nullptr) {
     Show(ErrorText(*known, texts));
   } else if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
-    Show(texts[Text::OutOfMemory]);  // as it stands in the table: there may be no memory for a copy
+    Show(texts[TextId::OutOfMemory]);  // as it stands in the table: there may be no memory for a copy
   } else {
-    Show(texts[Text::UnexpectedError]);
+    Show(texts[TextId::UnexpectedError]);
   }
 }
 

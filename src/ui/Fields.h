@@ -138,7 +138,7 @@ inline constexpr auto Means = Field<decltype(Value)>{.Group = &groupMark<nullptr
 /// An item of a list, and the value that the field has while it is selected.
 template <class Value>
 struct ListItem {
-  Text Name;
+  TextId Name;
   Value Meaning;
 };
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-#include "ui/Text.h"
+#include "ui/TextId.h"
 
 namespace folivant {
 
@@ -13,7 +13,7 @@ class Messages {
  public:
   static constexpr std::size_t kCount = 301;  ///< numbers 0 to 300
 
-  const std::wstring& operator[](Text number) const { return texts_[static_cast<std::size_t>(number)]; }
+  const std::wstring& operator[](TextId number) const { return texts_[static_cast<std::size_t>(number)]; }
   /// For windows whose captions are consecutive numbers.
   const std::wstring& operator[](std::size_t number) const { return texts_.at(number); }
   /// Whether a language has been loaded, to its end: texts are set in the order of their numbers.

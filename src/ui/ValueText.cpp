@@ -11,8 +11,8 @@
 namespace folivant {
 namespace {
 
-constexpr std::array<Text, kSizeUnits> kUnits = {Text::UnitBytes, Text::UnitKilobytes, Text::UnitMegabytes,
-                                                 Text::UnitGigabytes, Text::UnitTerabytes};
+constexpr std::array<TextId, kSizeUnits> kUnits = {TextId::UnitBytes, TextId::UnitKilobytes, TextId::UnitMegabytes,
+                                                   TextId::UnitGigabytes, TextId::UnitTerabytes};
 constexpr std::size_t kUnitWidth = 2;
 
 /// At least `digits` digits, with leading zeros; the last `digits` of a longer number.

@@ -11,9 +11,8 @@
 #include "platform/Printers.h"
 #include "platform/RuntimeError.h"
 #include "platform/win32/Shell.h"
-#include "ui/MarginCheck.h"
+#include "ui/Margins.h"
 #include "ui/OptionsControls.h"
-#include "ui/PageMargins.h"
 #include "ui/PrinterControls.h"
 #include "ui/ValueText.h"
 #include "ui/frmLanguageList.h"
@@ -24,18 +23,19 @@ namespace folivant {
 namespace {
 
 constexpr PageDesign kPages[] = {
-    {dlgPageGeneral, Text::PageGeneral},           {dlgPagePrinter, Text::PagePrinter},   {dlgPageFont, Text::PageFont},
-    {dlgPageHeaderFooter, Text::PageHeaderFooter}, {dlgPageLanguage, Text::PageLanguage},
+    {dlgPageGeneral, TextId::PageGeneral},   {dlgPagePrinter, TextId::PagePrinter},
+    {dlgPageFont, TextId::PageFont},         {dlgPageHeaderFooter, TextId::PageHeaderFooter},
+    {dlgPageLanguage, TextId::PageLanguage},
 };
 
 struct Legend {
   const wchar_t* Code;  // the blanks line the texts up
-  Text Meaning;
+  TextId Meaning;
 };
 constexpr Legend kLegend[] = {
-    {L"%p  ", Text::LegendPath},   {L"%l   ", Text::LegendLabel}, {L"%f   ", Text::LegendNamePattern},
-    {L"%g  ", Text::LegendFilter}, {L"%d  ", Text::LegendDate},   {L"%t   ", Text::LegendTime},
-    {L"%n  ", Text::LegendPage},
+    {L"%p  ", TextId::LegendPath},   {L"%l   ", TextId::LegendLabel}, {L"%f   ", TextId::LegendNamePattern},
+    {L"%g  ", TextId::LegendFilter}, {L"%d  ", TextId::LegendDate},   {L"%t   ", TextId::LegendTime},
+    {L"%n  ", TextId::LegendPage},
 };
 
 std::wstring FontText(const std::wstring& name, int points) {
@@ -72,7 +72,7 @@ class frmOptions final : public frmPages {
   void cmdFontHF_Click();
   void cmdOK_Click();
 
-  bool CheckMargins(const PageMargins& device);
+  bool CheckMargins(const Margins& minimum);
   bool CheckRoom(std::unique_ptr<platform::PageSurface> surface, const GeneralSettings& general);
   Margins EnteredMargins() const;
   void CloseKeepingTab(int result);
@@ -130,7 +130,7 @@ void frmOptions::SetHandlers() {
 void frmOptions::SetUnitLabels() {
   general_.Inches = Checked(optInches);
   for (int i = 0; i < 4; ++i) {
-    SetText(lblUnit + i, Texts()[general_.Inches ? Text::UnitInches : Text::UnitMillimeter]);
+    SetText(lblUnit + i, Texts()[general_.Inches ? TextId::UnitInches : TextId::UnitMillimeter]);
   }
 }
 
@@ -144,7 +144,7 @@ void frmOptions::ShowFonts() {
 
 void frmOptions::cmdBrowse_Click() {
   platform::FileDialog dialog;
-  dialog.Types = Texts()[Text::ProgramFiles] + L" (*.exe)|*.exe|" + Texts()[Text::AllFiles] + L"|*.*";
+  dialog.Types = Texts()[TextId::ProgramFiles] + L" (*.exe)|*.exe|" + Texts()[TextId::AllFiles] + L"|*.*";
   if (platform::AskForOpenName(Window(), dialog)) {
     SetText(txtViewer, dialog.FileName);
   }
@@ -152,7 +152,7 @@ void frmOptions::cmdBrowse_Click() {
 
 void frmOptions::cmdPrinter_Click() {
   if (platform::PrinterNames().empty()) {
-    platform::ShowMessage(Texts()[Text::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+    platform::ShowMessage(Texts()[TextId::NoPrinter], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
   } else if (ShowPrinterDialog(*this, Context(), printer_)) {
     SetText(lblPrinter, ShownPrinterName(printer_, Texts()));
   }
@@ -184,23 +184,19 @@ Margins frmOptions::EnteredMargins() const {
 }
 
 /// `device` are the printer's minimum margins. False when the dialog has to stay open.
-bool frmOptions::CheckMargins(const PageMargins& device) {
-  const Margins minimum{.Left = static_cast<float>(device.Left),
-                        .Top = static_cast<float>(device.Top),
-                        .Right = static_cast<float>(device.Right),
-                        .Bottom = static_cast<float>(device.Bottom)};
+bool frmOptions::CheckMargins(const Margins& minimum) {
   const Margins entered = EnteredMargins();
   if (MarginsSuffice(entered, minimum)) {
     return true;
   }
-  const auto answer = platform::ShowMessage(Texts()[Text::MarginsTooSmall] + L"\r\n" + Texts()[Text::RaiseMargins],
+  const auto answer = platform::ShowMessage(Texts()[TextId::MarginsTooSmall] + L"\r\n" + Texts()[TextId::RaiseMargins],
                                             platform::BoxIcon::Question, platform::BoxButtons::YesNoCancel);
   if (answer == platform::BoxAnswer::Yes) {
     const Margins raised = RaisedMargins(entered, minimum, Checked(optInches));
-    SetText(txtLeft, SingleText(raised.Left));
-    SetText(txtTop, SingleText(raised.Top));
-    SetText(txtRight, SingleText(raised.Right));
-    SetText(txtBottom, SingleText(raised.Bottom));
+    SetText(txtLeft, SingleText(static_cast<float>(raised.Left)));
+    SetText(txtTop, SingleText(static_cast<float>(raised.Top)));
+    SetText(txtRight, SingleText(static_cast<float>(raised.Right)));
+    SetText(txtBottom, SingleText(static_cast<float>(raised.Bottom)));
   }
   return answer != platform::BoxAnswer::Cancel;
 }
@@ -225,7 +221,7 @@ bool frmOptions::CheckRoom(std::unique_ptr<platform::PageSurface> surface, const
 
 void frmOptions::cmdOK_Click() {
   std::unique_ptr<platform::PageSurface> surface = SurfaceOf(printer_, Checked(optPort));
-  if (!CheckMargins(surface ? MinimumMargins(surface->Area(), Checked(optInches)) : PageMargins{})) {
+  if (!CheckMargins(surface ? MinimumMargins(surface->Area(), Checked(optInches)) : Margins{})) {
     return;
   }
   GeneralSettings general = general_;

@@ -9,8 +9,8 @@
 namespace folivant {
 
 struct PageDesign {
-  int Template;  ///< the number of a dialog template
-  Text Caption;  ///< of its tab
+  int Template;    ///< the number of a dialog template
+  TextId Caption;  ///< of its tab
 };
 
 class frmPages : public frmBase {

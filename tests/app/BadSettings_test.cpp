@@ -8,12 +8,12 @@ namespace {
 class BadSettingsTest : public testing::Test {
  protected:
   BadSettingsTest() {
-    Set(Text::BadSetting, L"%1: %2 is %3.");
-    Set(Text::ValidValues, L"From %1 to %2.");
-    Set(Text::BadSettings, L"In %1:");
-    Set(Text::MoreBadSettings, L"and %1 more");
+    Set(TextId::BadSetting, L"%1: %2 is %3.");
+    Set(TextId::ValidValues, L"From %1 to %2.");
+    Set(TextId::BadSettings, L"In %1:");
+    Set(TextId::MoreBadSettings, L"and %1 more");
   }
-  void Set(Text number, const wchar_t* text) { Texts.Set(static_cast<std::size_t>(number), text); }
+  void Set(TextId number, const wchar_t* text) { Texts.Set(static_cast<std::size_t>(number), text); }
 
   Messages Texts;
 };

@@ -13,8 +13,8 @@ using fakes::Fake;
 class ChosenPrinter : public testing::Test {
  protected:
   ChosenPrinter() {
-    texts.Set(static_cast<std::size_t>(Text::NoPrinter), L"No printer is installed.");
-    texts.Set(static_cast<std::size_t>(Text::NoPrinterChosen), L"No printer is chosen.");
+    texts.Set(static_cast<std::size_t>(TextId::NoPrinter), L"No printer is installed.");
+    texts.Set(static_cast<std::size_t>(TextId::NoPrinterChosen), L"No printer is chosen.");
   }
 
   PrinterSettings settings;

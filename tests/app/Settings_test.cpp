@@ -494,7 +494,7 @@ TEST(Settings, ABadOlderKeyIsToldByItsOwnName) {
 }
 
 TEST(Settings, ABadValueOfAFilterFileIsReportedWithTheFile) {
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::BadSetting), L"%1|%2|%3");
   FilterFile("SubLevel=deep\r\n");
   LoadFilterFile(kFilterFile);
   ASSERT_EQ(Fake().Messages.size(), 1u);
@@ -503,7 +503,7 @@ TEST(Settings, ABadValueOfAFilterFileIsReportedWithTheFile) {
 }
 
 TEST(Settings, BadValuesAreReportedInOneList) {
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::BadSettings), L"Bad in %1:");
   FilterFile("SubLevel=deep\r\nOrderBy=" + std::string(61, 'x') + "\r\nFilter=\r\nFontSize=" + std::string(60, 'y') +
              "\r\n");
   LoadFilterFile(kFilterFile);
@@ -515,8 +515,8 @@ TEST(Settings, BadValuesAreReportedInOneList) {
 }
 
 TEST(Settings, AVeryLongListOfBadValuesIsCut) {
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::MoreBadSettings), L"and %1 more");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::BadSettings), L"Bad in %1:");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::MoreBadSettings), L"and %1 more");
   const std::string ten =
       "MarginLeft=x\r\nMarginRight=x\r\nMarginTop=x\r\nMarginBottom=x\r\nPortrait=x\r\nFontSize=x\r\nFont80HF=x\r\n"
       "FontSizeHF=x\r\nFilter=x\r\nFilterSizeMin=x\r\n";
@@ -530,7 +530,7 @@ TEST(Settings, AVeryLongListOfBadValuesIsCut) {
 }
 
 TEST(Settings, BadValuesOfTheStoreAreListedBelowTheirPlaces) {
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSettings), L"Bad in %1:");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::BadSettings), L"Bad in %1:");
   Fake().Store[{L"Settings", L"TextWidth"}] = L"wide";
   ReportBadSettings(LoadWith(L"Format", L"SubLevel", L"deep"));
   ASSERT_EQ(Fake().Messages.size(), 1u);
@@ -545,7 +545,7 @@ TEST(Settings, NothingIsReportedWhereNothingIsBad) {
 }
 
 TEST(Settings, AFileWithoutSettingsIsLoadedOnlyIfTheUserWantsTheDefaults) {
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::LoadDefaults), L"Nothing in %1. Defaults?");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::LoadDefaults), L"Nothing in %1. Defaults?");
   for (const char* content : {"", "Just a letter.\r\n", "[Other]\r\nSubLevel=3\r\n", "SubLevel=3\r\n"}) {
     Tree().File(kFilterFile, content);
     Format.SubLevel = 7;
@@ -751,8 +751,8 @@ TEST(Settings, ADayThatNoPickerShowsIsToldWithTheDaysThatThereAre) {
 }
 
 TEST(Settings, ARangeStandsBelowTheMessageAboutItsSetting) {
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::BadSetting), L"%1|%2|%3");
-  mdlVars::Texts.Set(static_cast<std::size_t>(Text::ValidValues), L"from %1 to %2");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::BadSetting), L"%1|%2|%3");
+  mdlVars::Texts.Set(static_cast<std::size_t>(TextId::ValidValues), L"from %1 to %2");
   ReportBadSettings(LoadWith(L"Settings", L"TextWidth", L"12000"));
   ASSERT_EQ(Fake().Messages.size(), 1U);
   EXPECT_EQ(Fake().Messages[0].Text,

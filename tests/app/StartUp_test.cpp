@@ -433,7 +433,7 @@ TEST_F(StartUp, TheLanguageOfTheSettingsIsLoaded) {
   Tree().File(L"C:\\Program Files\\Folivant\\dutch.ini", "[Messages]\r\n100=Geen printer.\r\n");
   Store(L"Language", L"dutch.ini");
   Start(L"");
-  EXPECT_EQ(mdlVars::Texts[Text::NoPrinter], L"Geen printer.");
+  EXPECT_EQ(mdlVars::Texts[TextId::NoPrinter], L"Geen printer.");
   EXPECT_EQ(mdlVars::HelpFile, L"C:\\Program Files\\Folivant\\folvnt40.hlp");
   EXPECT_EQ(mdlVars::ManualFile, L"C:\\Program Files\\Folivant\\help\\english.html") << "there is no Dutch one";
 }

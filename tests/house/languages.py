@@ -22,7 +22,7 @@ BREAKING = re.compile(r' [:;?!»]|« |\d %')
 
 
 def numbers():
-    names = dict(re.findall(r'^\s*(\w+) = (\d+),', (ROOT / 'src/ui/Text.h').read_text(), re.M))
+    names = dict(re.findall(r'^\s*(\w+) = (\d+),', (ROOT / 'src/ui/TextId.h').read_text(), re.M))
     return {name: int(number) for name, number in names.items()}
 
 
@@ -43,7 +43,7 @@ def windows():
         window = script.stem.removeprefix('frm')
         sources = [*ROOT.glob(f'src/*/{window}Controls.h'), *ROOT.glob(f'src/*/{script.stem}.cpp')]
         code = ''.join(source.read_text() for source in sources)
-        captions = dict(re.findall(r'\{([\w +]+), Text::(\w+)', code))
+        captions = dict(re.findall(r'\{([\w +]+), TextId::(\w+)', code))
         dialogs = {}
         for name, body in re.findall(r'^(\w+) DIALOGEX(.*?)^END', script.read_text(), re.M | re.S):
             dialogs[name] = [text for control, text in captions.items()

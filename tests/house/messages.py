@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """docs/messages.md lists every message number with its English text and the sources that use it. It is written from
-src/ui/Text.h and lang/english.ini; without --write it is only compared. No number may lie beyond the table that holds the
+src/ui/TextId.h and lang/english.ini; without --write it is only compared. No number may lie beyond the table that holds the
 texts: reading there would end the program.
 
     tests/house/messages.py REPOSITORY [--write]
@@ -13,7 +13,7 @@ ROOT = Path(sys.argv[1])
 PAGE = ROOT / 'docs/messages.md'
 HEAD = '''# Messages
 
-Every text that the program shows has a number. `src/ui/Text.h` names the numbers, each file in `lang/` holds the texts of one
+Every text that the program shows has a number. `src/ui/TextId.h` names the numbers, each file in `lang/` holds the texts of one
 language, and this page lists the numbers with the English texts and the sources that use them. It is made by
 `tests/house/messages.py . --write`, and a test says when it is stale.
 
@@ -31,8 +31,8 @@ def english():
 def uses():
     found = {}
     for source in sorted((ROOT / 'src').rglob('*')):
-        if source.suffix in ('.cpp', '.h') and source.name != 'Text.h':
-            for name in set(re.findall(r'\bText::(\w+)', source.read_text(encoding='utf-8'))):
+        if source.suffix in ('.cpp', '.h') and source.name != 'TextId.h':
+            for name in set(re.findall(r'\bTextId::(\w+)', source.read_text(encoding='utf-8'))):
                 found.setdefault(name, []).append(source.relative_to(ROOT / 'src').as_posix())
     return found
 
@@ -44,7 +44,7 @@ def cell(text):
 def page():
     texts, used, unused = english(), uses(), []
     rows = [HEAD]
-    body = (ROOT / 'src/ui/Text.h').read_text(encoding='utf-8').split('enum class Text')[1]
+    body = (ROOT / 'src/ui/TextId.h').read_text(encoding='utf-8').split('enum class TextId')[1]
     for line in body.splitlines():
         section = re.match(r'\s*// (.*)', line)
         entry = re.match(r'\s*(\w+) = (\d+),(?:\s*///< (.*))?', line)
@@ -61,7 +61,7 @@ def page():
 
 def numbers_beyond_the_table():
     size = int(re.search(r'kCount = (\d+);', (ROOT / 'src/ui/Messages.h').read_text(encoding='utf-8'))[1])
-    named = re.findall(r'^  (\w+) = (\d+),', (ROOT / 'src/ui/Text.h').read_text(encoding='utf-8'), re.M)
+    named = re.findall(r'^  (\w+) = (\d+),', (ROOT / 'src/ui/TextId.h').read_text(encoding='utf-8'), re.M)
     return [f'{number} ({name}): numbers end at {size - 1}' for name, number in named if int(number) >= size]
 
 

@@ -38,13 +38,13 @@ TEST_P(LanguageCaptions, FitTheColumnsOfADirectoryViewOnPaper) {
       Format.Directories = {(shown & 1) != 0, (shown & 2) != 0, (shown & 4) != 0, (shown & 8) != 0};
       printer.SetSheet(300, 2479, 3508);
       Begin(ListingStyle::DirectoryView);
-      std::wstring expected = Texts[Text::DirectoryCaption];
+      std::wstring expected = Texts[TextId::DirectoryCaption];
       for (const DirectoryColumn& column : kDirectoryColumns) {
         if (Format.Directories.*column.Shown) {
           expected += L"|" + Texts[column.Caption];
         }
       }
-      EXPECT_EQ(printer.Line(1, printer.Find(1, Texts[Text::DirectoryCaption]).Y), expected) << points << " points";
+      EXPECT_EQ(printer.Line(1, printer.Find(1, Texts[TextId::DirectoryCaption]).Y), expected) << points << " points";
       writer->AbortListing();
     }
   }

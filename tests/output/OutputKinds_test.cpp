@@ -33,9 +33,9 @@ const ExpectedRow kExpected[] = {
 
 Messages TypeNames() {
   Messages texts;
-  texts.Set(static_cast<std::size_t>(Text::TypeText), L"Plain");
-  texts.Set(static_cast<std::size_t>(Text::TypeTabDelimited), L"With tabs");
-  texts.Set(static_cast<std::size_t>(Text::TypeHtml), L"Page");
+  texts.Set(static_cast<std::size_t>(TextId::TypeText), L"Plain");
+  texts.Set(static_cast<std::size_t>(TextId::TypeTabDelimited), L"With tabs");
+  texts.Set(static_cast<std::size_t>(TextId::TypeHtml), L"Page");
   return texts;
 }
 

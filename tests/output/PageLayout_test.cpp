@@ -12,11 +12,11 @@ namespace {
 class Room : public PageWriter {
  protected:
   Room() {
-    const std::pair<Text, const wchar_t*> rows[] = {{Text::MarginLeft, L"&Left:"},
-                                                    {Text::MarginTop, L"&Top:"},
-                                                    {Text::MarginRight, L"&Right:"},
-                                                    {Text::MarginBottom, L"&Bottom:"},
-                                                    {Text::UnitInches, L"in"}};
+    const std::pair<TextId, const wchar_t*> rows[] = {{TextId::MarginLeft, L"&Left:"},
+                                                      {TextId::MarginTop, L"&Top:"},
+                                                      {TextId::MarginRight, L"&Right:"},
+                                                      {TextId::MarginBottom, L"&Bottom:"},
+                                                      {TextId::UnitInches, L"in"}};
     for (const auto& [number, text] : rows) {
       Texts.Set(static_cast<std::size_t>(number), text);
     }

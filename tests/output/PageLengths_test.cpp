@@ -92,10 +92,10 @@ TEST_F(EqualLengths, ThereAreManyPapers) {
 
 TEST_F(EqualLengths, ACaptionThatFillsItsColumnStaysWhole) {
   // A number's column has nine characters and a size's ten, of which one is the blank before the caption.
-  Texts.Set(static_cast<std::size_t>(Text::FilesCaption), L"Number 8");
-  Texts.Set(static_cast<std::size_t>(Text::DirectorySizeCaption), L"Size of 9");
-  Texts.Set(static_cast<std::size_t>(Text::TotalFilesCaption), L"T. files");
-  Texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Sum of 10.");
+  Texts.Set(static_cast<std::size_t>(TextId::FilesCaption), L"Number 8");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectorySizeCaption), L"Size of 9");
+  Texts.Set(static_cast<std::size_t>(TextId::TotalFilesCaption), L"T. files");
+  Texts.Set(static_cast<std::size_t>(TextId::TotalSizeCaption), L"Sum of 10.");
   EXPECT_EQ(Differences(L"Where|Number 8|Size of 9|T. files|Sum of...", [this] { Begin(ListingStyle::DirectoryView); }),
             0);
 }

@@ -198,7 +198,7 @@ TEST_F(PageWriter, DirectoryViewNumbersEndAtTheirColumns) {
 
 TEST_F(PageWriter, DirectoryViewCaptionsNeverRunIntoEachOther) {
   // A column of 1,020 has room for 960 beside a blank: five of "Total size", which is 1,140 wide, and the dots.
-  Texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Total size");
+  Texts.Set(static_cast<std::size_t>(TextId::TotalSizeCaption), L"Total size");
   Begin(ListingStyle::DirectoryView);
   EXPECT_EQ(printer.Line(1, kCaptions), L"Where|Files|Bytes|All|Total...");
   EXPECT_EQ(printer.At(1, kOrigin + 9120 - 960, kCaptions), L"Total...");

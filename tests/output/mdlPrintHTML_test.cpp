@@ -131,8 +131,8 @@ TEST_F(HtmlPage, LinksNothingWithoutTheNameColumn) {
 
 TEST_F(HtmlPage, EscapesSizesAndNothingElse) {
   Style(ListingStyle::NoSubdirectories);
-  Texts.Set(static_cast<std::size_t>(Text::DirectorySizeText), L"<s>&\"'&lt;");
-  Texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"<&");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectorySizeText), L"<s>&\"'&lt;");
+  Texts.Set(static_cast<std::size_t>(TextId::UnitBytes), L"<&");
   DatePattern = L"<t>&";
   FileRecord file = File(L"<n>&");
   file.AlternateName = L"<D>&";
@@ -149,7 +149,7 @@ TEST_F(HtmlPage, EscapesSizesAndNothingElse) {
 TEST_F(HtmlPage, LeavesTheSizesOfTheDirectoryViewAsTheyAre) {
   Style(ListingStyle::DirectoryView);
   Format.Directories = {.Size = true};
-  Texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"<&");
+  Texts.Set(static_cast<std::size_t>(TextId::UnitBytes), L"<&");
   writer_->BeginListing(Run);
   writer_->BeginDirectoryView();
   writer_->DirectoryViewEntry({L"<A>&", L"C:\\", 0, 0, Currency::FromWhole(5), 0, {}});

@@ -63,7 +63,7 @@ TEST_F(PlainText, CountsWidthsBelowZeroAsZero) {
 
 TEST_F(PlainText, CutsALongSizeFromTheLeft) {
   Format.Files = {.Size = true};
-  Texts.Set(static_cast<std::size_t>(Text::DirectorySizeText), L"<DIRECTORY>");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectorySizeText), L"<DIRECTORY>");
   EXPECT_EQ(EntryLine(*plain_, Directory(L"a")), "  TORY>   ");
   fakes::Fake().Locale.ThousandsSeparator = L"::";
   EXPECT_EQ(EntryLine(*plain_, File(L"a")), "  ::234 b ") << "9 characters";
@@ -113,11 +113,11 @@ TEST_F(PlainText, DoesNotIndentOutsideATree) {
 
 TEST_F(PlainText, HasAFixedGapBeforeTheFirstViewCaptions) {
   Style(ListingStyle::DirectoryView);
-  Texts.Set(static_cast<std::size_t>(Text::DirectoryCaption), L"Verzeichnis");
-  Texts.Set(static_cast<std::size_t>(Text::FilesCaption), L"Dateien");
-  Texts.Set(static_cast<std::size_t>(Text::DirectorySizeCaption), L"Byte");
-  Texts.Set(static_cast<std::size_t>(Text::TotalFilesCaption), L"Alle");
-  Texts.Set(static_cast<std::size_t>(Text::TotalSizeCaption), L"Gesamtgroesse");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectoryCaption), L"Verzeichnis");
+  Texts.Set(static_cast<std::size_t>(TextId::FilesCaption), L"Dateien");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectorySizeCaption), L"Byte");
+  Texts.Set(static_cast<std::size_t>(TextId::TotalFilesCaption), L"Alle");
+  Texts.Set(static_cast<std::size_t>(TextId::TotalSizeCaption), L"Gesamtgroesse");
   General.TextWidth = 55;
   plain_->BeginListing(Run);
   plain_->BeginDirectoryView();
@@ -199,10 +199,10 @@ TEST_F(PlainText, KeepsAnEmptyFieldsSeparator) {
 
 TEST_F(PlainText, KeepsTheBlanksInsideAField) {
   General.Header = L" h h ";
-  Texts.Set(static_cast<std::size_t>(Text::DirectoryCaption), L"d d");
-  Texts.Set(static_cast<std::size_t>(Text::FilesCaption), L"f f");
-  Texts.Set(static_cast<std::size_t>(Text::NameCaption), L"n n");
-  Texts.Set(static_cast<std::size_t>(Text::SizeCaption), L"s s");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectoryCaption), L"d d");
+  Texts.Set(static_cast<std::size_t>(TextId::FilesCaption), L"f f");
+  Texts.Set(static_cast<std::size_t>(TextId::NameCaption), L"n n");
+  Texts.Set(static_cast<std::size_t>(TextId::SizeCaption), L"s s");
   Style(ListingStyle::DirectoryView);
   Format.Directories = {.Files = true};
   csv_->BeginListing(Run);

@@ -87,8 +87,8 @@ TEST_F(XmlDocument, WritesDirectoriesAsFilesOutsideATree) {
 TEST_F(XmlDocument, EscapesSizesAndNothingElse) {
   Style(ListingStyle::NoSubdirectories);
   Format.Files = {true, true, true, true, true};
-  Texts.Set(static_cast<std::size_t>(Text::DirectorySizeText), L"<s>&\"'");
-  Texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"<&");
+  Texts.Set(static_cast<std::size_t>(TextId::DirectorySizeText), L"<s>&\"'");
+  Texts.Set(static_cast<std::size_t>(TextId::UnitBytes), L"<&");
   DatePattern = L"<t>&";
   FileRecord file = File(L"<n>&");
   file.AlternateName = L"<D>&";
@@ -156,7 +156,7 @@ TEST_F(XmlDocument, NestsTheDirectoryViewUnderItsRoot) {
 TEST_F(XmlDocument, LeavesTheSizesOfTheDirectoryViewAsTheyAre) {
   Style(ListingStyle::DirectoryView);
   Format.Directories = {.Size = true};
-  Texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"<&");
+  Texts.Set(static_cast<std::size_t>(TextId::UnitBytes), L"<&");
   writer_->BeginListing(Run);
   writer_->BeginDirectoryView();
   writer_->DirectoryViewEntry({L"A", L"C:\\<A>&", 0, 0, Currency::FromWhole(5), 0, {}});

@@ -117,10 +117,10 @@ class ListingTest : public testing::Test, protected fakes::RunRecords {
     Filter.FilterName = L"*.*";
     Filter.Attributes = {DoNotCare, DoNotCare, DoNotCare, DoNotCare, DoNotCare};
     General.DateFormat = 5;
-    const std::pair<Text, const wchar_t*> texts[] = {
-        {Text::File, L"file"},        {Text::Files, L"files"},      {Text::DirectorySizeText, L"<DIR>"},
-        {Text::UnitBytes, L"b "},     {Text::UnitKilobytes, L"kb"}, {Text::UnitMegabytes, L"Mb"},
-        {Text::UnitGigabytes, L"Gb"}, {Text::UnitTerabytes, L"Tb"}};
+    const std::pair<TextId, const wchar_t*> texts[] = {
+        {TextId::File, L"file"},        {TextId::Files, L"files"},      {TextId::DirectorySizeText, L"<DIR>"},
+        {TextId::UnitBytes, L"b "},     {TextId::UnitKilobytes, L"kb"}, {TextId::UnitMegabytes, L"Mb"},
+        {TextId::UnitGigabytes, L"Gb"}, {TextId::UnitTerabytes, L"Tb"}};
     for (const auto& [number, text] : texts) {
       Texts.Set(static_cast<std::size_t>(number), text);
     }

@@ -28,13 +28,13 @@ struct Record {
 
 enum Control { kName = 101, kNumber, kFraction, kFlag, kRed, kGreen, kBlue, kUp, kDown, kCode, kPosition, kItem, kDay };
 
-constexpr ListItem<std::int32_t> kCodes[] = {{Text::QualityLow, -1}, {Text::QualityHigh, -2}};
+constexpr ListItem<std::int32_t> kCodes[] = {{TextId::QualityLow, -1}, {TextId::QualityHigh, -2}};
 constexpr Binding<Record> kTable[] = {
-    {kName, Text::Viewer, Edits<&Record::Name>},
-    {kNumber, Text::Copies, EditsNumber<&Record::Number, WholeRange{1, 9}>},
+    {kName, TextId::Viewer, Edits<&Record::Name>},
+    {kNumber, TextId::Copies, EditsNumber<&Record::Number, WholeRange{1, 9}>},
     {kFraction, kNoCaption, Edits<&Record::Fraction>},
     {kFlag, kNoCaption, Edits<&Record::Inner, &Inner::Flag>},
-    {kRed, Text::Ok, Chooses<&Record::Colour, Colour::Red>},
+    {kRed, TextId::Ok, Chooses<&Record::Colour, Colour::Red>},
     {kGreen, kNoCaption, Chooses<&Record::Colour, Colour::Green>},
     {kBlue, kNoCaption, Chooses<&Record::Colour, Colour::Blue>},
     {kNoControl, kNoCaption, Chooses<&Record::Colour, Colour::None>},
@@ -46,13 +46,13 @@ constexpr Binding<Record> kTable[] = {
 
 Messages SomeTexts() {
   Messages texts;
-  texts.Set(static_cast<std::size_t>(Text::Viewer), L"&Viewer");
-  texts.Set(static_cast<std::size_t>(Text::Copies), L"&Copies:");
-  texts.Set(static_cast<std::size_t>(Text::Ok), L"Red");
-  texts.Set(static_cast<std::size_t>(Text::QualityLow), L"Low");
-  texts.Set(static_cast<std::size_t>(Text::QualityHigh), L"High");
-  texts.Set(static_cast<std::size_t>(Text::NotANumber), L"Number for %1!");
-  texts.Set(static_cast<std::size_t>(Text::NumberOutOfRange), L"%1: %2 to %3");
+  texts.Set(static_cast<std::size_t>(TextId::Viewer), L"&Viewer");
+  texts.Set(static_cast<std::size_t>(TextId::Copies), L"&Copies:");
+  texts.Set(static_cast<std::size_t>(TextId::Ok), L"Red");
+  texts.Set(static_cast<std::size_t>(TextId::QualityLow), L"Low");
+  texts.Set(static_cast<std::size_t>(TextId::QualityHigh), L"High");
+  texts.Set(static_cast<std::size_t>(TextId::NotANumber), L"Number for %1!");
+  texts.Set(static_cast<std::size_t>(TextId::NumberOutOfRange), L"%1: %2 to %3");
   return texts;
 }
 

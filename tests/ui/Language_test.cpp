@@ -37,7 +37,7 @@ TEST(Language, TextsAreReadByTheirNumbers) {
   File(L"english.ini", "[Messages]\r\n0=First\r\n13=OK\r\n300=Last\r\n301=Beyond\r\n");
   const Loaded loaded = LoadedFrom(L"english.ini");
   EXPECT_EQ(loaded.Texts[std::size_t{0}], L"First");
-  EXPECT_EQ(loaded.Texts[Text::Ok], L"OK");
+  EXPECT_EQ(loaded.Texts[TextId::Ok], L"OK");
   EXPECT_EQ(loaded.Texts[std::size_t{300}], L"Last");
   EXPECT_EQ(Messages::kCount, 301u) << "301 and beyond are never read";
 }
@@ -54,21 +54,21 @@ TEST(Language, WhatAFileLacksIsEnglish) {
   File(L"english.ini", "[Messages]\r\n13=OK\r\n14=&Close\r\n");
   File(L"dutch.ini", "[Messages]\r\n14=&Sluiten\r\n");
   const Loaded loaded = LoadedFrom(L"dutch.ini");
-  EXPECT_EQ(loaded.Texts[Text::Ok], L"OK");
-  EXPECT_EQ(loaded.Texts[Text::Close], L"&Sluiten");
+  EXPECT_EQ(loaded.Texts[TextId::Ok], L"OK");
+  EXPECT_EQ(loaded.Texts[TextId::Close], L"&Sluiten");
   EXPECT_EQ(loaded.Language, L"dutch.ini");
 }
 
 TEST(Language, ATextOfTwoAsterisksCountsAsMissing) {
   File(L"english.ini", "[Messages]\r\n13=OK\r\n");
   File(L"dutch.ini", "[Messages]\r\n13=**\r\n");
-  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[TextId::Ok], L"OK");
 }
 
 TEST(Language, AnEmptyTextIsNotMissing) {
   File(L"english.ini", "[Messages]\r\n13=OK\r\n");
   File(L"dutch.ini", "[Messages]\r\n13=\r\n");
-  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"");
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[TextId::Ok], L"");
 }
 
 TEST(Language, WhatEnglishLacksTooShowsItsNumber) {
@@ -83,14 +83,14 @@ TEST(Language, AMissingFileFallsBackToEnglish) {
   for (const wchar_t* name : {L"dutch.ini", L""}) {
     const Loaded loaded = LoadedFrom(name);
     EXPECT_EQ(loaded.Language, L"english.ini");
-    EXPECT_EQ(loaded.Texts[Text::Ok], L"OK");
+    EXPECT_EQ(loaded.Texts[TextId::Ok], L"OK");
   }
 }
 
 TEST(Language, AHiddenFileIsThere) {
   File(L"dutch.ini", "[Messages]\r\n13=Goed\r\n");
   Tree().Find(kFolder + L"\\dutch.ini")->Attributes |= platform::kHidden;
-  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"Goed");
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[TextId::Ok], L"Goed");
 }
 
 TEST(Language, WithoutAnyFileEveryTextShowsItsNumber) {
@@ -103,16 +103,16 @@ TEST(Language, WithoutAnyFileEveryTextShowsItsNumber) {
 TEST(Language, AnUnreadableOrMalformedFileHasNoTexts) {
   File(L"english.ini", "[Messages]\r\n13=OK\r\n");
   File(L"dutch.ini", std::string("\0[Messages\r\n13=x\r\n]=", 20));
-  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[TextId::Ok], L"OK");
   Fake().FailReads[kFolder + L"\\dutch.ini"] = fakes::AccessDenied();
-  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[TextId::Ok], L"OK");
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
 TEST(Language, AFileThatIsTooLargeIsToldWithItsNameAndTheLimit) {
   File(L"english.ini", "[Messages]\r\n13=OK\r\n172=%1 is over %2\r\n");
   File(L"dutch.ini", "[Messages]\r\n13=Goed\r\n" + std::string(std::size_t{16} * 1024 * 1024, ' '));
-  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[Text::Ok], L"OK");
+  EXPECT_EQ(LoadedFrom(L"dutch.ini").Texts[TextId::Ok], L"OK");
   ASSERT_EQ(Fake().Messages.size(), 1u);
   EXPECT_EQ(Fake().Messages[0].Text, kFolder + L"\\dutch.ini is over 16");
   EXPECT_TRUE(ListLanguages(kFolder).empty());
@@ -123,28 +123,28 @@ TEST(Language, TextsEndAfter299Characters) {
   File(L"english.ini", "[Messages]\r\n0=" + std::string(299, 'a') + "\r\n1=" + std::string(299, 'b') +
                            "c\r\n2=" + std::string(5000, 'd') + "\r\n");
   const Loaded loaded = LoadedFrom(L"english.ini");
-  EXPECT_EQ(loaded.Texts[Text::Directory], std::wstring(299, L'a'));
-  EXPECT_EQ(loaded.Texts[Text::Filter], std::wstring(299, L'b'));
-  EXPECT_EQ(loaded.Texts[Text::OutputFormat], std::wstring(299, L'd'));
+  EXPECT_EQ(loaded.Texts[TextId::Directory], std::wstring(299, L'a'));
+  EXPECT_EQ(loaded.Texts[TextId::Filter], std::wstring(299, L'b'));
+  EXPECT_EQ(loaded.Texts[TextId::OutputFormat], std::wstring(299, L'd'));
 }
 
 TEST(Language, BlanksAroundATextAreDropped) {
   File(L"english.ini", "[Messages]\r\n0=   a b   \r\n1=\"  quoted  \"\r\n");
   const Loaded loaded = LoadedFrom(L"english.ini");
-  EXPECT_EQ(loaded.Texts[Text::Directory], L"a b");
-  EXPECT_EQ(loaded.Texts[Text::Filter], L"quoted");
+  EXPECT_EQ(loaded.Texts[TextId::Directory], L"a b");
+  EXPECT_EQ(loaded.Texts[TextId::Filter], L"quoted");
 }
 
 TEST(Language, ABackslashWithAnNIsALineBreak) {
   File(L"english.ini", "[Messages]\r\n0=one\\ntwo\\n\\nthree\r\n");
-  EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"one\r\ntwo\r\n\r\nthree");
+  EXPECT_EQ(LoadedFrom(L"english.ini").Texts[TextId::Directory], L"one\r\ntwo\r\n\r\nthree");
 }
 
 TEST(Language, Utf16FilesHoldEveryAlphabet) {
   File(L"english.ini", std::string("\xFF\xFE[\0M\0e\0s\0s\0a\0g\0e\0s\0]\0\r\0\n\0"
                                    "0\0=\0\x16\x04\x41\x01\r\0\n\0",
                                    38));
-  EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"\u0416\u0141");
+  EXPECT_EQ(LoadedFrom(L"english.ini").Texts[TextId::Directory], L"\u0416\u0141");
 }
 
 TEST(Language, Utf8AndBigEndianFilesAreReadAsWhatTheyAre) {
@@ -155,7 +155,7 @@ TEST(Language, Utf8AndBigEndianFilesAreReadAsWhatTheyAre) {
                                            38)};
   for (const std::string& file : files) {
     File(L"english.ini", file);
-    EXPECT_EQ(LoadedFrom(L"english.ini").Texts[Text::Directory], L"\u0416\u0141");
+    EXPECT_EQ(LoadedFrom(L"english.ini").Texts[TextId::Directory], L"\u0416\u0141");
   }
 }
 

@@ -74,7 +74,7 @@ TEST(PrinterControls, NumbersThatNoEntryStandsForChooseNothing) {
 
 TEST(ShownPrinterName, IsInTheUsersLanguageWhereThereIsNoPrinter) {
   Messages texts;
-  texts.Set(static_cast<std::size_t>(Text::NoPrinterName), L"(kein Drucker)");
+  texts.Set(static_cast<std::size_t>(TextId::NoPrinterName), L"(kein Drucker)");
   EXPECT_EQ(ShownPrinterName({.PrinterName = L"(no printer)"}, texts), L"(kein Drucker)");
   EXPECT_EQ(ShownPrinterName({.PrinterName = L"Ink"}, texts), L"Ink");
   EXPECT_EQ(ShownPrinterName({}, texts), L"");

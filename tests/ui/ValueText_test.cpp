@@ -41,8 +41,8 @@ TEST(FormatSize, HoldsTheLargestValue) {
 
 TEST(FormatSize, PadsOrCutsTheUnitToTwoCharacters) {
   Messages texts = TestTexts();
-  texts.Set(static_cast<std::size_t>(Text::UnitBytes), L"");
-  texts.Set(static_cast<std::size_t>(Text::UnitKilobytes), L"kilobytes");
+  texts.Set(static_cast<std::size_t>(TextId::UnitBytes), L"");
+  texts.Set(static_cast<std::size_t>(TextId::UnitKilobytes), L"kilobytes");
   EXPECT_EQ(FormatSize(Currency::FromWhole(5), texts), L"5   ");
   EXPECT_EQ(FormatSize(Currency::FromWhole(20'480), texts), L"20 ki");
 }

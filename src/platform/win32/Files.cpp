@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "platform/win32/NativePath.h"
+#include "platform/win32/LongPathForm.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/WriteAll.h"
@@ -19,7 +19,7 @@ std::wstring WithBackslash(std::wstring_view path) {
 }
 
 DWORD AttributesOf(std::wstring_view path) {
-  return GetFileAttributesW(NativePath(path).c_str());
+  return GetFileAttributesW(LongPathForm(path).c_str());
 }
 
 /// Calls `fill(buffer, size)`, which answers the length that it wrote or the larger size that it needs.
@@ -73,7 +73,7 @@ class TemporaryFile {
     }
     Create(replaces_ ? attributes & kKept : 0);
     if (replaces_) {
-      SetAccessList(NativePath(name_), AccessListOf(NativePath(path)));
+      SetAccessList(LongPathForm(name_), AccessListOf(LongPathForm(path)));
     }
   }
   ~TemporaryFile() {
@@ -108,7 +108,7 @@ class TemporaryFile {
                                  FILE_ATTRIBUTE_NOT_CONTENT_INDEXED | FILE_ATTRIBUTE_ENCRYPTED;
 
   bool Move() const {
-    return MoveFileExW(NativePath(name_).c_str(), NativePath(path_).c_str(),
+    return MoveFileExW(LongPathForm(name_).c_str(), LongPathForm(path_).c_str(),
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
   }
 
@@ -117,7 +117,7 @@ class TemporaryFile {
     const std::wstring folder = path_.substr(0, path_.rfind(L'\\') + 1);
     for (int i = 0; !file_.IsOpen(); ++i) {
       name_ = folder + L"~fv" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(i) + L".tmp";
-      file_ = OwnedFile(CreateFileW(NativePath(name_).c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_DELETE, nullptr,
+      file_ = OwnedFile(CreateFileW(LongPathForm(name_).c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_DELETE, nullptr,
                                     CREATE_NEW, attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes, nullptr));
       const DWORD error = GetLastError();
       if (!file_.IsOpen() && error != ERROR_FILE_EXISTS) {
@@ -143,13 +143,13 @@ void ReplaceFile(const std::wstring& path, std::string_view bytes) {
 
 bool TruncateFile(const std::wstring& path) {
   // CREATE_ALWAYS would refuse a hidden file
-  const OwnedFile file(CreateFileW(NativePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+  const OwnedFile file(CreateFileW(LongPathForm(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
                                    FILE_ATTRIBUTE_NORMAL, nullptr));
   return file.IsOpen() && SetEndOfFile(file.Get());
 }
 
 bool RemoveFile(const std::wstring& path) {
-  return DeleteFileW(NativePath(path).c_str()) != 0;
+  return DeleteFileW(LongPathForm(path).c_str()) != 0;
 }
 
 bool PathExists(std::wstring_view path) {
@@ -208,7 +208,7 @@ std::wstring VolumeLabel(const std::wstring& root) {
 std::optional<DiskSpace> FreeSpace(const std::wstring& directory) {
   ULARGE_INTEGER total;
   ULARGE_INTEGER totalFree;
-  if (!GetDiskFreeSpaceExW(WithBackslash(NativePath(directory)).c_str(), nullptr, &total, &totalFree)) {
+  if (!GetDiskFreeSpaceExW(WithBackslash(LongPathForm(directory)).c_str(), nullptr, &total, &totalFree)) {
     return std::nullopt;
   }
   return DiskSpace{totalFree.QuadPart, total.QuadPart};

@@ -1,7 +1,7 @@
 // Directories of Windows, read in the large blocks that servers answer fastest.
 #include "platform/FindFiles.h"
 
-#include "platform/win32/NativePath.h"
+#include "platform/win32/LongPathForm.h"
 #include "platform/win32/Owned.h"
 
 namespace folivant::platform {
@@ -40,7 +40,7 @@ struct FindFiles::State {
 };
 
 FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state_(std::make_unique<State>()) {
-  std::wstring pattern = NativePath(directory);
+  std::wstring pattern = LongPathForm(directory);
   if (!pattern.ends_with(L'\\')) {
     pattern += L'\\';
   }
@@ -89,7 +89,7 @@ std::optional<FoundEntry> FindEntry(std::wstring_view path) {
   }
   WIN32_FIND_DATAW found;
   OwnedFind handle(
-      FindFirstFileExW(NativePath(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
+      FindFirstFileExW(LongPathForm(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
   if (!handle.IsOpen()) {  // typed with a dot or blank at its end that the name on disk has not
     handle = OwnedFind(
         FindFirstFileExW(std::wstring(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
@@ -104,7 +104,7 @@ std::optional<FoundEntry> FindEntry(std::wstring_view path) {
 }
 
 std::optional<FileIdentity> IdentityOf(std::wstring_view directory) {
-  const OwnedFile file(CreateFileW(NativePath(directory).c_str(), FILE_READ_ATTRIBUTES,
+  const OwnedFile file(CreateFileW(LongPathForm(directory).c_str(), FILE_READ_ATTRIBUTES,
                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   BY_HANDLE_FILE_INFORMATION information;

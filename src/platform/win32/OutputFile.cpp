@@ -5,7 +5,7 @@
 
 #include "platform/Files.h"
 #include "platform/Text.h"
-#include "platform/win32/NativePath.h"
+#include "platform/win32/LongPathForm.h"
 #include "platform/win32/Owned.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/WriteAll.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kBlock = std::size_t{64} * 1024;  ///< characters
 
 OwnedFile Create(const std::wstring& path) {
-  const std::wstring native = NativePath(path);
+  const std::wstring native = LongPathForm(path);
   const auto create = [&](DWORD disposition) {
     return OwnedFile(CreateFileW(native.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
                                  FILE_ATTRIBUTE_NORMAL | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));

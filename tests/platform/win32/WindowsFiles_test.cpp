@@ -7,7 +7,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/Scratch.h"
 #include "platform/Store.h"
-#include "platform/win32/NativePath.h"
+#include "platform/win32/LongPathForm.h"
 #include "platform/win32/Win32.h"
 
 #include <sddl.h>
@@ -15,30 +15,30 @@
 namespace folivant::platform {
 namespace {
 
-TEST(NativePath, LeavesShortPathsAlone) {
+TEST(LongPathForm, LeavesShortPathsAlone) {
   for (const wchar_t* path : {L"C:\\Data", L"relative\\a.txt", L"\\\\server\\share\\a", L"C:\\a\\..\\b.txt", L"..",
                               L".", L"C:\\", L"", L"C:\\Data\\.", L"\\\\.\\pipe\\a", L"\\\\?\\C:\\a."}) {
-    EXPECT_EQ(NativePath(path), path);
+    EXPECT_EQ(LongPathForm(path), path);
   }
 }
 
-TEST(NativePath, LiftsTheLimitOfLongPaths) {
+TEST(LongPathForm, LiftsTheLimitOfLongPaths) {
   const std::wstring name(250, L'x');
-  EXPECT_EQ(NativePath(L"C:\\" + name), L"\\\\?\\C:\\" + name);
-  EXPECT_EQ(NativePath(L"\\\\server\\share\\" + name), L"\\\\?\\UNC\\server\\share\\" + name);
-  EXPECT_EQ(NativePath(L"C:\\a\\..\\b\\.\\" + name), L"\\\\?\\C:\\b\\" + name);
-  EXPECT_EQ(NativePath(L"C:/a/" + name), L"\\\\?\\C:\\a\\" + name);
-  EXPECT_EQ(NativePath(name), L"\\\\?\\" + CurrentDirectory() + (CurrentDirectory().size() > 3 ? L"\\" : L"") + name);
+  EXPECT_EQ(LongPathForm(L"C:\\" + name), L"\\\\?\\C:\\" + name);
+  EXPECT_EQ(LongPathForm(L"\\\\server\\share\\" + name), L"\\\\?\\UNC\\server\\share\\" + name);
+  EXPECT_EQ(LongPathForm(L"C:\\a\\..\\b\\.\\" + name), L"\\\\?\\C:\\b\\" + name);
+  EXPECT_EQ(LongPathForm(L"C:/a/" + name), L"\\\\?\\C:\\a\\" + name);
+  EXPECT_EQ(LongPathForm(name), L"\\\\?\\" + CurrentDirectory() + (CurrentDirectory().size() > 3 ? L"\\" : L"") + name);
 }
 
-TEST(NativePath, KeepsDotsAndBlanksAtTheEndOfNames) {
-  EXPECT_EQ(NativePath(L"C:\\folder.\\a"), L"\\\\?\\C:\\folder.\\a");
-  EXPECT_EQ(NativePath(L"C:\\a "), L"\\\\?\\C:\\a ");
+TEST(LongPathForm, KeepsDotsAndBlanksAtTheEndOfNames) {
+  EXPECT_EQ(LongPathForm(L"C:\\folder.\\a"), L"\\\\?\\C:\\folder.\\a");
+  EXPECT_EQ(LongPathForm(L"C:\\a "), L"\\\\?\\C:\\a ");
   for (const wchar_t* odd : {L"C:\\a..", L"C:\\a. \\b", L"C:\\...", L"C:\\ ", L"C:\\ \\b"}) {
-    EXPECT_EQ(NativePath(odd), std::wstring(L"\\\\?\\") + odd);
+    EXPECT_EQ(LongPathForm(odd), std::wstring(L"\\\\?\\") + odd);
   }
   for (const wchar_t* plain : {L"C:\\", L"C:\\a\\", L"C:\\..\\a", L"C:\\a\\.", L"a.", L".."}) {
-    EXPECT_EQ(NativePath(plain), plain);
+    EXPECT_EQ(LongPathForm(plain), plain);
   }
 }
 

@@ -1,12 +1,12 @@
-#include "app/win32/PlaceOnScreen.h"
+#include "app/win32/PositionOnScreen.h"
 
-#include "app/WindowPlace.h"
+#include "app/WindowPosition.h"
 #include "platform/Store.h"
 
 namespace folivant {
 
-void RestorePlace(HWND window) {
-  const auto place = ParseWindowPlace(platform::StoreSection(kPlaceSection).Read(kPlaceKey).value_or(L""));
+void RestorePosition(HWND window) {
+  const auto place = ParseWindowPosition(platform::StoreSection(kPositionSection).Read(kPositionKey).value_or(L""));
   RECT frame{};
   GetWindowRect(window, &frame);
   if (!place) {
@@ -19,10 +19,10 @@ void RestorePlace(HWND window) {
   }
 }
 
-void SavePlace(HWND window) {
+void SavePosition(HWND window) {
   RECT frame{};
   if (IsIconic(window) == FALSE && GetWindowRect(window, &frame) != FALSE) {
-    platform::WriteStore(kPlaceSection, kPlaceKey, WindowPlaceText({frame.left, frame.top}));
+    platform::WriteStore(kPositionSection, kPositionKey, WindowPositionText({frame.left, frame.top}));
   }
 }
 

@@ -4,7 +4,7 @@
 
 namespace folivant {
 
-enum class Text : int {
+enum class TextId : int {
   // Main window
   Directory = 0,
   Filter = 1,

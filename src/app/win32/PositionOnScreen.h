@@ -6,8 +6,8 @@
 namespace folivant {
 
 /// Moves `window` to where it stood last, unless its title bar could not be reached with the mouse there.
-void RestorePlace(HWND window);
+void RestorePosition(HWND window);
 /// Stores where it stands; a minimised window leaves what is stored. Throws RuntimeError (WriteSetting).
-void SavePlace(HWND window);
+void SavePosition(HWND window);
 
 }  // namespace folivant

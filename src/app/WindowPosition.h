@@ -8,18 +8,18 @@
 
 namespace folivant {
 
-inline constexpr wchar_t kPlaceSection[] = L"Settings";
-inline constexpr wchar_t kPlaceKey[] = L"WindowPlace";
+inline constexpr wchar_t kPositionSection[] = L"Settings";
+inline constexpr wchar_t kPositionKey[] = L"WindowPlace";
 
-struct WindowPlace {
+struct WindowPosition {
   std::int32_t Left = 0;  ///< screen coordinates
   std::int32_t Top = 0;
-  bool operator==(const WindowPlace&) const = default;
+  bool operator==(const WindowPosition&) const = default;
 };
 
 /// "120,-40"
-std::wstring WindowPlaceText(WindowPlace place);
+std::wstring WindowPositionText(WindowPosition place);
 /// Nothing when the text is not exactly two numbers with a comma between them.
-std::optional<WindowPlace> ParseWindowPlace(std::wstring_view text);
+std::optional<WindowPosition> ParseWindowPosition(std::wstring_view text);
 
 }  // namespace folivant

@@ -1,21 +1,21 @@
-#include "app/WindowPlace.h"
+#include "app/WindowPosition.h"
 
 #include "base/Numbers.h"
 
 namespace folivant {
 
-std::wstring WindowPlaceText(WindowPlace place) {
+std::wstring WindowPositionText(WindowPosition place) {
   return WholeText(place.Left) + L"," + WholeText(place.Top);
 }
 
-std::optional<WindowPlace> ParseWindowPlace(std::wstring_view text) {
+std::optional<WindowPosition> ParseWindowPosition(std::wstring_view text) {
   const std::size_t comma = text.find(L',');
   if (comma == std::wstring_view::npos) {
     return std::nullopt;
   }
   const auto left = ReadPlainWhole(text.substr(0, comma));
   const auto top = ReadPlainWhole(text.substr(comma + 1));
-  return left && top ? std::optional(WindowPlace{*left, *top}) : std::nullopt;
+  return left && top ? std::optional(WindowPosition{*left, *top}) : std::nullopt;
 }
 
 }  // namespace folivant

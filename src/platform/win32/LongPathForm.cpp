@@ -1,4 +1,4 @@
-#include "platform/win32/NativePath.h"
+#include "platform/win32/LongPathForm.h"
 
 #include <algorithm>
 
@@ -53,7 +53,7 @@ std::wstring Verbatim(std::wstring_view path) {
 
 }  // namespace
 
-std::wstring NativePath(std::wstring_view path) {
+std::wstring LongPathForm(std::wstring_view path) {
   if (path.starts_with(kVerbatim) || path.starts_with(L"\\\\.\\")) {
     return std::wstring(path);
   }
