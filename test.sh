@@ -1,5 +1,5 @@
 #!/bin/bash
-# Installs what is missing, builds both builds and runs every test: native with sanitizers, Windows programs under Wine,
+# Installs what is missing, builds both builds and runs every test: those of the host build with sanitizers, Windows programs under Wine,
 # desktop tests on an X server of their own, print tests through a private CUPS. Further words go to ctest (-R NAME).
 set -euo pipefail
 cd "$(dirname "$0")"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs clang-tidy over the portable sources and the native seam, with the compile commands of the host build.
+# Runs clang-tidy over the portable sources and the seam of the host, with the compile commands of the host build.
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset host >/dev/null

@@ -28,7 +28,7 @@ struct CommandLine {
 };
 CommandLine ReadCommandLine(const std::wstring& line);
 
-/// `fileName` with ".html" (HTML) or ".txt" (all others, CSV and XML too, on purpose) where it holds no dot anywhere.
+/// `fileName` with the extension of its kind on a command line (output/OutputKinds.h) where it holds no dot anywhere.
 std::wstring WithSwitchExtension(const std::wstring& fileName, OutputKind kind);
 
 }  // namespace folivant

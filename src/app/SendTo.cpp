@@ -38,7 +38,7 @@ void DeleteSendTo() {
     return;
   }
   // Where every profile holds its Send To folder directly, the profiles lie two levels up. Today the folder lies deeper
-  // and that is somebody else's place, so the user's own target is deleted by its own path.
+  // and that may be another user's, so the user's own target is deleted by its own path.
   const std::wstring own = AddBackslash(*folder);
   const std::wstring profiles = GetFolder(GetFolder(GetFolder(own)));
   for (const std::wstring& name : SubdirectoriesOf(profiles)) {

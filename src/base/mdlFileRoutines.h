@@ -37,7 +37,7 @@ std::wstring ReplaceAll(std::wstring_view text, std::wstring_view search, std::w
 /// One-based position of the last occurrence, 0 when absent. 16 bits: for texts of up to 32,767 characters.
 /// Nothing calls it; it completes the set.
 std::int16_t LastPosition(std::wstring_view text, std::wstring_view search);
-/// After the last "."; a name without one is returned whole, on purpose.
+/// After the last "."; a name without one is returned whole: extensions are sorted by it.
 std::wstring GetExtension(std::wstring_view path);
 /// After the last "\".
 std::wstring GetFileName(std::wstring_view path);
@@ -45,7 +45,7 @@ std::wstring GetFileName(std::wstring_view path);
 std::wstring GetFolder(std::wstring_view path);
 /// `text`, `count` times. Nothing calls it; it completes the set.
 std::wstring RepeatText(std::int16_t count, std::wstring_view text);
-/// False for hidden and system files and for directories, on purpose.
+/// False for hidden and system files and for directories: "/f" takes none of these.
 bool FileExists(std::wstring_view path);
 
 template <class Value>

@@ -18,7 +18,7 @@ void AppendSum(const DirNode& node, const Messages& texts, std::wstring& out) {
 
 }  // namespace
 
-// The fixed blanks assume the lengths of the English captions, on purpose.
+// The fixed blanks assume the lengths of the English captions: the columns of old listings stand there.
 const std::array<DirectoryColumn, 4> kDirectoryColumns = {{
     {&DirectoryColumns::Files, TextId::FilesCaption, 5, AppendCount<&DirNode::Files>, L"files"},
     {&DirectoryColumns::Size, TextId::DirectorySizeCaption, 6, AppendSum<&DirNode::Size>, L"size"},

@@ -28,7 +28,7 @@ struct CellLayout {
 inline constexpr CellLayout kDosNameLayout = {Alignment::Left, 12, 14};
 inline constexpr CellLayout kSizeLayout = {Alignment::Right, 8, 10};
 inline constexpr CellLayout kDateLayout = {Alignment::Left, 16, 18};
-/// The room is one character short of what attributes take, on purpose.
+/// The room is one character short of what attributes take: the widths of all listings are made with it.
 inline constexpr CellLayout kAttributesLayout = {Alignment::AsItStands, 0, 6};
 
 /// A column of the entry lines. A text writer's name column is as wide as the others leave it.

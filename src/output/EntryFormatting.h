@@ -16,7 +16,7 @@ std::wstring TotalsSentence(const RunTotals& totals, const Messages& texts);
 std::wstring FreeSpaceSentence(const platform::DiskSpace& space, const Messages& texts);
 
 /// The filter in one line, for "%g", the XML `filter` element and the main window: "*.txt, >1000 kb, 9/25/1999 -
-/// 9/30/1999". Attribute choices never appear, on purpose.
+/// 9/30/1999". Attribute choices never appear: there are no words for them.
 std::wstring FilterDescription(const FilterSettings& filter, const Messages& texts);
 
 }  // namespace folivant

@@ -1,4 +1,4 @@
-// A page as somebody who writes lines sees it: a surface, the fonts of a listing, and the height reached so far. It
+// A page as a writer of lines sees it: a surface, the fonts of a listing, and the height reached so far. It
 // measures text, from the first moment, and remembers the widths of texts that come back, because asking a printer is
 // slow.
 #pragma once

@@ -27,8 +27,8 @@ struct DirectoryPositions {
 };
 DirectoryPositions PlaceDirectoryColumns(const DirectoryColumns& shown, double usableWidth, const TextMeasure& measure);
 
-/// Lines of the file lists. Folder contains `lineOrigin` once already, on purpose: like every position it is drawn at
-/// the line origin plus Folder, so a left margin counts twice there.
+/// Lines of the file lists. Folder contains `lineOrigin` once already: like every position it is drawn at the line
+/// origin plus Folder, so a left margin counts twice there, as on every page printed so far.
 struct FoundPositions {
   double NameWidth = 0;
   double Folder = 0;

@@ -92,7 +92,7 @@ PageLayout Arrange(const Page& page, const Margins& margins, const ListingFormat
   at.LineHeight = page.LineHeight();
   at.Origin = margins.Left - area.LeftOffset;
   at.UsableWidth = area.Width - margins.Left - margins.Right + area.LeftOffset + area.RightOffset;
-  // Without the offsets, on purpose: a heading gets a little less than the line could hold.
+  // Without the offsets: printed headings have always broken a little before the line could hold no more.
   at.HeadingWidth = std::nearbyint(area.Width - margins.Left - margins.Right);
   at.HeaderTop = margins.Top - area.TopOffset;
   at.FirstLine = at.HeaderTop + page.LineHeightOf(Page::Face::HeaderFooter) + kLinesBelowHeader * at.LineHeight;

@@ -22,7 +22,7 @@ void AppendAnchorCharacter(wchar_t c, std::wstring& out) {
       out += L"%3a";
       break;
     case L'\'':
-      out += L"%2d";  // not the code of an apostrophe, on purpose
+      out += L"%2d";  // not the code of an apostrophe: anchors and links agree on it
       break;
     case L'#':
       out += L"%23";
@@ -157,7 +157,7 @@ void HtmlWriter::EndEntry(const FileRecord& entry) {
 }
 
 void HtmlWriter::WriteSummary(std::wstring_view summary) {
-  // The two rows stand behind the table's end tag, on purpose.
+  // The two rows stand behind the table's end tag: programs that read these pages find them there.
   File().WriteLine(L"</table>");
   File().WriteLine(L"<tr><td>&nbsp;</tr>");
   File().WriteLine(L"<tr><td>&nbsp;&nbsp;&nbsp;<td>", summary, L"</tr></table><br>");
@@ -214,7 +214,7 @@ void HtmlWriter::FindList(const FoundRows& rows) {
                        &column == &kFoundColumns.back() ? L"</tr>" : L"");
     }
     if (Run().IsCancelled()) {
-      return;  // the table stays open, on purpose
+      return;  // the table stays open: the page shows where it broke off
     }
   }
   File().WriteLine(L"</table>");

@@ -17,7 +17,8 @@ namespace {
 
 constexpr std::wstring_view kGap = L"  ";
 constexpr std::size_t kIndent = 3;
-/// The length of the directory caption that the padding after it assumes, whatever the language, on purpose.
+/// The length of the directory caption that the padding after it assumes, whatever the language: readers count on the
+/// column.
 constexpr double kAssumedCaption = 9;
 
 /// Pads or cuts what the line holds from `start` on, on the right.

@@ -21,7 +21,7 @@ inline constexpr std::uint32_t kLink = 1024;  ///< reparse point: the directory 
 /// One entry as the system reports it.
 struct FindData {
   std::uint32_t Attributes = 0;
-  /// UTC, 100-nanosecond units since 1601-01-01. FileDateOf (scan/FileDates.h) converts it in place, on purpose.
+  /// UTC, 100-nanosecond units since 1601-01-01. FileDateOf (scan/FileDates.h) converts it in place.
   std::uint64_t LastWrite = 0;
   std::uint64_t Size = 0;           ///< bytes; 0 for a directory
   std::wstring_view Name;           ///< as on disk; valid until the next call of Next
@@ -59,8 +59,8 @@ struct FoundEntry {
   std::wstring Name;  ///< the name of the last component as on disk
 };
 
-/// Looks up one path (no wildcards are expanded; letter case does not matter, an exact match goes first). Nothing when
-/// it does not exist or when its last component is empty.
+/// Looks up one path (no wildcards are expanded; letter case does not matter, an exact match takes precedence). Nothing
+/// when it does not exist or when its last component is empty.
 std::optional<FoundEntry> FindEntry(std::wstring_view path);
 
 /// What tells whether two paths lead to the same directory.

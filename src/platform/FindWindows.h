@@ -57,7 +57,7 @@ class SharedMapping {
  public:
   /// `size` bytes named `name`, backed by `file`, which is made when missing and never deleted.
   SharedMapping(const std::wstring& name, const std::wstring& file, std::size_t size);
-  /// Flushes and closes the mapping and the file. The view stays mapped until the process ends, on purpose.
+  /// Flushes and closes the mapping and the file. The view stays until the process ends: readers may be in it.
   ~SharedMapping();
   SharedMapping(const SharedMapping&) = delete;
   SharedMapping& operator=(const SharedMapping&) = delete;

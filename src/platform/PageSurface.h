@@ -1,5 +1,5 @@
-// The pages of a printed document: somebody draws text on them at positions in twips (1,440 to the inch), counted from
-// the upper left corner of the printable area, x to the right and y downwards. Settings of the device (copies,
+// The pages of a printed document: the caller draws text on them at positions in twips (1,440 to the inch), counted
+// from the upper left corner of the printable area, x to the right and y downwards. Settings of the device (copies,
 // orientation, two sides, quality, paper source) are part of the job. Texts can be measured before the document begins:
 // until then nothing of the job reaches the printer.
 #pragma once

@@ -8,7 +8,7 @@
 namespace folivant {
 
 /// Local date and time of an entry's last write, seconds precision. The converted time is written back into `fileTime`,
-/// so that each call shifts the same record by `localOffset`, that of the run, once more. This is kept on purpose: the
+/// so that each call shifts the same record by `localOffset`, that of the run, once more. Listings depend on it: the
 /// order of calls (date filter twice, date text, date sort key) decides what a listing shows.
 DateValue FileDateOf(std::uint64_t& fileTime, std::int64_t localOffset);
 /// The same conversion without the detour over a day count, for texts.

@@ -66,7 +66,7 @@ void EntrySorter::SortRange(const Range& range, bool ascending) {
   }
 }
 
-/// Keys that have no more bytes are equal but for zeros at their ends: the shorter goes first.
+/// Keys that have no more bytes are equal but for zeros at their ends: the shorter one comes first.
 void EntrySorter::SortRun(const Range& run, bool ascending) {
   const auto first = keys_.begin() + static_cast<std::ptrdiff_t>(run.First);
   const auto last = keys_.begin() + static_cast<std::ptrdiff_t>(run.Last);

@@ -61,7 +61,7 @@ void ListTree(ListingRun& run, ListingWriter& output) {
   output.BeginTree(run.Start.Shown);
   TreeWalk walk(run);
   walk.Walk();
-  walk.ForEachEntry([&](const FileRecord& entry) {  // does not look at the cancel flag, on purpose
+  walk.ForEachEntry([&](const FileRecord& entry) {  // all of it: a cancelled run is told by its end
     run.Watcher.LetEventsThrough();
     output.TreeEntry(entry);
   });

@@ -30,7 +30,7 @@ struct FindChoice {
   /// Looks for open Find windows, topmost first.
   void FindCandidates();
   /// Takes the candidate at `row`, from 0. Where it lacks the windows that a Find window has inside, the choice stays
-  /// pending, on purpose: whoever waits goes on waiting.
+  /// pending: the window may still be building them, and the wait ends with a Cancel.
   void Choose(int row);
   void Cancel() { FindListHandle = kCancelled; }
 };

@@ -99,7 +99,7 @@ void FindResults::FetchTexts(std::vector<FoundItem>& rows, std::int32_t first, s
 std::wstring FindResults::GetFindCell(std::size_t cell) {
   const auto bytes = std::span(block_).subspan(TextOffset(cell), kCellBytes);
   std::copy(bytes.begin(), bytes.end(), text_.Bytes().begin());
-  // Taken from this buffer even if the list view said that its text lies elsewhere, on purpose.
+  // From this buffer even if the list view names another: that address would be one in the other process.
   const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
   return StripNulls(platform::FromAnsi(text.substr(0, text.find('\0'))));
 }

@@ -1,3 +1,4 @@
+// Margins in the units of settings, of messages and of paper, and what a printer makes of them.
 #include "ui/Margins.h"
 
 #include <utility>

@@ -159,7 +159,7 @@ enum class TextId : int {
   MustNotHave = 225,
   OrderByLabel = 226,
   OrderName = 227,
-  OrderExtension = 228,  ///< "Extention" in English, on purpose
+  OrderExtension = 228,  ///< "Extention" in English: the spelling that users know it by
   OrderDosName = 229,
   OrderSize = 230,
   OrderDate = 231,

@@ -9,7 +9,7 @@
 namespace folivant {
 namespace {
 
-constexpr int kFlagWidth = 20;  // dots at 96 per inch
+constexpr int kFlagWidth = 20;  // pixels at 96 per inch
 
 }  // namespace
 

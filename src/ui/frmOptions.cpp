@@ -183,7 +183,7 @@ Margins frmOptions::EnteredMargins() const {
           .Bottom = SingleOf(*this, txtBottom)};
 }
 
-/// `device` are the printer's minimum margins. False when the dialog has to stay open.
+/// `minimum` is what the printer can reach. False when the dialog has to stay open.
 bool frmOptions::CheckMargins(const Margins& minimum) {
   const Margins entered = EnteredMargins();
   if (MarginsSuffice(entered, minimum)) {

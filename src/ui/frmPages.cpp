@@ -5,7 +5,7 @@
 namespace folivant {
 namespace {
 
-constexpr int kPageBorder = 4;  // between the tab strip's frame and a page, in dots at 96 per inch
+constexpr int kPageBorder = 4;  // between the tab strip's frame and a page, in pixels at 96 per inch
 
 }  // namespace
 

@@ -49,7 +49,7 @@ FileState StateOf(const std::wstring& path) {
   return {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
 }
 
-/// The store's text, read again only after somebody changed the file: a start asks for some hundred values.
+/// The store's text, read again only after the file has changed: a start asks for some hundred values.
 ProfileText& Text() {
   static ProfileText text;
   static FileState known;

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/Controls.h"
+#include "platform/win32/OwnedWindows.h"
 #include "platform/win32/Win32.h"
 
 #include <commctrl.h>
@@ -57,9 +58,9 @@ class Dialog : public Controls {
   /// Shows a bitmap resource; the numbers 1000 and 2000 above it hold the same picture for 150 and 200 percent. In
   /// Form_Load a control that is too small for its picture grows.
   void SetPicture(int control, int resource);
-  /// A length given for 96 dots per inch, in dots of this window's screen.
+  /// A length given for 96 dots per inch, in pixels of this window's screen.
   int Scaled(int length) const;
-  /// The width of `text` in this window's font, in dots; "&" is a letter like any other.
+  /// The width of `text` in this window's font, in pixels; "&" is a letter like any other.
   int WidthOfText(const std::wstring& text) const;
 
  protected:
@@ -95,9 +96,9 @@ class Dialog : public Controls {
   /// needs its final sizes earlier calls it itself. The design keeps its columns: everything to the right of a widened
   /// control moves.
   void FitToTexts();
-  /// The same for one page; returns its size in dots.
+  /// The same for one page; returns its size in pixels.
   SIZE FitPageToTexts(HWND page);
-  /// Makes a control larger by so many dots, and moves or widens everything around it.
+  /// Makes a control larger by so many pixels, and moves or widens everything around it.
   void Grow(int control, SIZE by);
   /// Moves the window into the middle of its owner, or of the screen without one.
   void Centre();
@@ -105,7 +106,10 @@ class Dialog : public Controls {
  private:
   class KeyWatch;
   class Page;
-  struct Picture;
+  struct Picture {
+    int Resource = 0;
+    OwnedBitmap Bitmap;
+  };
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
   void Load();
@@ -125,7 +129,7 @@ class Dialog : public Controls {
   bool focusGiven_ = false;  ///< by Form_Load; otherwise the first control gets it
   std::map<std::pair<int, int>, Handler> handlers_;
   std::vector<std::unique_ptr<Page>> pages_;
-  std::map<int, std::unique_ptr<Picture>> pictures_;
+  std::map<int, Picture> pictures_;  ///< by their controls
 };
 
 /// Lets pending events of all windows run and returns when none is left; false when the program has been asked to end.

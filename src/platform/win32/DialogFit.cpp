@@ -12,7 +12,7 @@ namespace {
 
 enum class Kind { Other, PushButton, CheckOrOption, Frame, Label, Combo };
 
-// Room around a caption, in dots at 96 per inch.
+// Room around a caption, in pixels at 96 per inch.
 constexpr int kButtonPadding = 20;
 constexpr int kCheckPadding = 22;
 constexpr int kFramePadding = 22;
@@ -127,7 +127,7 @@ LONG WidthOf(const RECT& box) {
   return box.right - box.left;
 }
 
-// Buttons of a row that stand no further apart than this belong together, in dots at 96 per inch.
+// Buttons of a row that stand no further apart than this belong together, in pixels at 96 per inch.
 constexpr int kButtonGap = 16;
 
 /// Moves a button, and with it the neighbours to its left that stand close to it in the same row.

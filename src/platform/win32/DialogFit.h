@@ -7,12 +7,12 @@
 
 namespace folivant::platform {
 
-/// The width of one line of `text` in the font of `window`, in dots; "&" marks the next letter and takes no room.
+/// The width of one line of `text` in the font of `window`, in pixels; "&" marks the next letter and takes no room.
 int WidthOfCaption(HWND window, const std::wstring& text);
 /// The same of text in which "&" is a letter like any other, such as a path.
 int WidthOfPlainText(HWND window, const std::wstring& text);
 
-/// The width that the control needs to show its caption (or, for a combo box, its longest item) on one line, in dots;
+/// The width that the control needs to show its caption (or, for a combo box, its longest item) on one line, in pixels;
 /// 0 for controls that have none, that may wrap, or that shorten it themselves.
 int NeededWidth(HWND control);
 

@@ -3,8 +3,17 @@
 
 #include "platform/win32/Dialog.h"
 #include "platform/win32/DialogFit.h"
+#include "platform/win32/WindowSystem.h"
 
 namespace folivant::platform {
+
+int Dialog::Scaled(int length) const {
+  return MulDiv(length, DpiOf(window_), USER_DEFAULT_SCREEN_DPI);
+}
+
+int Dialog::WidthOfText(const std::wstring& text) const {
+  return WidthOfPlainText(window_, text);
+}
 
 void Dialog::FitToTexts() {
   GrowWindow(window_, FitChildren(window_));

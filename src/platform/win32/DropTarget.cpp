@@ -78,7 +78,7 @@ class DropTarget::Target final : public IDropTarget {
         *effect = DROPEFFECT_COPY;
       }
     } catch (const std::exception&) {
-      // A drop that cannot be read is ignored, on purpose.
+      // A drop that cannot be read is ignored: the source of the drag is waiting for the answer.
     }
     return S_OK;
   }

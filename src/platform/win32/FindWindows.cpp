@@ -163,7 +163,7 @@ SharedMapping::SharedMapping(const std::wstring& name, const std::wstring& file,
       state_->View = static_cast<std::byte*>(MapViewOfFile(state_->Mapping.Get(), FILE_MAP_WRITE, 0, 0, 0));
     }
   }
-  // Somebody else's mapping of that name may be smaller.
+  // Another program's mapping of that name may be smaller.
   MEMORY_BASIC_INFORMATION region{};
   if (state_->View != nullptr &&
       (VirtualQuery(state_->View, &region, sizeof region) == 0 || region.RegionSize < size)) {

@@ -6,7 +6,7 @@
 
 namespace folivant::platform {
 
-/// Its width and height in dots; zeros without a bitmap.
+/// Its width and height in pixels; zeros without a bitmap.
 SIZE SizeOfBitmap(HBITMAP bitmap);
 
 /// The picture for `dpi` dots per inch: drawn for it, or stretched from the nearest drawing. Empty when there is none.
