@@ -185,6 +185,7 @@ TEST_F(PathList, LinesOfWhichNoneIsAFullPathAreAnErrorThatNamesTheList) {
     } catch (const RuntimeError& error) {
       EXPECT_EQ(error.Action(), FailedAction::ListPaths);
       EXPECT_EQ(error.Object(), L"C:\\list.txt");
+      EXPECT_EQ(error.SystemCode(), 0U);
     }
     EXPECT_EQ(rows.Lists, 0);
   }
