@@ -186,7 +186,9 @@ class Source:
             names.insert(0, at.spelling)
             at = at.semantic_parent
         body = next((c for c in node.get_children() if c.kind == K.COMPOUND_STMT), None)
-        head = self.text(node.extent.start.offset, body.extent.start.offset if body else node.extent.end.offset)
+        # Attributes stand before what counts as the function.
+        begin = self.bytes.rfind(b'\n', 0, node.extent.start.offset) + 1
+        head = self.text(begin, body.extent.start.offset if body else node.extent.end.offset)
         last = list(body.get_children())[-1:] if body else []
         return Context(name='::'.join(re.sub(r'<.*', '', n) if not n.startswith('operator') else n for n in names),
                        function=node, at_run_time=bool(re.search(r'\bconst(expr|eval)\b', head)),
