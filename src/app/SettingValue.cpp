@@ -122,8 +122,9 @@ struct Reader {
     if (!AreDigits(Trimmed, member->size(), L'2')) {
       return kNoValue;
     }
-    std::transform(Trimmed.begin(), Trimmed.begin() + 5, member->begin(),
-                   [](wchar_t c) { return static_cast<AttributeChoice>(c - L'0'); });
+    for (std::size_t i = 0; i < member->size(); ++i) {
+      (*member)[i] = static_cast<AttributeChoice>(Trimmed[i] - L'0');
+    }
     return std::nullopt;
   }
   std::optional<Refusal> operator()(OutputTarget* member) const {

@@ -61,7 +61,7 @@ void EncodingProbe::Add(std::string_view piece) {
 }
 
 bool EncodingProbe::IsSure() const {
-  return head_.size() == kLongestMark && (utf8_.IsBroken() || MarkedEncoding(head_) != Ansi);
+  return utf8_.IsBroken() || MarkedEncoding(head_) != Ansi;
 }
 
 TextEncoding EncodingProbe::Found() const {

@@ -39,6 +39,8 @@ TEST_F(BadSettingsTest, OfVeryManyTheFirstTenAreShownAndLongValuesAreCut) {
     expected += L"\r\nKey=" + std::wstring(60, L'x') + L"...";
   }
   EXPECT_EQ(BadSettingsText(bad, Texts), expected + L"\r\nand 2 more");
+  EXPECT_EQ(BadSettingsText({bad.begin(), bad.begin() + 11}, Texts), expected + L"\r\nand 1 more");
+  EXPECT_EQ(BadSettingsText({bad.begin(), bad.begin() + 10}, Texts), expected);
 }
 
 }  // namespace

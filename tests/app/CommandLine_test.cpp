@@ -48,7 +48,7 @@ TEST(ReadCommandLine, WithoutASlashIsOnePath) {
 }
 
 TEST(ReadCommandLine, TakesTheFirstOccurrenceOfEachSwitchInAnyOrder) {
-  const CommandLine command = ReadCommandLine(L"/g /o out /t x /d C:\\b /f a.fvf /d C:\\c");
+  const CommandLine command = ReadCommandLine(L"/g /o out /t x /d C:\\b /f a.fvf /d C:\\c /t t /o in");
   EXPECT_TRUE(command.HasSwitches);
   EXPECT_EQ(command.FilterFile, L"a.fvf");
   EXPECT_EQ(command.Directory, L"C:\\b");

@@ -20,5 +20,9 @@ TEST_F(SettingsStoreTest, FindsWhatItWroteIntoASectionThatWasNotThere) {
   EXPECT_EQ(store.GetStoreSetting(L"Settings", L"Other", L"preset"), L"preset");
 }
 
+TEST_F(SettingsStoreTest, OfTheUserAlwaysHoldsSettings) {
+  EXPECT_TRUE(SettingsStore().HoldsSettings());
+}
+
 }  // namespace
 }  // namespace folivant

@@ -272,7 +272,7 @@ Run = collections.namedtuple('Run', 'status output seconds')
 def run_tests(program, tests, seconds, **environment):
     """What came of it, and the processor time it took. It ends after so many seconds of that, and in any case after two
     minutes; endless loops often take memory."""
-    command = ['nice', 'prlimit', f'--cpu={seconds}', '--as=4000000000', '--core=0', '--fsize=6000000000', BUILD / program,
+    command = ['nice', 'prlimit', f'--cpu={seconds}', '--as=4000000000', '--core=0', '--fsize=20000000000', BUILD / program,
                '--gtest_fail_fast', '--gtest_brief=1', '--gtest_color=no', '--gtest_filter=' + ':'.join(tests)]
     with tempfile.TemporaryDirectory(prefix='mutant') as folder, tempfile.TemporaryFile() as output:
         process = subprocess.Popen(command, stdout=output, stderr=output, stdin=subprocess.DEVNULL, cwd=folder,

@@ -59,10 +59,11 @@ class Context:
     """What a node must know of those around it."""
 
     def __init__(self, name='', function=None, at_run_time=False, in_lambda=False, ends_in_return=True, constant=None,
-                 last=None):
+                 last=None, head=''):
         self.name, self.function, self.at_run_time = name, function, at_run_time
         self.in_lambda, self.ends_in_return, self.constant = in_lambda, ends_in_return, constant
         self.last = last  # where the function's last statement ends
+        self.head = head  # the function's text before its body
 
     def but(self, **changes):
         made = Context(**vars(self))
@@ -185,12 +186,14 @@ class Source:
             names.insert(0, at.spelling)
             at = at.semantic_parent
         body = next((c for c in node.get_children() if c.kind == K.COMPOUND_STMT), None)
-        head = self.text(node.extent.start.offset, body.extent.start.offset if body else node.extent.end.offset)
+        # Attributes stand before what counts as the function.
+        begin = self.bytes.rfind(b'\n', 0, node.extent.start.offset) + 1
+        head = self.text(begin, body.extent.start.offset if body else node.extent.end.offset)
         last = list(body.get_children())[-1:] if body else []
         return Context(name='::'.join(re.sub(r'<.*', '', n) if not n.startswith('operator') else n for n in names),
                        function=node, at_run_time=bool(re.search(r'\bconst(expr|eval)\b', head)),
                        ends_in_return=not last or last[0].kind == K.RETURN_STMT,
-                       last=last[0].extent.end.offset if last else None)
+                       last=last[0].extent.end.offset if last else None, head=head)
 
     def walked(self, node, context):
         kind, children = node.kind, list(node.get_children())
@@ -245,7 +248,8 @@ class Source:
         if kind in (K.BREAK_STMT, K.CONTINUE_STMT) or (kind == K.RETURN_STMT and not list(node.get_children())):
             change = self.of(node) + ' removed'
         elif kind == K.CXX_THROW_EXPR or self.of(node).startswith('throw '):
-            if context.function.result_type.kind != TypeKind.VOID and not context.ends_in_return:
+            if 'noreturn' in context.head or (context.function.result_type.kind != TypeKind.VOID and
+                                              not context.ends_in_return):
                 return
             change = 'throw removed'
         elif kind.is_expression() and kind != K.LAMBDA_EXPR and not self.of(node).startswith('static_cast<void>'):

@@ -140,6 +140,30 @@ TEST_F(Room, UnprintableBordersCountAsPaper) {
   EXPECT_FALSE(Prints(ListingStyle::FullPathList));
 }
 
+TEST_F(Room, MarginsAreToBlameOnlyWhereALineFitsWithoutThem) {
+  // Without margins the header and two lines below it take 176 + 3 x 220, the free lines 4 x 220, and "W..." 480.
+  const std::wstring margins = L"margins: Left: 1; Top: 1; Right: 1; Bottom: 1 in";
+  printer.Area = {480, 1716, 0, 0, 0, 0};
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), margins);
+  printer.Area.Height -= 1;
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 10");
+  printer.Area = {479, 1716, 0, 0, 0, 0};
+  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 10");
+}
+
+TEST_F(Room, TheSheetEndsWhereItsBordersEnd) {
+  // The bottom margin lies beyond the sheet: lines begin at 2,276 and keep 4 x 220 free, 600 of them border.
+  printer.Area = {12000, 2276 + 880 - 600, 0, 0, 0, 600};
+  General.MarginBottom = -1;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+  printer.Area.Height -= 1;
+  EXPECT_FALSE(Prints(ListingStyle::FullPathList));
+  // The first line stands 164 above what can be printed, and on the sheet.
+  printer.Area = {12000, 15000, 0, 1000, 0, 0};
+  General.MarginTop = 0;
+  EXPECT_TRUE(Prints(ListingStyle::FullPathList));
+}
+
 TEST_F(Room, ALeftMarginMayBeLittleMoreThanTheBorder) {
   printer.Area = {10000, 16000, 1000, 0, 1000, 0};  // one inch is 440 more
   EXPECT_TRUE(Prints(ListingStyle::FullPathList));
@@ -188,8 +212,10 @@ TEST_F(Room, TheHeadersLargerFontIsNotToBlameForWhatItDoesNotTake) {
   General.FontSize = 24;  // five columns take 13,824 of 12,000, whatever the header's font
   EXPECT_EQ(Outcome(ListingStyle::NoSubdirectories), L"font: Courier New, 24");
   General.FontSize = 100;
-  General.FontSizeHF = 99;
-  EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
+  for (const std::int32_t noLarger : {99, 100}) {
+    General.FontSizeHF = noLarger;
+    EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");
+  }
   General.FontSizeHF = 300;
   General.Font80HF = true;  // then it is not in use
   EXPECT_EQ(Outcome(ListingStyle::FullPathList), L"font: Courier New, 100");

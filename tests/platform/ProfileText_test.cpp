@@ -45,6 +45,7 @@ TEST(ProfileText, SkipsCommentsAndLinesWithoutEquals) {
 
 TEST(ProfileText, ASectionsNameGoesUpToTheLastBracket) {
   EXPECT_EQ(Value("[a]b]\nk=1\n", L"a]b", L"k"), L"1");
+  EXPECT_EQ(Value(" \t[S]\nk=1\n", L"S", L"k"), L"1") << "and begins after blanks";
 }
 
 TEST(ProfileText, TakesEveryKindOfLineEnd) {
@@ -88,6 +89,10 @@ TEST(ProfileText, ReadsWhatItWrote) {
     text.Write(L"S", L"k", value);
     EXPECT_EQ(ProfileText(text.Bytes()).Read(L"S", L"k"), value);
   }
+}
+
+TEST(ProfileText, ReplacesAValueThatHoldsEquals) {
+  EXPECT_EQ(Written("[S]\r\nk=a=b\r\n", L"S", L"k", L"c"), "[S]\r\nk=c\r\n");
 }
 
 TEST(ProfileText, CannotBeBrokenByALineBreak) {

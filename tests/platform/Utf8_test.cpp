@@ -57,6 +57,28 @@ TEST(Utf8, AnUnpairedSurrogateIsWrittenAsWhatIsNoUtf8) {
   EXPECT_NE(FromUtf8(ToUtf8(half)), half);
 }
 
+// Halves of pairs at both ends of their ranges, and what is next to them; nothing of it is a pair.
+TEST(Utf8, WhatIsNoPairIsWrittenOneByOne) {
+  const std::map<std::vector<int>, std::string> rows{
+      {{0xD800}, "\xED\xA0\x80"},
+      {{0xDC00}, "\xED\xB0\x80"},
+      {{0xD800, 0xD800}, "\xED\xA0\x80\xED\xA0\x80"},
+      {{0xDBFF, 0xDBFF}, "\xED\xAF\xBF\xED\xAF\xBF"},
+      {{0xDC00, 0xDC00}, "\xED\xB0\x80\xED\xB0\x80"},
+      {{0xDFFF, 0xDC00}, "\xED\xBF\xBF\xED\xB0\x80"},
+      {{0xD7FF, 0xDC00}, "\xED\x9F\xBF\xED\xB0\x80"},
+      {{0xD800, 0xE000}, "\xED\xA0\x80\xEE\x80\x80"},
+      {{0xD800, 0xDBFF}, "\xED\xA0\x80\xED\xAF\xBF"},
+  };
+  for (const auto& [units, bytes] : rows) {
+    std::wstring text;
+    for (const int unit : units) {
+      text += static_cast<wchar_t>(unit);
+    }
+    EXPECT_EQ(ToUtf8(text), bytes);
+  }
+}
+
 Utf8Check Checked(const std::vector<std::string>& pieces) {
   Utf8Check check;
   for (const std::string& piece : pieces) {

@@ -41,6 +41,7 @@ TEST(WildcardPatternTest, FollowsEachSpecialCharacter) {
       {L"a#", L"a\x0663", false},  // a digit of another script
       {L"[abc]", L"b", true},
       {L"[abc]", L"d", false},
+      {L"[acx]", L"b", false},
       {L"[abc]", L"", false},
       {L"[a-c]x", L"bx", true},
       {L"[a-c]x", L"dx", false},

@@ -12,6 +12,8 @@ TEST(ProperNameTest, RecasesNamesOfOneCaseOnly) {
       {L"README.TXT", L"Readme.txt"},
       {L"readme.txt", L"Readme.txt"},
       {L"ReadMe.txt", L"ReadMe.txt"},
+      {L"aZ", L"aZ"},
+      {L"zA", L"zA"},
       {L"a", L"A"},
       {L"A", L"A"},
       {L"123.456", L"123.456"},

@@ -113,6 +113,15 @@ TEST(PathListLines, ALineWithoutEndIsCut) {
   EXPECT_EQ(LinesOf(std::string(3 * megabyte, 'x')), Lines{std::wstring(megabyte, L'x')});
 }
 
+TEST(PathListLines, ALineOfUtf16IsCutBetweenItsUnits) {
+  const std::size_t megabyte = std::size_t{1024} * 1024;
+  const std::wstring text = std::wstring(2 * megabyte, L'x') + L"\nC:\\next";
+  for (const std::string& bytes :
+       {"\xFF\xFE" + platform::ToUtf16(text), BigEndian("\xFF\xFE" + platform::ToUtf16(text))}) {
+    EXPECT_EQ(LinesOf(bytes), (Lines{std::wstring(megabyte / 2, L'x'), L"C:\\next"}));
+  }
+}
+
 /// Counts the events and cancels after some.
 class Watcher final : public Progress {
  public:

@@ -176,6 +176,7 @@ TEST_F(PathList, LinesOfWhichNoneIsAFullPathAreAnErrorThatNamesTheList) {
   const std::string utf16WithoutMark("C\0:\0\\\0D\0a\0t\0a\0", 14);
   for (const std::string& lines : {std::string("README.TXT\r\nBig.bin"), std::string("\r\nx"), utf16WithoutMark}) {
     EXPECT_EQ(ErrorOf(lines, FailedAction::ListPaths), L"C:\\list.txt");
+    EXPECT_EQ(Failure()->SystemCode(), 0U);
   }
 }
 
