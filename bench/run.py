@@ -79,7 +79,6 @@ class Trees:
     def __init__(self, scratch):
         self.scratch = scratch
         self.random = random.Random(20010203)
-        self.name_length = 0
 
     def files(self, directory, count):
         os.makedirs(directory, exist_ok=True)
@@ -87,7 +86,6 @@ class Trees:
         for number in range(count):
             letters = ''.join(self.random.choices('abcdefghijklmnopqrstuvwxyz', k=self.random.randint(4, 14)))
             name = f'{letters}{number}.{self.random.choice(("txt", "cpp", "html", "jpeg", "md"))}'
-            self.name_length += len(name)
             file = os.open(name, os.O_CREAT | os.O_WRONLY, 0o644, dir_fd=handle)
             os.ftruncate(file, self.random.choice((0, 777, 54_321, 9_876_543)))
             os.utime(file, (0, self.random.randint(300_000_000, 1_700_000_000)))
@@ -210,7 +208,7 @@ def orders(bench, small, large):
     return table('200,000 files in one directory against 100,000', ['Order', 'A to Z', 'Z to A'], rows)
 
 
-def memory(bench, few, many, nodes, name_length):
+def memory(bench, few, many, nodes):
     """Peaks of the host program. `few` and `many` hold 100 files in each directory, `nodes` one in each; all are pairs
     of a tree and its number of directories."""
     host = [HOUSE / 'build/host-release/folivant-host']
@@ -228,13 +226,9 @@ def memory(bench, few, many, nodes, name_length):
         rows.append([name, f'{peak(few[0], style):,} kB', f'{peak(many[0], style):,} kB'])
     lines = table('Peak memory, streaming styles',
                   ['Style', f'{few[1]:,} directories', f'{many[1]:,} directories'], rows)
-    # Texts of an entry: its name, eight characters of size or fewer, sixteen of date; four bytes each.
-    tree = growth(few, many, 2) / 100
-    # The texts of a node: its name.
-    view = growth(*nodes, 3)
-    rows = [['Tree-style, per entry', f'{tree:.0f}', f'{tree - 4 * (name_length + 5 + 16):.0f}'],
-            ['Directory view, per directory', f'{view:.0f}', f'{view - 4 * 11:.0f}']]
-    return lines + table(COLLECTING, ['Style', 'All', 'Beyond texts'], rows)
+    rows = [['Tree-style, per entry', f'{growth(few, many, 2) / 100:.0f}'],
+            ['Directory view, per directory', f'{growth(*nodes, 3):.0f}']]
+    return lines + table(COLLECTING, ['Style', 'Bytes'], rows)
 
 
 def under_wine(bench, trees, empty):
@@ -369,7 +363,6 @@ def main():
 def measure(bench, make, parts, scale):
     many = max(1, int(3000 * scale))
     trees = {WIDE: make.wide('wide', many, 100)}
-    name_length = make.name_length / (many * 100)
     few = make.wide('few', max(1, many // 10), 100)
     large = max(2, int(200_000 * scale))
     trees[FLAT] = small_flat = make.flat(large // 2)
@@ -383,7 +376,7 @@ def measure(bench, make, parts, scale):
         lines += orders(bench, small_flat, large_flat)
     if 'memory' in parts:
         nodes = [(make.wide(f'nodes {count}', count, 1), count) for count in (many, 10 * many)]
-        lines += memory(bench, (few, max(1, many // 10)), (trees[WIDE], many), nodes, name_length)
+        lines += memory(bench, (few, max(1, many // 10)), (trees[WIDE], many), nodes)
     if 'wine' in parts or 'interpreter' in parts:
         end_wine = start_wine(bench)
         try:
