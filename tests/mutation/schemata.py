@@ -164,6 +164,8 @@ class Source:
             context = context.but(in_lambda=True)
         elif kind in (K.VAR_DECL, K.FIELD_DECL) and context.function is None:
             context = context.but(name=f'{context.name}::{node.spelling}' if kind == K.FIELD_DECL else node.spelling)
+        if kind == K.FIELD_DECL:
+            context = context.but(at_run_time=True)  # the compiler may make the object
         if kind == K.VAR_DECL:
             context = self.unfrozen(node, parent, context)
         self.mutate(node, parent, context)
