@@ -69,7 +69,7 @@ TEST_F(MainWindow, ACancelledSaveDialogListsNothing) {
   PostMessageW(dialog.Handle(), WM_COMMAND, IDCANCEL, 0);
   EXPECT_TRUE(dialog.WaitUntilGone());
   EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
-  EXPECT_EQ(program.Windows().size(), 1u) << "no message";
+  EXPECT_TRUE(WaitUntil([&] { return program.Windows().size() == 1; })) << "no message";
   Close(program, main);
 }
 
@@ -152,7 +152,7 @@ TEST_F(MainWindow, AFailedRunSaysSoAndRestoresTheWindow) {
   EXPECT_NE(box.BoxText().find(L"(32)"), std::wstring::npos) << "and the system's number";
   box.Answer(IDOK);
   EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
-  EXPECT_EQ(program.Windows().size(), 1u) << "the progress window is gone";
+  EXPECT_TRUE(WaitUntil([&] { return program.Windows().size() == 1; })) << "the progress window is gone";
   Close(program, main);
 }
 
