@@ -50,6 +50,11 @@ TEST_F(EntryTextsTest, WithoutAnAlternateNameTheDosNameIsTheNameInSmallLetters) 
   EXPECT_EQ(TextOf(&EntryTexts::AppendDosName), L"readme.txt");
 }
 
+TEST_F(EntryTextsTest, TheFirstDayOfAllHasItsText) {
+  Entry.ShownWrite = 0;
+  EXPECT_EQ(TextOf(&EntryTexts::AppendDate), L"01/01/1601 00:00");
+}
+
 TEST_F(EntryTextsTest, ADirectoryHasItsOwnSizeText) {
   Entry.Attributes = platform::kDirectory;
   EXPECT_EQ(TextOf(&EntryTexts::AppendSize), L"<DIR>   ");

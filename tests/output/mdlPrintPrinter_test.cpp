@@ -26,6 +26,14 @@ TEST_F(PageWriter, TheJobCarriesThePrinterSettings) {
   EXPECT_FALSE(job.Portrait);
 }
 
+TEST_F(PageWriter, AClosingLineTakesTheLastPlaceAboveTheFooter) {
+  // Entries and summary end at 3,376 + 44 x 220 + 440 = 13,496, and four lines above 14,560 is 13,680.
+  Begin(ListingStyle::IncludeSubdirectories);
+  ListDirectory(L"C:\\Data", 44);
+  writer->EndListing();
+  EXPECT_EQ(printer.At(1, kOrigin, 13'496), L"0 files, 0 directories, 0 b ");
+}
+
 TEST_F(PageWriter, TheDocumentIsNamedAfterTheStartPath) {
   Begin(ListingStyle::NoSubdirectories);
   EXPECT_EQ(printer.Titles, std::vector<std::wstring>{L"Folivant - C:\\Data"});

@@ -176,6 +176,26 @@ TEST_F(StreamingWalkTest, DepthIsNotLimitedByTheStack) {
   EXPECT_EQ(Run.Totals.TotalFiles, static_cast<std::int32_t>(kDepth) + 1);
 }
 
+/// Where the name of each directory's first entry lies.
+class PlacesOfNames final : public RecordingWriter {
+ public:
+  std::vector<const wchar_t*> Places;
+  void ListDirectory(const DirectoryListing& directory) override { Places.push_back(directory.Records[0].Name.data()); }
+};
+
+TEST_F(StreamingWalkTest, TheNamesOfADirectoryTakeThePlaceOfThoseBeforeIt) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Folder(L"B");
+  Tree().Dir(L"C:\\Data\\A").File(L"a");
+  Tree().Dir(L"C:\\Data\\B").File(L"b");
+  Format.ListingStyle = kDeep;
+  ASSERT_TRUE(SetStart(L"C:\\Data"));
+  PlacesOfNames writer;
+  RunListing(Run, writer, Rows);
+  ASSERT_EQ(writer.Places.size(), 3U);
+  EXPECT_EQ(writer.Places[1], writer.Places[0]);
+  EXPECT_EQ(writer.Places[2], writer.Places[0]);
+}
+
 TEST_F(StreamingWalkTest, TotalsCountEntriesAndDirectoriesThatListMoreThanSubdirectories) {
   Tree().Dir(L"C:\\Data").Folder(L"Sub").File(L"a.txt", 1'000);
   Tree().Dir(L"C:\\Data\\Sub").Folder(L"Empty").File(L"b.txt", 500);

@@ -52,6 +52,13 @@ TEST_F(TreeWalkTest, AnUnreadableSubdirectoryIsNotShown) {
   EXPECT_TRUE(Run.Unreadable);
 }
 
+TEST_F(TreeWalkTest, CancelIsSeenAfterADirectoryThatCannotBeRead) {
+  Tree().Dir(L"C:\\Data").Folder(L"A").Unreadable().Folder(L"B");
+  Watcher.CancelIn(L"C:\\Data\\A");
+  List(kTree);
+  EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data", L"C:\\Data\\A"));
+}
+
 TEST_F(TreeWalkTest, BelowTheDepthLimitNobodyKnowsThatADirectoryIsUnreadable) {
   Tree().Dir(L"C:\\Data\\Sub").Folder(L"Locked").Unreadable().Folder(L"Open");
   Tree().Dir(L"C:\\Data\\Sub\\Open").File(L"a");

@@ -278,6 +278,16 @@ TEST_F(PathList, AMissingFileIsAnErrorThatNamesItAndNothingIsListed) {
   EXPECT_EQ(rows.Lists, 0);
 }
 
+TEST_F(PathList, TheListIsNotTakenForADirectory) {
+  Lines("C:\\Data\\Big.bin");
+  RowKeeper rows;
+  FindCapture capture(Context);
+  ListingRun run = MakeRun();
+  RunListing(run, rows, capture);
+  EXPECT_EQ(rows.Lists, 1);
+  EXPECT_FALSE(run.Unreadable);
+}
+
 TEST_F(PathList, AMissingListIsAnErrorThatNamesIt) {
   const std::optional<RuntimeError> error = Failure();
   ASSERT_TRUE(error);
