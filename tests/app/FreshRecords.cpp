@@ -18,7 +18,6 @@ class FreshRecordsBeforeEachTest final : public testing::EmptyTestEventListener 
     mdlVars::OutputFile.clear();
     mdlVars::DatePattern.clear();
     mdlVars::FilterFile.clear();
-    mdlVars::UseFilterFile = false;
     mdlVars::Texts = {};
     mdlVars::HelpFile.clear();
     mdlVars::ManualFile.clear();

@@ -143,7 +143,7 @@ std::vector<std::wstring> FindNames(const std::wstring& folder, std::wstring_vie
 }
 
 std::wstring VolumeLabel(const std::wstring& root) {
-  const auto found = Fake().Labels.find(RootOf(root));
+  const auto found = Fake().Labels.find(ToUpper(root));
   return found == Fake().Labels.end() ? std::wstring() : found->second;
 }
 

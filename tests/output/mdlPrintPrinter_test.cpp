@@ -26,6 +26,12 @@ TEST_F(PageWriter, TheJobCarriesThePrinterSettings) {
   EXPECT_FALSE(job.Portrait);
 }
 
+TEST_F(PageWriter, PathsBeginAtTheLineOrigin) {
+  Begin(ListingStyle::FullPathList);
+  ListDirectory(L"C:\\Data", 1, L"Entry.txt");
+  EXPECT_EQ(printer.Find(1, L"C:\\Data\\Entry.txt").X, kOrigin);
+}
+
 TEST_F(PageWriter, AClosingLineTakesTheLastPlaceAboveTheFooter) {
   // Entries and summary end at 3,376 + 44 x 220 + 440 = 13,496, and four lines above 14,560 is 13,680.
   Begin(ListingStyle::IncludeSubdirectories);

@@ -149,6 +149,15 @@ TEST_F(PlainText, RoundsTheFractionOfAFileListsWidth) {
   EXPECT_EQ(Lines().back(), "abcdefghijklm...  C:\\a folder of 32 character....      1 kb  today           ");
 }
 
+TEST_F(PlainText, TheDateOfAFileListHasTheWidthOfDates) {
+  Style(ListingStyle::FindWindow);
+  plain_->BeginListing(Run);
+  const FoundItem row = {L"a", L"b", L"1 kb", L"12/31/2026 11:59:59 PM, in summer time"};
+  plain_->FindList({L"Found", {row}});
+  plain_->AbortListing();
+  EXPECT_TRUE(Lines().back().ends_with("    1 kb  12/31/2026 11:59"));
+}
+
 TEST_F(PlainText, ListsNothingButCaptionsForAnEmptyFindWindow) {
   Style(ListingStyle::FindWindow);
   csv_->BeginListing(Run);

@@ -176,6 +176,13 @@ TEST_F(StreamingWalkTest, DepthIsNotLimitedByTheStack) {
   EXPECT_EQ(Run.Totals.TotalFiles, static_cast<std::int32_t>(kDepth) + 1);
 }
 
+TEST_F(StreamingWalkTest, CancelIsSeenAfterALinkThatLeadsBack) {
+  Tree().Dir(L"C:\\Data").Link(L"Back", L"C:\\Data").Folder(L"Z");
+  Watcher.CancelIn(L"C:\\Data");
+  List(kDeep);
+  EXPECT_THAT(Watcher.Shown, ElementsAre(L"C:\\Data"));
+}
+
 /// Where the name of each directory's first entry lies.
 class PlacesOfNames final : public RecordingWriter {
  public:

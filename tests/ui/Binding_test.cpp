@@ -176,6 +176,12 @@ TEST(Binding, AnOffsetMovesTheWholeTable) {
   controls.CheckedButtons = {kRed + 1000, kGreen};
   Read<Colour>(controls, kButtons, colour, 1000);
   EXPECT_EQ(colour, Colour::Red);
+
+  constexpr Binding<Record> kTexts[] = {{kName, kNoCaption, Edits<&Record::Name>}};
+  Record record;
+  controls.SetText(kName + 1000, L"moved");
+  Read<Record>(controls, kTexts, record, 1000);
+  EXPECT_EQ(record.Name, L"moved");
 }
 
 std::wstring ProblemWith(const std::wstring& typed) {
