@@ -44,14 +44,21 @@ TEST(PackedStore, GivesBackNumbersAndTextsInTheirOrder) {
   EXPECT_EQ(TextOf(packed), L"");
 }
 
-// Twelve bytes each: 100,000 of them take more than one megabyte, the size of a block.
+TEST(PackedStore, TheFirstRecordMayBeOneByte) {
+  PackedRecord record;
+  record.Put(std::uint64_t{7});
+  PackedStore store;
+  EXPECT_EQ(store.Read(store.Add(record)).Number(), 7U);
+}
+
+// Twelve bytes each: more than five blocks of one megabyte.
 TEST(PackedStore, KeepsRecordsOfManyBlocksApart) {
   PackedStore store;
   std::vector<std::uint32_t> records;
-  for (int i = 0; i < 300'000; ++i) {
+  for (int i = 0; i < 500'000; ++i) {
     records.push_back(AddText(store, L"name " + std::to_wstring(100'000 + i)));
   }
-  for (int i = 0; i < 300'000; ++i) {
+  for (int i = 0; i < 500'000; ++i) {
     ASSERT_EQ(TextOf(store.Read(records[static_cast<std::size_t>(i)])), L"name " + std::to_wstring(100'000 + i));
   }
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,15 @@ TEST(TextArenaTest, ClearingReusesTheFirstBlock) {
   const wchar_t* first = arena.Add(L"a").data();
   arena.Add(std::wstring(200'000, L'x'));
   arena.Clear();
+  EXPECT_EQ(arena.Add(L"b").data(), first);
+}
+
+TEST(TextArenaTest, ClearingBeforeTheFirstTextChangesNothing) {
+  TextArena arena;
+  arena.Clear();
+  const wchar_t* first = arena.Add(L"a").data();
+  arena.Clear();
+  const auto takesWhatIsFree = std::make_unique_for_overwrite<wchar_t[]>(16 * 1024);
   EXPECT_EQ(arena.Add(L"b").data(), first);
 }
 

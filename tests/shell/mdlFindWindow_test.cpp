@@ -200,6 +200,8 @@ TEST_F(PrintFromFind, StopsAfterTheRowInWhichTheRunIsCancelled) {
   const FoundRows found = Read(run);
   EXPECT_TRUE(Cancelled);
   EXPECT_EQ(70 * 4, FindWindows().GetItemMessages);
+  // The number of rows, each cell's message, and two copies for each of the two blocks that were begun.
+  EXPECT_EQ(1 + 70 * 4 + 2 * 2, FindWindows().Calls);
   EXPECT_EQ(L"n69", found.Items[69].Name);
   EXPECT_EQ(L"", found.Items[70].Name);
 }

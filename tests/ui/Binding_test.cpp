@@ -107,6 +107,16 @@ TEST(Binding, OneButtonOfAGroupIsSetAndReadAsItsValue) {
   EXPECT_EQ(ReadBack(controls).Colour, Colour::Blue);
 }
 
+TEST(Binding, AButtonAloneIsAGroup) {
+  constexpr Binding<Colour> kButton[] = {{kRed, kNoCaption, Means<Colour::Red>}};
+  FakeControls controls;
+  Fill<Colour>(controls, kButton, Colour::Red);
+  EXPECT_EQ(controls.CheckedButtons, std::set<int>{kRed});
+  Colour colour = Colour::None;
+  Read<Colour>(controls, kButton, colour);
+  EXPECT_EQ(colour, Colour::Red);
+}
+
 TEST(Binding, AGroupWithoutAButtonForAValueSetsNoneAndIsReadAsItsLastRow) {
   Record record = Valid();
   record.Up = true;
@@ -179,6 +189,8 @@ TEST(Binding, AnOffsetMovesTheWholeTable) {
 
   constexpr Binding<Record> kTexts[] = {{kName, kNoCaption, Edits<&Record::Name>}};
   Record record;
+  Fill<Record>(controls, kTexts, {.Name = L"shown"}, 1000);
+  EXPECT_EQ(controls.TextOf(kName + 1000), L"shown");
   controls.SetText(kName + 1000, L"moved");
   Read<Record>(controls, kTexts, record, 1000);
   EXPECT_EQ(record.Name, L"moved");
@@ -197,6 +209,19 @@ std::wstring ProblemWith(const std::wstring& typed) {
     return ProblemOf(controls, error, SomeTexts());
   }
   return {};
+}
+
+TEST(Binding, AFieldIsCalledByItsCaptionWithoutTheMarks) {
+  FakeControls controls;
+  const auto nameFor = [&](const std::wstring& caption) {
+    controls.SetText(kName, caption);
+    return FieldNameOf(controls, kName);
+  };
+  EXPECT_EQ(nameFor(L"&Size:"), L"Size");
+  EXPECT_EQ(nameFor(L"Max. subdirectory &level:"), L"Max. subdirectory level");
+  EXPECT_EQ(nameFor(L"Date format :"), L"Date format");
+  EXPECT_EQ(nameFor(L"&Taille\u00A0:"), L"Taille");
+  EXPECT_EQ(nameFor(L":"), L"");
 }
 
 TEST(Binding, WhatDoesNotConvertIsToldByTheNameOfItsField) {
