@@ -37,14 +37,14 @@ std::wstring BadSettingsText(const std::vector<BadSetting>& bad, const Messages&
   if (bad.size() == 1) {
     return OneSetting(bad.front(), texts);
   }
-  // A line for each below the place where they stand.
+  // A line for each below the name of its store or file.
   std::wstring text;
-  std::wstring place;
+  std::wstring location;
   for (const BadSetting& setting : std::span(bad).first(std::min(bad.size(), kMostLines))) {
-    if (setting.Location != place) {
-      place = setting.Location;
+    if (setting.Location != location) {
+      location = setting.Location;
       text += text.empty() ? L"" : L"\r\n\r\n";
-      text += WithPlaceholders(texts[TextId::BadSettings], place) + L"\r\n";
+      text += WithPlaceholders(texts[TextId::BadSettings], location) + L"\r\n";
     }
     text += L"\r\n" + Line(setting);
   }

@@ -4,8 +4,8 @@
 
 namespace folivant {
 
-std::wstring WindowPositionText(WindowPosition place) {
-  return WholeText(place.Left) + L"," + WholeText(place.Top);
+std::wstring WindowPositionText(WindowPosition position) {
+  return WholeText(position.Left) + L"," + WholeText(position.Top);
 }
 
 std::optional<WindowPosition> ParseWindowPosition(std::wstring_view text) {

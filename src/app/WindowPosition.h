@@ -18,7 +18,7 @@ struct WindowPosition {
 };
 
 /// "120,-40"
-std::wstring WindowPositionText(WindowPosition place);
+std::wstring WindowPositionText(WindowPosition position);
 /// Nothing when the text is not exactly two numbers with a comma between them.
 std::optional<WindowPosition> ParseWindowPosition(std::wstring_view text);
 

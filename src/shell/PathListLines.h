@@ -15,8 +15,8 @@ namespace folivant {
 
 class PathListLines {
  public:
-  /// Looks the file through for its encoding. `progress` lets events through meanwhile and may cancel: there are no
-  /// more lines then. Throws RuntimeError (ReadFile), as does Next.
+  /// Looks the file through for its encoding. `progress` lets events through meanwhile and may cancel: no more
+  /// is read then, but lines that were read are still handed out. Throws RuntimeError (ReadFile), as does Next.
   PathListLines(const std::wstring& path, Progress& progress);
 
   /// The full path of the file, for messages.

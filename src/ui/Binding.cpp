@@ -1,7 +1,7 @@
 #include "ui/Binding.h"
 
+#include "base/mdlFileRoutines.h"
 #include "res/Controls.h"
-#include "ui/FieldText.h"
 #include "ui/Language.h"
 
 namespace folivant {
@@ -15,7 +15,10 @@ int CaptionedBy(const Controls& controls, int control) {
 }  // namespace
 
 std::wstring FieldNameOf(const Controls& controls, int control) {
-  return FieldName(controls.TextOf(CaptionedBy(controls, control)));
+  std::wstring name = Trim(ReplaceAll(controls.TextOf(CaptionedBy(controls, control)), L"&", L""));
+  // French has a blank that does not break before the colon.
+  name.erase(name.find_last_not_of(L": \u00A0") + 1);
+  return name;
 }
 
 std::wstring ProblemOf(const Controls& controls, const FieldError& error, const Messages& texts) {

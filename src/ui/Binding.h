@@ -31,7 +31,7 @@ struct Binding {
 /// For tables that only set captions.
 struct NoRecord {};
 
-/// How a message calls the field.
+/// How a message calls the field: its caption without the mnemonic's "&" and without a colon and blanks at the end.
 std::wstring FieldNameOf(const Controls& controls, int control);
 /// The sentence about what was typed.
 std::wstring ProblemOf(const Controls& controls, const FieldError& error, const Messages& texts);

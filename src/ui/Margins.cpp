@@ -5,7 +5,6 @@
 
 #include "base/mdlFileRoutines.h"
 #include "platform/RuntimeError.h"
-#include "ui/FieldText.h"
 
 namespace folivant {
 namespace {

@@ -6,13 +6,13 @@
 namespace folivant {
 
 void RestorePosition(HWND window) {
-  const auto place = ParseWindowPosition(platform::StoreSection(kPositionSection).Read(kPositionKey).value_or(L""));
+  const auto position = ParseWindowPosition(platform::StoreSection(kPositionSection).Read(kPositionKey).value_or(L""));
   RECT frame{};
   GetWindowRect(window, &frame);
-  if (!place) {
+  if (!position) {
     return;
   }
-  OffsetRect(&frame, place->Left - frame.left, place->Top - frame.top);
+  OffsetRect(&frame, position->Left - frame.left, position->Top - frame.top);
   const RECT title{frame.left, frame.top, frame.right, frame.top + GetSystemMetrics(SM_CYCAPTION)};
   if (MonitorFromRect(&title, MONITOR_DEFAULTTONULL) != nullptr) {
     SetWindowPos(window, nullptr, frame.left, frame.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
