@@ -1,15 +1,16 @@
 #!/bin/bash
 # Runs a Windows program under Wine. About one start in some thousand dies before the program runs: Wine could not map the
 # page that all programs share with its server (two of the three messages that tell of it come through an error channel,
-# which has to be let through), or it ended without a word. Such a start, and nothing else, is tried again, and says so. A
-# test program that has run has at least printed its first line.
+# which has to be let through), or it ended without a word. Rarer still, the system's loader below Wine fails as it unloads
+# its libraries, after all is done. Such a run, and nothing else, is tried again, and says so. A test program that has run
+# has at least printed its first line.
 errors=$(mktemp)
 output=$(mktemp)
 trap 'rm -f "$errors" "$output"' EXIT
 
-died_before_main() {
+wine_failed() {
   grep -q -e 'failed to map the shared user data' -e 'failed to open the USD section' \
-    -e 'failed to remap the process USD' "$errors" && return
+    -e 'failed to remap the process USD' -e 'Inconsistency detected by ld.so: dl-fini' "$errors" && return
   [[ $1 == *_tests.exe ]] && [ $status -ne 0 ] && [ ! -s "$errors" ] && [ ! -s "$output" ]
 }
 
@@ -23,7 +24,7 @@ for try in 1 2 3; do
     status=$?
   fi
   cat "$errors" >&2
-  died_before_main "$1" || break
-  echo "$1 ended with status $status before it ran." >&2
+  wine_failed "$1" || break
+  echo "$1 ended with status $status because of Wine." >&2
 done
 exit $status
