@@ -11,6 +11,8 @@ struct CalendarTime {
 };
 /// Local time now.
 CalendarTime Now();
+/// The same moment as a file time: 100 ns since 1601, UTC.
+std::uint64_t UtcNow();
 
 /// How far local time is ahead of UTC now, in units of file times (100 ns). Asked once in a run: all its times then
 /// agree, and a change of the zone or of daylight saving shows in the next run.

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/SystemReason.h"
+
 namespace folivant::platform {
 
 // Attribute bits, as the file system numbers them.
@@ -23,6 +25,9 @@ struct FindData {
   std::uint32_t Attributes = 0;
   /// UTC, 100-nanosecond units since 1601-01-01. FileDateOf (scan/FileDates.h) converts it in place.
   std::uint64_t LastWrite = 0;
+  std::uint64_t Created = 0;        ///< like LastWrite; 0 where the file system keeps no such time
+  std::uint64_t LastAccess = 0;     ///< the same
+  std::uint32_t ReparseTag = 0;     ///< what a reparse point is; 0 for all else, and where the system does not say
   std::uint64_t Size = 0;           ///< bytes; 0 for a directory
   std::wstring_view Name;           ///< as on disk; valid until the next call of Next
   std::wstring_view AlternateName;  ///< the 8.3 name; empty when Name is one already or when it was not asked for
@@ -30,6 +35,13 @@ struct FindData {
   bool IsDirectory() const { return (Attributes & kDirectory) != 0; }
   bool IsLink() const { return (Attributes & kLink) != 0; }
 };
+
+/// Whether an entry is a link: a reparse point that stands in for another file or directory. One without a tag is taken
+/// for a link, and a file that lies in a cloud is none.
+constexpr bool StandsForAnother(std::uint32_t attributes, std::uint32_t reparseTag) {
+  constexpr std::uint32_t kNameSurrogate = 0x20000000;
+  return (attributes & kLink) != 0 && (reparseTag == 0 || (reparseTag & kNameSurrogate) != 0);
+}
 
 /// Whether an enumeration asks for 8.3 names: on some file systems they cost more than everything else together.
 enum class ShortNames { Skip, Read };
@@ -47,6 +59,8 @@ class FindFiles {
   /// Fills `data` with the next entry; false at the end. A failure in mid-enumeration ends it and makes Failed true.
   bool Next(FindData& data);
   bool Failed() const;
+  /// Why Opened is false or Failed true.
+  SystemReason Reason() const;
 
  private:
   struct State;

@@ -1,4 +1,5 @@
-// The file that a listing is written to: wide text in, bytes of the system's ANSI code page out, in large blocks.
+// The file that a listing is written to, in large blocks: wide text in and bytes of the system's ANSI code page out, or
+// bytes as they are. A file is written in one of the two ways, from its beginning to its end.
 #pragma once
 
 #include <memory>
@@ -19,6 +20,8 @@ class OutputFile {
   bool IsOpen() const;
   /// Characters that the code page lacks become the system's best fit or "?". Throws RuntimeError (WriteFile).
   void Write(std::wstring_view text);
+  /// Throws RuntimeError (WriteFile).
+  void WriteBytes(std::string_view bytes);
   /// Writes what is buffered and closes. Throws RuntimeError (WriteFile); the file is closed then as well.
   void Close();
 

@@ -118,6 +118,15 @@ void ProfileText::Write(const std::wstring& section, const std::wstring& key, st
   Index();
 }
 
+void ProfileText::Remove(const std::wstring& section, const std::wstring& key) {
+  const auto name = std::pair(ToLower(section), ToLower(key));
+  // A second line of the name would hold in place of the first.
+  for (auto keyLine = index_.find(name); keyLine != index_.end(); keyLine = index_.find(name)) {
+    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(keyLine->second));
+    Index();
+  }
+}
+
 std::string ProfileText::Bytes() const {
   std::wstring text;
   for (const std::wstring& line : lines_) {

@@ -28,6 +28,9 @@ class ProfileText {
   /// reading would strip (outer blanks or quotes) is put in quotes; it ends at its first line break.
   void Write(const std::wstring& section, const std::wstring& key, std::wstring value);
 
+  /// Takes the key out, if it is there, with its line.
+  void Remove(const std::wstring& section, const std::wstring& key);
+
   /// The text as a file's bytes, in the encoding that the file had; a new one is ANSI. What that cannot hold makes it
   /// UTF-16 with its mark, which the system's own profile functions read, too.
   std::string Bytes() const;

@@ -29,6 +29,8 @@ class StoreSection {
 
 /// Throws RuntimeError (WriteSetting) that names section and key.
 void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value);
+/// Takes the key out, if it is there. Throws like WriteStore.
+void RemoveFromStore(const std::wstring& section, const std::wstring& key);
 /// The store's name for messages: "HKEY_CURRENT_USER\Software\Folivant 3.0\<section>" or the file's path.
 std::wstring StoreName(const std::wstring& section);
 

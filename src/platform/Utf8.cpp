@@ -92,7 +92,11 @@ char32_t Take(std::wstring_view& text) {
   return character;
 }
 
-void AppendUtf8(char32_t c, std::string& bytes) {
+constexpr bool IsSurrogate(char32_t c) {
+  return c >= 0xD800 && c < 0xE000;
+}
+
+void Encode(char32_t c, std::string& bytes) {
   const auto tail = [&](int shift) { bytes += static_cast<char>(0x80 | (c >> shift & 0x3F)); };
   if (c < 0x80) {
     bytes += static_cast<char>(c);
@@ -138,11 +142,27 @@ std::wstring FromUtf8(std::string_view bytes) {
   return text;
 }
 
+void AppendUtf8(std::wstring_view text, std::string& bytes) {
+  while (!text.empty()) {
+    const char32_t character = Take(text);
+    Encode(IsSurrogate(character) ? kReplacement : character, bytes);
+  }
+}
+
+bool IsUnpaired(std::wstring_view text, std::size_t at) {
+  const auto isHigh = [&](std::size_t i) { return i < text.size() && text[i] >= 0xD800 && text[i] < 0xDC00; };
+  const auto isLow = [&](std::size_t i) { return i < text.size() && text[i] >= 0xDC00 && text[i] < 0xE000; };
+  if (isHigh(at)) {
+    return !kPairs || !isLow(at + 1);
+  }
+  return isLow(at) && (!kPairs || at == 0 || !isHigh(at - 1));
+}
+
 std::string ToUtf8(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   while (!text.empty()) {
-    AppendUtf8(Take(text), bytes);
+    Encode(Take(text), bytes);
   }
   return bytes;
 }

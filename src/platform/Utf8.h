@@ -14,6 +14,10 @@ std::wstring FromUtf8(std::string_view bytes);
 std::size_t FromUtf8Into(std::string_view bytes, wchar_t* out);
 /// Unpaired halves of surrogate pairs are written like other characters, and are then no valid UTF-8.
 std::string ToUtf8(std::wstring_view text);
+/// Always valid: unpaired halves become U+FFFD.
+void AppendUtf8(std::wstring_view text, std::string& bytes);
+/// Whether the character at `at` is half of a surrogate pair without its other half.
+bool IsUnpaired(std::wstring_view text, std::size_t at);
 
 /// Whether bytes that come in pieces, cut anywhere, are UTF-8.
 class Utf8Check {

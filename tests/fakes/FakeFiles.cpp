@@ -181,14 +181,17 @@ bool OutputFile::IsOpen() const {
 }
 
 void OutputFile::Write(std::wstring_view text) {
-  const std::string bytes = ToAnsi(text);
+  WriteBytes(ToAnsi(text));
+}
+
+void OutputFile::WriteBytes(std::string_view bytes) {
   std::size_t count = bytes.size();
   auto& room = Fake().DiskFullAfter;
   if (room) {
     count = static_cast<std::size_t>(std::min<std::uint64_t>(count, *room));
     *room -= count;
   }
-  state_->Node->Content.append(bytes, 0, count);
+  state_->Node->Content.append(bytes.substr(0, count));
   state_->Node->Size += count;
   if (count < bytes.size()) {
     Throw(FailedAction::WriteFile, state_->Path, fakes::DiskFull());

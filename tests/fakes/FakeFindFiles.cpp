@@ -11,6 +11,9 @@ namespace {
 void FillFrom(const FakeNode& node, FindData& data) {
   data.Attributes = node.Attributes;
   data.LastWrite = node.LastWrite;
+  data.Created = node.Created;
+  data.LastAccess = node.LastAccess;
+  data.ReparseTag = node.ReparseTag;
   data.Size = node.Size;
 }
 
@@ -38,6 +41,10 @@ bool FindFiles::Opened() const {
 }
 bool FindFiles::Failed() const {
   return state_->Failed;
+}
+
+SystemReason FindFiles::Reason() const {
+  return {5, L"Access is denied."};
 }
 
 bool FindFiles::Next(FindData& data) {

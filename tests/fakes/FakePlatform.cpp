@@ -52,6 +52,10 @@ namespace folivant::platform {
 
 using fakes::Fake;
 
+std::uint64_t UtcNow() {
+  return fakes::FileTime(Fake().Now) - static_cast<std::uint64_t>(LocalOffset());
+}
+
 CalendarTime Now() {
   return Fake().Now;
 }
@@ -120,6 +124,13 @@ void WriteStore(const std::wstring& section, const std::wstring& key, const std:
     throw RuntimeError(FailedAction::WriteSetting, StoreName(section) + L"\\" + key, failure->Text, failure->Code);
   }
   Fake().Store[{section, key}] = value;
+}
+
+void RemoveFromStore(const std::wstring& section, const std::wstring& key) {
+  if (const auto& failure = Fake().FailStoreWrites) {
+    throw RuntimeError(FailedAction::WriteSetting, StoreName(section) + L"\\" + key, failure->Text, failure->Code);
+  }
+  Fake().Store.erase({section, key});
 }
 
 std::wstring StoreName(const std::wstring& section) {

@@ -94,6 +94,23 @@ FakeDir& FakeDir::AddAttributes(std::uint32_t bits) {
   return *this;
 }
 
+FakeDir& FakeDir::Times(std::uint64_t created, std::uint64_t lastAccess) {
+  last_->Created = created;
+  last_->LastAccess = lastAccess;
+  return *this;
+}
+
+FakeDir& FakeDir::Tag(std::uint32_t reparseTag) {
+  last_->ReparseTag = reparseTag;
+  return *this;
+}
+
+FakeDir& FakeDir::Owner(std::wstring_view owner, std::uint32_t links) {
+  last_->Owner = owner;
+  last_->Links = links;
+  return *this;
+}
+
 FakeDir& FakeDir::Unreadable() {
   last_->Unreadable = true;
   return *this;

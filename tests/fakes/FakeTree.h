@@ -28,6 +28,11 @@ struct FakeNode {
   std::wstring ShortName;        ///< 8.3 name; empty when Name is one
   std::uint32_t Attributes = 0;  ///< platform::kDirectory and so on
   std::uint64_t LastWrite = 0;   ///< UTC file time
+  std::uint64_t Created = 0;     ///< the same
+  std::uint64_t LastAccess = 0;  ///< the same
+  std::uint32_t ReparseTag = 0;
+  std::wstring Owner = L"HOME\\anna";
+  std::uint32_t Links = 1;
   std::uint64_t Size = 0;
   std::string Content;
   std::wstring LinkTarget;               ///< full path; set for links to directories
@@ -62,10 +67,13 @@ class FakeDir {
   FakeDir& Short(std::wstring_view shortName);
   FakeDir& Written(const platform::CalendarTime& utc);
   FakeDir& Written(std::uint64_t utc);
-  FakeDir& Attributes(std::uint32_t bits);     ///< replaces all but the directory and link bits
-  FakeDir& AddAttributes(std::uint32_t bits);  ///< on top of those there
-  FakeDir& Unreadable();                       ///< its own entry is listed, opening it fails
-  FakeDir& FailsAfter(std::size_t entries);    ///< enumerating it breaks off
+  FakeDir& Attributes(std::uint32_t bits);                          ///< replaces all but the directory and link bits
+  FakeDir& AddAttributes(std::uint32_t bits);                       ///< on top of those there
+  FakeDir& Times(std::uint64_t created, std::uint64_t lastAccess);  ///< UTC
+  FakeDir& Tag(std::uint32_t reparseTag);
+  FakeDir& Owner(std::wstring_view owner, std::uint32_t links = 1);
+  FakeDir& Unreadable();                     ///< its own entry is listed, opening it fails
+  FakeDir& FailsAfter(std::size_t entries);  ///< enumerating it breaks off
 
  private:
   FakeTree* tree_;

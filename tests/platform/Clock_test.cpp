@@ -40,6 +40,12 @@ TEST(Clock, TellsLocalTime) {
   EXPECT_NEAR(std::difftime(std::mktime(&shown), before), 0, 2);
 }
 
+TEST(Clock, TellsTheTimeInUtc) {
+  constexpr std::int64_t kFrom1601To1970 = 11'644'473'600;
+  const std::int64_t seconds = static_cast<std::int64_t>(UtcNow() / kTicks) - kFrom1601To1970;
+  EXPECT_NEAR(static_cast<double>(seconds), static_cast<double>(std::time(nullptr)), 2);
+}
+
 TEST(ToLocalFileTime, ShiftsEveryDateByTodaysOffset) {
   const std::int64_t shift = OffsetToday() * static_cast<std::int64_t>(kTicks);
   const std::uint64_t january = 12'600'000'000 * kTicks + 5;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <map>
 #include <set>
 
@@ -133,6 +134,31 @@ TEST(FindFiles, ReportsTheLastWriteInUtc) {
   ASSERT_TRUE(entry);
   constexpr std::uint64_t kExpected = 12'644'473'600ULL * 10'000'000;
   EXPECT_NEAR(static_cast<double>(entry->Data.LastWrite), static_cast<double>(kExpected), 2e7);  // two seconds
+}
+
+TEST(FindFiles, ReportsWhenAnEntryWasMadeAndRead) {
+  constexpr double kFrom1601To1970 = 11'644'473'600;
+  const Scratch scratch;
+  const std::wstring path = scratch.MakeFile(L"a.txt");
+  FindFiles files(scratch.Folder(), ShortNames::Skip);
+  FindData data;
+  ASSERT_TRUE(files.Next(data));
+  const auto entry = FindEntry(path);
+  ASSERT_TRUE(entry);
+  for (const FindData& seen : {data, entry->Data}) {
+    for (const std::uint64_t time : {seen.Created, seen.LastAccess}) {
+      EXPECT_NEAR(static_cast<double>(time) / 1e7 - kFrom1601To1970, static_cast<double>(std::time(nullptr)), 60);
+    }
+    EXPECT_EQ(seen.ReparseTag, 0U);
+  }
+}
+
+TEST(FindFiles, SaysWhyADirectoryCannotBeRead) {
+  const Scratch scratch;
+  FindFiles files(scratch.Path(L"missing"), ShortNames::Skip);
+  EXPECT_FALSE(files.Opened());
+  EXPECT_NE(files.Reason().Code, 0U);
+  EXPECT_NE(files.Reason().Text, L"");
 }
 
 TEST(FindFiles, GoesDeeperThanThePathLimit) {

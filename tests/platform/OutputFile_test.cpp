@@ -34,6 +34,18 @@ TEST(OutputFile, WritesTheAnsiCodePage) {
   EXPECT_EQ(Written(L""), "");
 }
 
+TEST(OutputFile, WritesBytesAsTheyAre) {
+  const Scratch scratch;
+  OutputFile file;
+  file.Open(scratch.Path(L"out.txt"));
+  file.WriteBytes(std::string_view("\xC3\xA4\0\r\n", 5));
+  file.WriteBytes({});
+  file.WriteBytes(std::string(300'000, 'x'));  // more than a block
+  file.WriteBytes("\x80");
+  file.Close();
+  EXPECT_EQ(scratch.Content(L"out.txt"), std::string("\xC3\xA4\0\r\n", 5) + std::string(300'000, 'x') + "\x80");
+}
+
 TEST(OutputFile, TruncatesWhatWasThere) {
   const Scratch scratch;
   scratch.MakeFile(L"out.txt", "a much longer content than the new one");

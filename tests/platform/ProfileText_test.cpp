@@ -83,6 +83,16 @@ TEST(ProfileText, AddsASectionAtTheEnd) {
   EXPECT_EQ(Written("", L"T", L"b", L"2"), "[T]\r\nb=2\r\n");
 }
 
+TEST(ProfileText, TakesAKeyOutAndKeepsEveryOtherLine) {
+  ProfileText text("; head\r\n[A]\r\nk=1\r\n[S]\r\nj=2\r\nK = 3\r\n; note\r\nk=4\r\n");
+  text.Remove(L"s", L"k");
+  EXPECT_EQ(text.Read(L"S", L"k"), std::nullopt) << "neither the first nor the second";
+  EXPECT_EQ(text.Bytes(), "; head\r\n[A]\r\nk=1\r\n[S]\r\nj=2\r\n; note\r\n");
+  text.Remove(L"S", L"none");
+  text.Remove(L"T", L"k");
+  EXPECT_EQ(text.Bytes(), "; head\r\n[A]\r\nk=1\r\n[S]\r\nj=2\r\n; note\r\n");
+}
+
 TEST(ProfileText, ReadsWhatItWrote) {
   for (const wchar_t* value : {L"", L" ", L" a ", L"\"", L"\"a\"", L"'a'", L"''", L"a=b", L";a", L"[a]", L"\u00E4"}) {
     ProfileText text;

@@ -20,6 +20,14 @@ CalendarTime Now() {
   return {now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec};
 }
 
+std::uint64_t UtcNow() {
+  constexpr std::uint64_t kSecondsTo1970 = 11'644'473'600;
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  return (static_cast<std::uint64_t>(now.tv_sec) + kSecondsTo1970) * 10'000'000 +
+         static_cast<std::uint64_t>(now.tv_nsec) / 100;
+}
+
 std::int64_t LocalOffset() {
   return LocalNow().tm_gmtoff * std::int64_t{10'000'000};
 }

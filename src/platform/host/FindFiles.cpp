@@ -72,6 +72,8 @@ void Fill(const struct stat& status, const char* name, bool link, dev_t parentDe
   }
   data.Size = directory ? 0 : static_cast<std::uint64_t>(status.st_size);
   data.LastWrite = FileTime(status.st_mtim);
+  data.Created = data.LastWrite;  // Wine has no other, either
+  data.LastAccess = FileTime(status.st_atim);
 }
 
 bool IsLinkEntry(int directory, const char* name, unsigned type) {
@@ -97,6 +99,7 @@ struct FindFiles::State {
   Descriptor Directory;
   dev_t Device = 0;
   bool Failed = false;
+  int Error = 0;  ///< of the failure to open, or to go on
   Block Records;
   std::size_t At = 0;
   std::size_t End = 0;
@@ -113,6 +116,7 @@ struct FindFiles::State {
   bool ReadBlock() {
     const long read = syscall(SYS_getdents64, Directory.Get(), Records.data(), Records.size());
     Failed = read < 0;
+    Error = Failed ? errno : 0;
     At = 0;
     End = read > 0 ? static_cast<std::size_t>(read) : 0;
     return read > 0;
@@ -121,6 +125,7 @@ struct FindFiles::State {
 
 FindFiles::FindFiles(std::wstring_view directory, ShortNames) : state_(new State) {
   state_->Directory = OpenDirectory(directory, O_RDONLY);
+  state_->Error = state_->Directory ? 0 : errno;
   struct stat status;
   if (state_->Directory && fstat(state_->Directory.Get(), &status) == 0) {
     state_->Device = status.st_dev;
@@ -138,6 +143,10 @@ bool FindFiles::Opened() const {
 
 bool FindFiles::Failed() const {
   return state_->Failed;
+}
+
+SystemReason FindFiles::Reason() const {
+  return ReasonFor(state_->Error);
 }
 
 bool FindFiles::Next(FindData& data) {

@@ -25,6 +25,10 @@ RuntimeError SystemError(FailedAction action, const std::wstring& object) {
   return {action, object, FromUtf8(std::generic_category().message(code)), static_cast<std::uint32_t>(code)};
 }
 
+SystemReason ReasonFor(int error) {
+  return {static_cast<std::uint32_t>(error), FromUtf8(std::generic_category().message(error))};
+}
+
 bool WriteAll(int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = write(descriptor, bytes.data(), bytes.size());

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/RuntimeError.h"
+#include "platform/SystemReason.h"
 
 namespace folivant::platform {
 
@@ -18,6 +19,7 @@ bool IsWritable(const struct stat& status);
 
 /// The error in `errno`; call it right after the failure.
 RuntimeError SystemError(FailedAction action, const std::wstring& object);
+SystemReason ReasonFor(int error);
 
 /// False, with `errno`, when not everything could be written.
 bool WriteAll(int descriptor, std::string_view bytes);

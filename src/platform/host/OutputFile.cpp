@@ -60,6 +60,13 @@ void OutputFile::Write(std::wstring_view text) {
   }
 }
 
+void OutputFile::WriteBytes(std::string_view bytes) {
+  state_->Bytes += bytes;
+  if (state_->Bytes.size() >= kBlock) {
+    state_->Flush();
+  }
+}
+
 void OutputFile::Close() {
   const std::unique_ptr<State> closing = std::exchange(state_, std::make_unique<State>());
   if (!closing->File) {

@@ -61,6 +61,21 @@ ProfileText& Text() {
   return text;
 }
 
+template <class Edit>
+void Change(const std::wstring& section, const std::wstring& key, Edit edit) {
+  const std::wstring path = StorePath();
+  try {
+    std::error_code ignored;  // the write then says what is wrong
+    std::filesystem::create_directories(std::filesystem::path(HostBytes(path)).parent_path(), ignored);
+    ProfileText text = Text();
+    edit(text);
+    ReplaceFile(path, text.Bytes());
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(FailedAction::WriteSetting, StoreName(section) + L"\\" + section + L"\\" + key,
+                       error.SystemText(), error.SystemCode());
+  }
+}
+
 }  // namespace
 
 struct StoreSection::State {
@@ -80,18 +95,14 @@ std::optional<std::wstring> StoreSection::Read(const std::wstring& key) const {
 }
 
 void WriteStore(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
-  const std::wstring path = StorePath();
-  try {
-    std::error_code ignored;  // the write then says what is wrong
-    std::filesystem::create_directories(std::filesystem::path(HostBytes(path)).parent_path(), ignored);
-    ProfileText text = Text();
-    if (text.Read(section, key) != value) {
-      text.Write(section, key, value);
-      ReplaceFile(path, text.Bytes());
-    }
-  } catch (const RuntimeError& error) {
-    throw RuntimeError(FailedAction::WriteSetting, StoreName(section) + L"\\" + section + L"\\" + key,
-                       error.SystemText(), error.SystemCode());
+  if (Text().Read(section, key) != value) {
+    Change(section, key, [&](ProfileText& text) { text.Write(section, key, value); });
+  }
+}
+
+void RemoveFromStore(const std::wstring& section, const std::wstring& key) {
+  if (Text().Read(section, key)) {
+    Change(section, key, [&](ProfileText& text) { text.Remove(section, key); });
   }
 }
 

@@ -12,6 +12,12 @@ CalendarTime Now() {
   return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
 }
 
+std::uint64_t UtcNow() {
+  FILETIME now;
+  GetSystemTimeAsFileTime(&now);
+  return std::uint64_t{now.dwHighDateTime} << 32 | now.dwLowDateTime;
+}
+
 /// The difference that FileTimeToLocalFileTime makes: it is the same for every date.
 std::int64_t LocalOffset() {
   constexpr std::uint64_t kSomeTime = 125'000'000'000'000'000;  // far from both ends of the range

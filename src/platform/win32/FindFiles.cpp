@@ -3,6 +3,7 @@
 
 #include "platform/win32/LongPathForm.h"
 #include "platform/win32/Owned.h"
+#include "platform/win32/SystemError.h"
 
 namespace folivant::platform {
 namespace {
@@ -11,9 +12,16 @@ FINDEX_INFO_LEVELS Level(ShortNames shortNames) {
   return shortNames == ShortNames::Read ? FindExInfoStandard : FindExInfoBasic;
 }
 
+std::uint64_t TicksOf(const FILETIME& time) {
+  return std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime;
+}
+
 void Fill(const WIN32_FIND_DATAW& found, FindData& data) {
   data.Attributes = found.dwFileAttributes;
-  data.LastWrite = std::uint64_t{found.ftLastWriteTime.dwHighDateTime} << 32 | found.ftLastWriteTime.dwLowDateTime;
+  data.LastWrite = TicksOf(found.ftLastWriteTime);
+  data.Created = TicksOf(found.ftCreationTime);
+  data.LastAccess = TicksOf(found.ftLastAccessTime);
+  data.ReparseTag = data.IsLink() ? found.dwReserved0 : 0;
   data.Size = data.IsDirectory() ? 0 : std::uint64_t{found.nFileSizeHigh} << 32 | found.nFileSizeLow;
 }
 
@@ -37,6 +45,7 @@ struct FindFiles::State {
   bool Waiting = false;  ///< `Found` holds an entry that was not handed out yet
   bool Opened = false;
   bool Failed = false;
+  DWORD Error = ERROR_SUCCESS;  ///< of the failure to open, or to go on
 };
 
 FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state_(std::make_unique<State>()) {
@@ -51,6 +60,7 @@ FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state
   state_->Waiting = state_->Handle.IsOpen();
   pattern.pop_back();
   state_->Opened = state_->Waiting || IsEmptyRoot(pattern, error);
+  state_->Error = state_->Opened ? ERROR_SUCCESS : error;
 }
 
 FindFiles::~FindFiles() = default;
@@ -63,6 +73,10 @@ bool FindFiles::Failed() const {
   return state_->Failed;
 }
 
+SystemReason FindFiles::Reason() const {
+  return {state_->Error, SystemText(state_->Error)};
+}
+
 bool FindFiles::Next(FindData& data) {
   State& state = *state_;
   do {
@@ -70,7 +84,8 @@ bool FindFiles::Next(FindData& data) {
       return false;
     }
     if (!state.Waiting && !FindNextFileW(state.Handle.Get(), &state.Found)) {
-      state.Failed = GetLastError() != ERROR_NO_MORE_FILES;
+      state.Error = GetLastError();
+      state.Failed = state.Error != ERROR_NO_MORE_FILES;
       state.Handle = OwnedFind();
       return false;
     }

@@ -13,7 +13,7 @@
 namespace folivant::platform {
 namespace {
 
-constexpr std::size_t kBlock = std::size_t{64} * 1024;  ///< characters
+constexpr std::size_t kBlock = std::size_t{64} * 1024;  ///< characters, or bytes
 
 OwnedFile Create(const std::wstring& path) {
   const std::wstring native = LongPathForm(path);
@@ -44,10 +44,10 @@ struct OutputFile::State {
   void Flush(bool last) {
     const bool split = !last && !Text.empty() && IS_HIGH_SURROGATE(Text.back());
     const std::size_t length = Text.size() - (split ? 1 : 0);
-    Bytes.clear();
     AppendAnsi(std::wstring_view(Text).substr(0, length), Bytes);
     Text.erase(0, length);
     WriteAll(File.Get(), Bytes, Path);
+    Bytes.clear();
   }
 };
 
@@ -73,6 +73,13 @@ void OutputFile::Write(std::wstring_view text) {
     if (state_->Text.size() == kBlock) {
       state_->Flush(false);
     }
+  }
+}
+
+void OutputFile::WriteBytes(std::string_view bytes) {
+  state_->Bytes += bytes;
+  if (state_->Bytes.size() >= kBlock) {
+    state_->Flush(false);
   }
 }
 

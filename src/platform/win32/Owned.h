@@ -6,6 +6,8 @@
 
 #include "platform/win32/Win32.h"
 
+#include <bcrypt.h>
+
 namespace folivant::platform {
 
 template <class Kind>
@@ -73,5 +75,27 @@ struct ForeignMemoryKind {
   static void Close(Raw memory) { VirtualFreeEx(memory.Process, memory.Address, 0, MEM_RELEASE); }
 };
 using OwnedForeignMemory = Owned<ForeignMemoryKind>;
+
+/// Memory that a system function allocated with LocalAlloc.
+struct LocalKind {
+  using Raw = void*;
+  static Raw Empty() { return nullptr; }
+  static void Close(Raw memory) { LocalFree(memory); }
+};
+using OwnedLocal = Owned<LocalKind>;
+
+struct AlgorithmKind {
+  using Raw = BCRYPT_ALG_HANDLE;
+  static Raw Empty() { return nullptr; }
+  static void Close(Raw handle) { BCryptCloseAlgorithmProvider(handle, 0); }
+};
+using OwnedAlgorithm = Owned<AlgorithmKind>;
+
+struct HashKind {
+  using Raw = BCRYPT_HASH_HANDLE;
+  static Raw Empty() { return nullptr; }
+  static void Close(Raw handle) { BCryptDestroyHash(handle); }
+};
+using OwnedHash = Owned<HashKind>;
 
 }  // namespace folivant::platform

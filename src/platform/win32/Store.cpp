@@ -64,6 +64,13 @@ void WriteStore(const std::wstring& section, const std::wstring& key, const std:
   }
 }
 
+void RemoveFromStore(const std::wstring& section, const std::wstring& key) {
+  const LSTATUS status = RegDeleteKeyValueW(HKEY_CURRENT_USER, (kRoot + section).c_str(), key.c_str());
+  if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND) {
+    throw SystemError(FailedAction::WriteSetting, StoreName(section) + L"\\" + key, static_cast<DWORD>(status));
+  }
+}
+
 std::wstring StoreName(const std::wstring& section) {
   return std::wstring(L"HKEY_CURRENT_USER\\") + kRoot + section;
 }

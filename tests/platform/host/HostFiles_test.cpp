@@ -1,6 +1,7 @@
 // What only the host body shows: links, devices, odd bytes in names, paths in pieces, rights.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -11,6 +12,7 @@
 #include <csignal>
 #include <map>
 
+#include "platform/FileFacts.h"
 #include "platform/FindFiles.h"
 #include "platform/RuntimeError.h"
 #include "platform/Scratch.h"
@@ -47,6 +49,15 @@ class HostFiles : public testing::Test {
   std::filesystem::path At(const char* name) const { return Scratch::Native(scratch_.Folder()) / name; }
   const Scratch scratch_;
 };
+
+TEST_F(HostFiles, BelongToTheirUser) {
+  EXPECT_EQ(OwnerOf(scratch_.MakeFile(L"mine")), FromUtf8(getpwuid(geteuid())->pw_name));
+  if (geteuid() == 0) {
+    constexpr uid_t kUnknownUser = 1'234'567'890;
+    ASSERT_EQ(chown(At("mine").c_str(), kUnknownUser, kUnknownUser), 0);
+    EXPECT_EQ(OwnerOf(scratch_.Path(L"mine")), L"1234567890") << "a user who is gone";
+  }
+}
 
 TEST_F(HostFiles, TakesAttributesFromModeAndName) {
   scratch_.MakeFile(L"plain");

@@ -43,6 +43,16 @@ TEST_F(HostStore, KeepsWhatItDoesNotKnow) {
   EXPECT_EQ(scratch_.Content(file_), "; mine\r\n[Settings]\r\nOther=1\r\nNew=2\r\n");
 }
 
+TEST_F(HostStore, TakesAKeyOut) {
+  RemoveFromStore(L"Settings", L"Language");
+  EXPECT_EQ(scratch_.Count(), 0) << "there was nothing to take out";
+  WriteStore(L"Settings", L"Language", L"english.ini");
+  WriteStore(L"Settings", L"Other", L"1");
+  RemoveFromStore(L"settings", L"language");
+  EXPECT_FALSE(StoreSection(L"Settings").Read(L"Language"));
+  EXPECT_EQ(StoreSection(L"Settings").Read(L"Other"), L"1");
+}
+
 TEST_F(HostStore, SeesWhatOthersWrite) {
   WriteStore(L"Settings", L"A", L"1");
   ReplaceFile(scratch_.Path(file_), "[Settings]\r\nA=2\r\n");
