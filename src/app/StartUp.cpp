@@ -107,7 +107,7 @@ ExitStatus RunAtOnce() {
   if (run.Cancelled) {
     return kExitFailed;
   }
-  return run.Unreadable ? kExitUnreadable : kExitDone;
+  return run.Unread.empty() ? kExitDone : kExitUnreadable;
 }
 
 /// The switches in their fixed order, whatever their order on the line.

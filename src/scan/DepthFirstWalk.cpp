@@ -42,7 +42,7 @@ bool DepthFirstWalk::OpenDirectory(std::int32_t level, std::int32_t share) {
   run_.Watcher.LetEventsThrough();
   platform::FindFiles files(path_.OnDisk(), shortNames_);
   if (!files.Opened()) {
-    run_.Unreadable = true;
+    run_.Unread.push_back({path_.OnDisk(), files.Reason()});
     return false;
   }
   Frame frame{.Path = path_.Here(),
@@ -59,7 +59,9 @@ bool DepthFirstWalk::OpenDirectory(std::int32_t level, std::int32_t share) {
     }
     TakeEntry(frame, entry);
   }
-  run_.Unreadable |= files.Failed();
+  if (files.Failed()) {
+    run_.Unread.push_back({path_.OnDisk(), files.Reason()});
+  }
   frame.Subdirectories = names_.Size() - frame.FirstName;
   EndDirectory(frame);
   ancestors_.Push(frame.Path);

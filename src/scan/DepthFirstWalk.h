@@ -20,7 +20,7 @@ class DepthFirstWalk {
   virtual ~DepthFirstWalk() = default;
 
   /// Walks from the run's start path, depth-first. A directory that cannot be read is skipped silently but for
-  /// ListingRun::Unreadable. Ends early, without leaving the directories that it is still in, once the run is
+  /// ListingRun::Unread. Ends early, without leaving the directories that it is still in, once the run is
   /// cancelled.
   void Walk();
 

@@ -17,6 +17,7 @@ struct DirNode {
   Currency Size;
   std::int32_t TotalFiles = 0;  ///< with everything below
   Currency TotalSize;
+  std::wstring_view PathOnDisk = {};
 };
 
 }  // namespace folivant

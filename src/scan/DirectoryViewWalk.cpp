@@ -61,7 +61,7 @@ void DirectoryViewWalk::LeaveDirectory(const Frame&) {
 
 void DirectoryViewWalk::ForEachListedNode(std::int32_t subLevel, const std::function<bool()>& stop,
                                           const std::function<void(const DirNode&)>& list) const {
-  WalkPath path(Run().Start.Shown, {});
+  WalkPath path(Run().Start.Shown, Run().Start.OnDisk);
   std::wstring name;
   std::vector<WalkPath::Mark> marks;  // where the path of each level on the way ends
   for (const KeptNode& node : nodes_) {
@@ -73,12 +73,19 @@ void DirectoryViewWalk::ForEachListedNode(std::int32_t subLevel, const std::func
     const auto level = static_cast<std::size_t>(node.Level);
     if (level > 0) {
       path.GoBackTo(marks[level - 1]);
-      path.Enter(name, {});
+      path.Enter(name, name);
     }
     marks.resize(level);
     marks.push_back(path.Here());
     if (subLevel == 0 || node.Level <= subLevel) {
-      list({name, path.Shown(), node.Level, node.Files, node.Size, node.TotalFiles, node.TotalSize});
+      list({.Name = name,
+            .Path = path.Shown(),
+            .Level = node.Level,
+            .Files = node.Files,
+            .Size = node.Size,
+            .TotalFiles = node.TotalFiles,
+            .TotalSize = node.TotalSize,
+            .PathOnDisk = path.OnDisk()});
     }
   }
 }

@@ -58,8 +58,11 @@ FileRecord FileRecordFiller::FillFileRecord(platform::FindData& entry, std::uint
   }
   record.Size = entry.Size;
   record.LastWrite = lastWrite;
+  record.Created = entry.Created;
+  record.LastAccess = entry.LastAccess;
   record.ShownWrite = entry.LastWrite;
   record.Attributes = entry.Attributes;
+  record.ReparseTag = entry.ReparseTag;
   record.Level = level;
   MakeSortKey(entry);
   return record;

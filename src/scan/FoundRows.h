@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "scan/FileRecord.h"
+
 namespace folivant {
 
 struct ListingRun;
@@ -15,6 +17,8 @@ struct FoundItem {
   std::wstring InFolder;
   std::wstring Size;
   std::wstring Modified;
+  std::wstring PathOnDisk = {};  ///< of a file that a path list names; a Find window tells no more than the texts
+  FileRecord Entry = {};         ///< the same file; its names are empty
 };
 
 struct FoundRows {

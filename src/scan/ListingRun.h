@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "base/Currency.h"
 #include "base/GeneralSettings.h"
+#include "platform/SystemReason.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"
 #include "scan/NamePatterns.h"
@@ -20,6 +22,12 @@ struct RunTotals {
   Currency TotalSize;
   std::int32_t TotalFiles = 0;
   std::int32_t TotalDirs = 0;
+};
+
+/// A directory or file that could not be read.
+struct UnreadPath {
+  std::wstring Path;  ///< on disk
+  SystemReason Reason;
 };
 
 /// Made anew for every run. The records outlive it.
@@ -42,7 +50,7 @@ struct ListingRun {
   // Learned on the way.
   RunTotals Totals = {};
   bool Cancelled = false;
-  bool Unreadable = false;  ///< some directory could not be read; the listing itself stays silent about it
+  std::vector<UnreadPath> Unread = {};  ///< in the order in which they were tried; most listings are silent about them
 
   /// Whether the user has cancelled the run. Asked only at the points where a run may stop.
   bool IsCancelled() {

@@ -24,6 +24,7 @@ struct DirectoryListing {
   std::span<const std::uint32_t> Order;  ///< indexes into Records, in listing order; as many as Records
   std::wstring_view Summary;             ///< "3 files, 1,204 kb"
   bool SubdirectoriesFollow = false;     ///< whether each subdirectory has a listing of its own, further down
+  std::wstring_view PathOnDisk = {};     ///< Path as the file system spells it
 };
 
 class ListingWriter {

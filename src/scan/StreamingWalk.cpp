@@ -53,7 +53,8 @@ void StreamingWalk::RaiseEvent(const Frame& frame) {
                                  .Records = records_,
                                  .Order = order_,
                                  .Summary = summary_,
-                                 .SubdirectoriesFollow = style == ListingStyle::IncludeSubdirectories};
+                                 .SubdirectoriesFollow = style == ListingStyle::IncludeSubdirectories,
+                                 .PathOnDisk = Path().OnDisk()};
   if (style == ListingStyle::FullPathList) {
     output_.ListPaths(listing);
   } else {

@@ -43,7 +43,7 @@ void Prepare(ListingRun& run) {
   run.LocalOffset = platform::LocalOffset();
   run.Totals = {};
   run.Cancelled = false;
-  run.Unreadable = false;
+  run.Unread.clear();
 }
 
 void ListDirectoryView(ListingRun& run, ListingWriter& output) {

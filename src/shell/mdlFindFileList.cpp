@@ -17,10 +17,20 @@ namespace folivant {
 namespace {
 
 FoundItem RowOf(const LongPath& path, platform::FoundEntry entry, const ListingRun& run) {
+  FileRecord record;
+  record.Size = entry.Data.Size;
+  record.LastWrite = entry.Data.LastWrite;
+  record.Created = entry.Data.Created;
+  record.LastAccess = entry.Data.LastAccess;
+  record.Attributes = entry.Data.Attributes;
+  record.ReparseTag = entry.Data.ReparseTag;
   const std::wstring pattern = run.DatePattern + L' ' + std::wstring(kTimePattern);
-  return {ProperName(GetFileName(path.Shown)), GetFolder(path.Shown),
+  return {ProperName(GetFileName(path.Shown)),
+          GetFolder(path.Shown),
           FormatSizeFixedUnits(Currency::FromWhole(entry.Data.Size)),
-          FormatDate(FileTimeOf(entry.Data.LastWrite, run.LocalOffset), pattern)};
+          FormatDate(FileTimeOf(entry.Data.LastWrite, run.LocalOffset), pattern),
+          path.OnDisk,
+          record};
 }
 
 bool IsFullPath(std::wstring_view line) {

@@ -69,18 +69,18 @@ TEST_F(DirectoryViewWalkTest, AnUnreadableDirectoryKeepsZeroCountsAndIsNotCounte
   EXPECT_THAT(List(kView), ElementsAre(L"begin", L"0 C:\\Data C:\\Data 2 3 2 3", L"1 A C:\\Data\\A 0 0 0 0",
                                        L"1 B C:\\Data\\B 0 0 0 0", L"end"));
   EXPECT_EQ(Run.Totals.TotalDirs, 2);
-  EXPECT_TRUE(Run.Unreadable);
+  EXPECT_EQ(Run.Unread.size(), 1U);
 }
 
 TEST_F(DirectoryViewWalkTest, AnEnumerationThatBreaksOffCountsWhatItGave) {
   Tree().Dir(L"C:\\Data\\A\\DEEP").FailsAfter(1);
   EXPECT_THAT(List(kView), testing::Contains(L"2 DEEP C:\\Data\\A\\DEEP 1 100 1 100"));
-  EXPECT_TRUE(Run.Unreadable);
+  EXPECT_EQ(Run.Unread.size(), 1U);
 }
 
 TEST_F(DirectoryViewWalkTest, AReadableTreeIsNotCalledUnreadable) {
   List(kView);
-  EXPECT_FALSE(Run.Unreadable);
+  EXPECT_TRUE(Run.Unread.empty());
 }
 
 TEST_F(DirectoryViewWalkTest, TotalsOfTheRunAreThoseOfTheStartDirectory) {

@@ -285,7 +285,7 @@ TEST_F(PathList, TheListIsNotTakenForADirectory) {
   ListingRun run = MakeRun();
   RunListing(run, rows, capture);
   EXPECT_EQ(rows.Lists, 1);
-  EXPECT_FALSE(run.Unreadable);
+  EXPECT_TRUE(run.Unread.empty());
 }
 
 TEST_F(PathList, AMissingListIsAnErrorThatNamesIt) {
