@@ -54,6 +54,7 @@ CommandLine ReadCommandLine(const std::wstring& line) {
   command.FilterFile = ArgumentOf(line, L"/f");
   command.Directory = ArgumentOf(line, L"/d");
   command.OutputLetter = LetterOf(line);
+  command.KindWord = ArgumentOf(line, L"/k");
   command.OutputFile = ArgumentOf(line, L"/o");
   command.Go = line.find(L"/g") != line.npos;
   return command;

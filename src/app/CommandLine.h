@@ -23,6 +23,7 @@ struct CommandLine {
   std::optional<std::wstring> FilterFile;  ///< "/f"
   std::optional<std::wstring> Directory;   ///< "/d"
   std::optional<wchar_t> OutputLetter;     ///< "/t": the third character after the slash, 0 where the line ends before
+  std::optional<std::wstring> KindWord;    ///< "/k"
   std::optional<std::wstring> OutputFile;  ///< "/o"
   bool Go = false;                         ///< "/g"
 };

@@ -89,7 +89,9 @@ void Save(SettingsStore& store, const Setting& setting) {
     return;
   }
   const std::wstring text = MemberText(setting.Member);
-  if (setting.Route == SettingRoute::Ex) {
+  if (setting.Written == SettingWritten::WhenChanged && text == DefaultOf(setting)) {
+    store.RemoveSettingEx(setting.Section, setting.Key);
+  } else if (setting.Route == SettingRoute::Ex) {
     store.SaveSettingEx(setting.Section, setting.Key, text);
   } else {
     store.SaveStoreSetting(setting.Section, setting.Key, text);

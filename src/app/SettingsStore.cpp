@@ -28,6 +28,14 @@ void SettingsStore::SaveSettingEx(const std::wstring& section, const std::wstrin
   }
 }
 
+void SettingsStore::RemoveSettingEx(const std::wstring& section, const std::wstring& key) {
+  if (file_) {
+    file_->Remove(kFilterFileSection, key);
+  } else {
+    platform::RemoveFromStore(section, key);
+  }
+}
+
 std::wstring SettingsStore::GetStoreSetting(const std::wstring& section, const std::wstring& key,
                                             const std::wstring& preset) const {
   return file_ ? std::wstring() : sections_.try_emplace(section, section).first->second.Read(key).value_or(preset);

@@ -27,6 +27,8 @@ class SettingsStore {
   std::wstring GetSettingEx(const std::wstring& section, const std::wstring& key, const std::wstring& preset) const;
   /// Into a filter file only with Save. Throws RuntimeError (WriteSetting).
   void SaveSettingEx(const std::wstring& section, const std::wstring& key, const std::wstring& value);
+  /// Takes the key out, if it is there: its default holds again.
+  void RemoveSettingEx(const std::wstring& section, const std::wstring& key);
 
   /// Settings bound to the machine: with a filter file nothing is read (an empty text) or written.
   std::wstring GetStoreSetting(const std::wstring& section, const std::wstring& key, const std::wstring& preset) const;

@@ -15,6 +15,7 @@ constexpr wchar_t kFormat[] = L"Format";
 
 std::span<const Setting> Settings() {
   using enum SettingRoute;
+  using enum SettingWritten;
   using G = SettingGroup;
   GeneralSettings& general = mdlVars::General;
   PrinterSettings& printer = mdlVars::Printer;
@@ -44,6 +45,10 @@ std::span<const Setting> Settings() {
       {G::General, Ex, kSettingsSection, L"FontSizeHF", L"8", &general.FontSizeHF},
       {G::General, Ex, kSettingsSection, L"Header", L"Folivant - %d %t   %p (%g)", &general.Header},
       {G::General, Ex, kSettingsSection, L"Footer", L"- %n -", &general.Footer},
+      {G::General, Ex, kSettingsSection, L"RecordOwner", L"False", &general.RecordOwner, nullptr, {}, WhenChanged},
+      {G::General, Ex, kSettingsSection, L"RecordLinks", L"False", &general.RecordLinks, nullptr, {}, WhenChanged},
+      {G::General, Ex, kSettingsSection, L"RecordSha256", L"False", &general.RecordSha256, nullptr, {}, WhenChanged},
+      {G::General, Ex, kSettingsSection, L"CsvApostrophe", L"False", &general.CsvApostrophe, nullptr, {}, WhenChanged},
 
       {G::Printer, Store, kSettingsSection, L"PrinterName", kNoPrinter, &printer.PrinterName},
       {G::Printer, Store, kSettingsSection, L"PrinterCopies", L"1", &printer.PrinterCopies},

@@ -15,6 +15,10 @@ enum class SettingRoute { Ex, Store };
 
 inline constexpr wchar_t kSettingsSection[] = L"Settings";
 
+/// Whether a setting is stored always, or only while it differs from its default: a key that came later, so that the
+/// filter files of those who do not use it keep their bytes.
+enum class SettingWritten { Always, WhenChanged };
+
 /// A combined key of older versions: where the key is missing, these characters of "Show" stand in for it.
 struct OldKey {
   std::size_t First = 0;
@@ -30,6 +34,7 @@ struct Setting {
   SettingMember Member;                 ///< of the records of mdlVars
   const wchar_t* ReadingKey = nullptr;  ///< where reading asks for another key than writing
   OldKey Old = {};
+  SettingWritten Written = SettingWritten::Always;
 };
 
 /// Every setting, in the order of reading and writing.

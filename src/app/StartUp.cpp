@@ -70,14 +70,16 @@ Ending ApplyFilterFile(const CommandLine& command) {
   return std::nullopt;
 }
 
-Ending ApplyOutputLetter(std::optional<wchar_t> letter) {
-  if (!letter) {
+/// "/k" holds beside a "/t".
+Ending ApplyOutputKind(const CommandLine& command) {
+  if (!command.OutputLetter && !command.KindWord) {
     if (mdlVars::OutputTo == OutputTarget::Printer) {
       mdlVars::OutputKind = OutputKind::Printer;
     }
     return std::nullopt;
   }
-  const OutputKindRow* const row = RowOfLetter(*letter);
+  const OutputKindRow* const row =
+      command.KindWord ? RowOfSwitchWord(*command.KindWord) : RowOfLetter(*command.OutputLetter);
   if (row == nullptr) {
     return CommandLineError(mdlVars::Texts[TextId::UnknownOutputType]);
   }
@@ -123,7 +125,7 @@ Ending ParseCommandLine(const std::wstring& line) {
   if (command.Directory) {
     SetDirectory(*command.Directory);  // one that is not valid leaves the directory of the filter file, silently
   }
-  if (const Ending ending = ApplyOutputLetter(command.OutputLetter)) {
+  if (const Ending ending = ApplyOutputKind(command)) {
     return ending;
   }
   if (command.OutputFile) {

@@ -33,6 +33,10 @@ struct GeneralSettings {
   std::int32_t FontSizeHF = 0;  ///< points
   std::wstring Header;
   std::wstring Footer;
+  bool RecordOwner = false;    ///< the fields of exact records that cost an open per file
+  bool RecordLinks = false;    ///< the same
+  bool RecordSha256 = false;   ///< the same
+  bool CsvApostrophe = false;  ///< values of exact CSV that a spreadsheet would take for formulas begin with "'"
 };
 
 /// The stored name where no printer has been chosen, the same in every language. ShownPrinterName

@@ -24,6 +24,10 @@ void ProfileFile::Write(const std::wstring& section, const std::wstring& key, co
   text_.Write(section, key, value);
 }
 
+void ProfileFile::Remove(const std::wstring& section, const std::wstring& key) {
+  text_.Remove(section, key);
+}
+
 void ProfileFile::Save() const {
   platform::ReplaceFile(path_, text_.Bytes());
 }

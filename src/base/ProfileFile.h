@@ -18,8 +18,9 @@ class ProfileFile {
   /// At most `limit` characters of the value; `preset` when the key is not there.
   std::wstring Read(const std::wstring& section, const std::wstring& key, const std::wstring& preset,
                     std::size_t limit) const;
-  /// Remembered until Save.
+  // Remembered until Save.
   void Write(const std::wstring& section, const std::wstring& key, const std::wstring& value);
+  void Remove(const std::wstring& section, const std::wstring& key);
   /// Replaces the file in one step; other sections, keys and comments stay. Throws RuntimeError (WriteFile), and the
   /// file then keeps its old content.
   void Save() const;

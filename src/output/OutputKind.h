@@ -8,7 +8,16 @@ namespace folivant {
 /// The destination chosen in the main window; codes as they are stored.
 enum class OutputTarget : std::int32_t { Printer = 0, File = 1, Screen = 2 };
 
-/// Kinds 0 to 4 are, on purpose, the zero-based positions in the save dialog's type list.
-enum class OutputKind : std::int32_t { Text = 0, TabDelimited = 1, Html = 2, Csv = 3, Xml = 4, Printer = 5 };
+enum class OutputKind : std::int32_t {
+  Text = 0,
+  TabDelimited = 1,
+  Html = 2,
+  Csv = 3,
+  Xml = 4,
+  Printer = 5,
+  ExactCsv = 6,
+  JsonLines = 7,
+  Sha256 = 8
+};
 
 }  // namespace folivant

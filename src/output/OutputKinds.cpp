@@ -4,8 +4,11 @@
 #include <algorithm>
 #include <array>
 
+#include "output/mdlPrintExactCsv.h"
 #include "output/mdlPrintHTML.h"
+#include "output/mdlPrintJson.h"
 #include "output/mdlPrintPrinter.h"
+#include "output/mdlPrintSha256.h"
 #include "output/mdlPrintText.h"
 #include "output/mdlPrintXML.h"
 
@@ -31,14 +34,22 @@ std::wstring XmlCaption(const Messages&) {
 
 // A CSV file without an extension becomes ".txt" everywhere, and an XML file on a command line too, on purpose: scripts
 // depend on the names that they get. The printer's extensions are for a name that is given and that nothing writes.
-constexpr std::array<OutputKindRow, 6> kRows = {{
-    {OutputKind::Text, L"text", L't', L".txt", L".txt", L"*.txt", FromLanguage<TextId::TypeText>, MakeText<kPlainText>},
-    {OutputKind::TabDelimited, L"tab", L'a', L".txt", L".txt", L"*.txt", FromLanguage<TextId::TypeTabDelimited>,
+constexpr std::array<OutputKindRow, 9> kRows = {{
+    {OutputKind::Text, L"text", L't', L"", L".txt", L".txt", L"*.txt", FromLanguage<TextId::TypeText>,
+     MakeText<kPlainText>},
+    {OutputKind::TabDelimited, L"tab", L'a', L"", L".txt", L".txt", L"*.txt", FromLanguage<TextId::TypeTabDelimited>,
      MakeText<kTabDelimited>},
-    {OutputKind::Html, L"html", L'h', L".html", L".html", L"*.htm*", FromLanguage<TextId::TypeHtml>, MakeHtmlWriter},
-    {OutputKind::Csv, L"csv", L'c', L".txt", L".txt", L"*.csv", CsvCaption, MakeText<kCsv>},
-    {OutputKind::Xml, L"xml", L'x', L".txt", L".xml", L"*.xml", XmlCaption, MakeXmlWriter},
-    {OutputKind::Printer, L"printer", L'p', L".txt", L".txt", L"", nullptr, MakePrinterWriter},
+    {OutputKind::Html, L"html", L'h', L"", L".html", L".html", L"*.htm*", FromLanguage<TextId::TypeHtml>,
+     MakeHtmlWriter},
+    {OutputKind::Csv, L"csv", L'c', L"", L".txt", L".txt", L"*.csv", CsvCaption, MakeText<kCsv>},
+    {OutputKind::Xml, L"xml", L'x', L"", L".txt", L".xml", L"*.xml", XmlCaption, MakeXmlWriter},
+    {OutputKind::ExactCsv, L"exact-csv", L'\0', L"csv", L".csv", L".csv", L"*.csv", FromLanguage<TextId::TypeExactCsv>,
+     MakeExactCsvWriter},
+    {OutputKind::JsonLines, L"jsonl", L'\0', L"json", L".jsonl", L".jsonl", L"*.jsonl",
+     FromLanguage<TextId::TypeJsonLines>, MakeJsonWriter},
+    {OutputKind::Sha256, L"sha256", L'\0', L"sha256", L".sha256", L".sha256", L"*.sha256",
+     FromLanguage<TextId::TypeSha256>, MakeSha256Writer},
+    {OutputKind::Printer, L"printer", L'p', L"", L".txt", L".txt", L"", nullptr, MakePrinterWriter},
 }};
 
 }  // namespace
@@ -53,8 +64,14 @@ const OutputKindRow& RowOf(OutputKind kind) {
 }
 
 const OutputKindRow* RowOfLetter(wchar_t letter) {
-  const auto row =
-      std::find_if(kRows.begin(), kRows.end(), [letter](const auto& each) { return each.Letter == letter; });
+  const auto row = std::find_if(kRows.begin(), kRows.end(),
+                                [letter](const auto& each) { return letter != 0 && each.Letter == letter; });
+  return row == kRows.end() ? nullptr : &*row;
+}
+
+const OutputKindRow* RowOfSwitchWord(std::wstring_view word) {
+  const auto row = std::find_if(kRows.begin(), kRows.end(),
+                                [word](const auto& each) { return !word.empty() && each.SwitchWord == word; });
   return row == kRows.end() ? nullptr : &*row;
 }
 

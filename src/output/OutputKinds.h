@@ -16,7 +16,8 @@ namespace folivant {
 struct OutputKindRow {
   OutputKind Kind;
   std::wstring_view Word;             ///< how ./run.sh calls it
-  wchar_t Letter;                     ///< after "/t"
+  wchar_t Letter;                     ///< after "/t"; 0 for a kind that "/k" names
+  std::wstring_view SwitchWord;       ///< after "/k"; empty for a kind that "/t" names
   std::wstring_view SwitchExtension;  ///< for a name without a dot after "/o"
   std::wstring_view DialogExtension;  ///< for a name without a dot from the save dialog
   std::wstring_view Pattern;          ///< in the save dialog; empty for a kind that is no file
@@ -30,6 +31,8 @@ std::span<const OutputKindRow> OutputKinds();
 const OutputKindRow& RowOf(OutputKind kind);
 /// Null for an unknown letter.
 const OutputKindRow* RowOfLetter(wchar_t letter);
+/// Null for an unknown word.
+const OutputKindRow* RowOfSwitchWord(std::wstring_view word);
 
 /// The types of the save dialog: "Text file|*.txt|HTML file|*.htm*".
 std::wstring SaveDialogTypes(const Messages& texts);

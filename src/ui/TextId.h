@@ -27,6 +27,9 @@ enum class TextId : int {
   TypeText = 18,  ///< file types of the save dialog
   TypeTabDelimited = 19,
   TypeHtml = 20,
+  TypeExactCsv = 29,
+  TypeJsonLines = 30,
+  TypeSha256 = 31,
   UnknownOutputType = 21,
   CommandLineProblem = 22,  ///< first line of a command-line message
   CommandLineHint = 23,     ///< last line of a command-line message

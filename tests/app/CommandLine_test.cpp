@@ -48,28 +48,31 @@ TEST(ReadCommandLine, WithoutASlashIsOnePath) {
 }
 
 TEST(ReadCommandLine, TakesTheFirstOccurrenceOfEachSwitchInAnyOrder) {
-  const CommandLine command = ReadCommandLine(L"/g /o out /t x /d C:\\b /f a.fvf /d C:\\c /t t /o in");
+  const CommandLine command = ReadCommandLine(L"/g /o out /t x /d C:\\b /k csv /f a.fvf /d C:\\c /t t /k json /o in");
   EXPECT_TRUE(command.HasSwitches);
   EXPECT_EQ(command.FilterFile, L"a.fvf");
   EXPECT_EQ(command.Directory, L"C:\\b");
   EXPECT_EQ(command.OutputLetter, L'x');
+  EXPECT_EQ(command.KindWord, L"csv");
   EXPECT_EQ(command.OutputFile, L"out");
   EXPECT_TRUE(command.Go);
 }
 
 TEST(ReadCommandLine, ABlankAfterASwitchMayBeMissing) {
-  const CommandLine command = ReadCommandLine(L"/fa.fvf /dC:\\b /oout");
+  const CommandLine command = ReadCommandLine(L"/fa.fvf /dC:\\b /kcsv /oout");
   EXPECT_EQ(command.FilterFile, L"a.fvf");
   EXPECT_EQ(command.Directory, L"C:\\b");
+  EXPECT_EQ(command.KindWord, L"csv");
   EXPECT_EQ(command.OutputFile, L"out");
 }
 
 TEST(ReadCommandLine, SwitchesAreSmallLetters) {
-  const CommandLine command = ReadCommandLine(L"/F a.fvf /D C:\\ /T t /O out /G");
+  const CommandLine command = ReadCommandLine(L"/F a.fvf /D C:\\ /T t /K csv /O out /G");
   EXPECT_TRUE(command.HasSwitches);
   EXPECT_EQ(command.FilterFile, std::nullopt);
   EXPECT_EQ(command.Directory, std::nullopt);
   EXPECT_EQ(command.OutputLetter, std::nullopt);
+  EXPECT_EQ(command.KindWord, std::nullopt);
   EXPECT_EQ(command.OutputFile, std::nullopt);
   EXPECT_FALSE(command.Go);
 }
@@ -83,7 +86,13 @@ TEST(ReadCommandLine, TheOutputLetterStandsBehindExactlyOneCharacter) {
   EXPECT_EQ(ReadCommandLine(L"/t").OutputLetter, L'\0');
 }
 
-TEST(WithSwitchExtension, IsHtmlForHtmlAndTxtForAllElse) {
+TEST(WithSwitchExtension, IsTheirOwnForExactKinds) {
+  EXPECT_EQ(WithSwitchExtension(L"list", OutputKind::ExactCsv), L"list.csv");
+  EXPECT_EQ(WithSwitchExtension(L"list", OutputKind::JsonLines), L"list.jsonl");
+  EXPECT_EQ(WithSwitchExtension(L"list", OutputKind::Sha256), L"list.sha256");
+}
+
+TEST(WithSwitchExtension, IsHtmlForHtmlAndTxtForTheOthers) {
   EXPECT_EQ(WithSwitchExtension(L"list", OutputKind::Html), L"list.html");
   for (const OutputKind kind : {OutputKind::Text, OutputKind::TabDelimited, OutputKind::Csv, OutputKind::Xml}) {
     EXPECT_EQ(WithSwitchExtension(L"list", kind), L"list.txt");

@@ -20,6 +20,15 @@ TEST_F(SettingsStoreTest, FindsWhatItWroteIntoASectionThatWasNotThere) {
   EXPECT_EQ(store.GetStoreSetting(L"Settings", L"Other", L"preset"), L"preset");
 }
 
+TEST_F(SettingsStoreTest, AKeyThatIsTakenOutHasItsPresetAgain) {
+  SettingsStore store;
+  store.SaveSettingEx(L"Settings", L"Key", L"stored");
+  store.RemoveSettingEx(L"Settings", L"Key");
+  EXPECT_EQ(store.GetSettingEx(L"Settings", L"Key", L"preset"), L"preset");
+  EXPECT_TRUE(fakes::Fake().Store.empty());
+  store.RemoveSettingEx(L"Settings", L"Key");
+}
+
 TEST_F(SettingsStoreTest, OfTheUserAlwaysHoldsSettings) {
   EXPECT_TRUE(SettingsStore().HoldsSettings());
 }

@@ -75,6 +75,10 @@ const Known kKnown[] = {
 };
 // Apart from these: "Path", whose default is the current directory, and "Port", which is read from "Portrait".
 
+/// Settings that came later: all of them flags of section "Settings" that are off by default and travel into filter
+/// files.
+const wchar_t* const kLaterFlags[] = {L"RecordOwner", L"RecordLinks", L"RecordSha256", L"CsvApostrophe"};
+
 void FilterFile(const std::string& lines) {
   Tree().File(kFilterFile, "[Folivant 3.5]\r\n" + lines);
 }
@@ -212,6 +216,50 @@ TEST(Settings, LoadingAFilterFileLeavesMachineSettingsUntouched) {
   }
   EXPECT_FALSE(mdlVars::UseFilterFile);
   EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST(Settings, ALaterFlagIsStoredOnlyWhileItIsOn) {
+  for (const wchar_t* key : kLaterFlags) {
+    LoadWith(L"Settings", key, L"True");
+    const auto before = Fake().Store;
+    SaveSettings();
+    EXPECT_EQ((Fake().Store[{L"Settings", key}]), L"True") << Narrow(key);
+    EXPECT_EQ(Fake().Store.size(), std::size(kKnown) + 2) << "\"Path\" is no directory here";
+    LoadWith(L"Settings", key, L"False");
+    SaveSettings();
+    EXPECT_EQ(Fake().Store.count({L"Settings", key}), 0U) << Narrow(key);
+  }
+}
+
+TEST(Settings, ALaterFlagTravelsIntoAFilterFileOnlyWhileItIsOn) {
+  Tree().Dir(L"C:\\sets");
+  LoadSettings();
+  SaveFilterFile(kFilterFile);
+  const std::string without = Fake().Content(kFilterFile);
+  for (const wchar_t* key : kLaterFlags) {
+    const std::string line = "\r\n" + Narrow(key) + "=";
+    EXPECT_EQ(without.find(line), without.npos);
+    FilterFile(Narrow(key) + "=True\r\n");
+    LoadFilterFile(kFilterFile);
+    SaveFilterFile(kFilterFile);
+    EXPECT_NE(Fake().Content(kFilterFile).find(line + "True\r\n"), without.npos);
+    FilterFile(Narrow(key) + "=False\r\n");
+    LoadFilterFile(kFilterFile);
+    SaveFilterFile(kFilterFile);
+    EXPECT_EQ(Fake().Content(kFilterFile).find(line), without.npos);
+  }
+}
+
+TEST(Settings, EachLaterFlagIsOneOfItsOwn) {
+  bool GeneralSettings::*const members[] = {&GeneralSettings::RecordOwner, &GeneralSettings::RecordLinks,
+                                            &GeneralSettings::RecordSha256, &GeneralSettings::CsvApostrophe};
+  for (std::size_t on = 0; on < std::size(members); ++on) {
+    FilterFile(Narrow(kLaterFlags[on]) + "=True\r\n");
+    LoadFilterFile(kFilterFile);
+    for (std::size_t i = 0; i < std::size(members); ++i) {
+      EXPECT_EQ(General.*members[i], i == on) << Narrow(kLaterFlags[i]);
+    }
+  }
 }
 
 TEST(Settings, AFilterFileWithoutAPathGivesTheCurrentDirectory) {

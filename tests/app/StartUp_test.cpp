@@ -228,6 +228,41 @@ TEST_F(StartUp, TheOutputLetterIsTheDestinationWhateverTheFilterFileSays) {
   EXPECT_EQ(Session().Shown, 18);
 }
 
+TEST_F(StartUp, TheKindWordIsTheDestinationWhateverTheFilterFileAndTheLetterSay) {
+  Session().Printers = {L"Laser"};
+  const std::pair<const wchar_t*, OutputKind> rows[] = {
+      {L"csv", OutputKind::ExactCsv}, {L"json", OutputKind::JsonLines}, {L"sha256", OutputKind::Sha256}};
+  for (const auto& [word, kind] : rows) {
+    for (const wchar_t* letter : {L"", L" /t p", L" /t x", L" /t z"}) {
+      Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nPath=C:\\Data\r\nOutputTo=0\r\n");
+      Start(std::wstring(L"/f C:\\sets\\a.fvf /k ") + word + letter);
+      EXPECT_EQ(mdlVars::OutputTo, OutputTarget::File);
+      EXPECT_EQ(mdlVars::OutputKind, kind);
+    }
+  }
+  EXPECT_EQ(Session().Shown, 12);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
+TEST_F(StartUp, AnUnknownKindWordIsAProblem) {
+  ExpectProblem(L"/f C:\\sets\\a.fvf /k CSV /t t /g", L"Unknown type.");
+}
+TEST_F(StartUp, AMissingKindWordIsAProblem) {
+  ExpectProblem(L"/f C:\\sets\\a.fvf /k /g", L"Unknown type.");
+}
+
+TEST_F(StartUp, AnExactKindIsWrittenUnderItsOwnExtension) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /k sha256 /o C:\\Out\\sums /g"), kExitDone);
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\sums.sha256"), "sum()  A.txt\n");
+}
+
+TEST_F(StartUp, AFileThatCannotBeReadForItsSumEndsWithTheStatusOfUnreadableOnes) {
+  Tree().Dir(L"C:\\Data").File(L"Locked").Unreadable();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /k csv /o C:\\Out\\all /g"), kExitDone) << "nothing asks for its content";
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /k sha256 /o C:\\Out\\sums /g"), kExitUnreadable);
+  EXPECT_TRUE(Fake().Messages.empty());
+}
+
 TEST_F(StartUp, WithoutAnOutputLetterTheDestinationIsThatOfTheFilterFile) {
   Session().Printers = {L"Laser"};
   for (const OutputTarget target : {OutputTarget::Printer, OutputTarget::File, OutputTarget::Screen}) {

@@ -1,15 +1,19 @@
 // Whole runs compared byte for byte with expectations that were worked out by hand. A folder holds a tree (tree.txt)
 // and, for each run below, one file for every kind of output, whose ending tells the kind. Expectations are UTF-8 with
-// plain line ends; lengths, blanks at the ends of lines included, are exact.
+// plain line ends, whatever the kind's own encoding and line ends; lengths, blanks at the ends of lines included, are
+// exact.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
+#include <regex>
 #include <sstream>
 
 #include "fakes/RunRecords.h"
 #include "listings/TreeFile.h"
 #include "output/TestTexts.h"
 #include "output/mdlPrint.h"
+#include "res/Version.h"
 #include "scan/mdlScan.h"
 #include "shell/mdlFind.h"
 
@@ -144,7 +148,7 @@ struct ListedRun {
   std::vector<Step> Steps;
 };
 
-constexpr const char* kAll = "txt tab csv html xml";
+constexpr const char* kAll = "txt tab csv html xml exact-csv jsonl sha256";
 
 const std::vector<ListedRun>& Runs() {
   using enum ListingStyle;
@@ -174,7 +178,7 @@ const std::vector<ListedRun>& Runs() {
 
       {"office",
        "cancelled",
-       "txt html xml",
+       "txt html xml exact-csv jsonl sha256",
        {{&Records::NamesAndEmptyDirectories<IncludeSubdirectories, 1>, L"C:\\Data\\Alpha"}}},
       {"office", "tree-cancelled", "txt html xml", {{&Records::Names<TreeStyle, 0>, L"C:\\Data\\Alpha\\Beta"}}},
       // Breaks off in the middle of a line, so the expectation has no last line end.
@@ -198,7 +202,10 @@ const std::vector<ListedRun>& Runs() {
       {"drive-root", "full-path-list", "txt html xml", {{&Records::NamesAndLabel<FullPathList>, {}}}},
       {"drive-root", "directory-view", "txt xml", {{&Records::NamesAndLabel<DirectoryView>, {}}}},
 
-      {"nothing", "include-subdirectories", "txt html xml", {{&Records::Names<IncludeSubdirectories, 0>, {}}}},
+      {"nothing",
+       "include-subdirectories",
+       "txt html xml exact-csv jsonl sha256",
+       {{&Records::Names<IncludeSubdirectories, 0>, {}}}},
       {"nothing", "tree-style", "txt html xml", {{&Records::Names<TreeStyle, 0>, {}}}},
       {"nothing", "directory-view", "xml", {{&Records::Names<DirectoryView, 0>, {}}}},
       {"nothing", "full-path-list", "txt", {{&Records::Names<FullPathList, 0>, {}}}},
@@ -232,12 +239,31 @@ std::vector<Case> Cases() {
   return cases;
 }
 
-OutputKind KindOf(const std::string& ending) {
-  return ending == "txt"    ? OutputKind::Text
-         : ending == "tab"  ? OutputKind::TabDelimited
-         : ending == "csv"  ? OutputKind::Csv
-         : ending == "html" ? OutputKind::Html
-                            : OutputKind::Xml;
+/// What an expectation's ending tells: the kind, and how its text stands in the file.
+struct Ending {
+  OutputKind Kind;
+  std::string (*InFile)(const std::string& expectation);
+};
+
+/// UTF-8 with a mark, lines that end in CR LF.
+std::string WithMark(const std::string& utf8) {
+  return "\xEF\xBB\xBF" + std::regex_replace(utf8, std::regex("\n"), "\r\n");
+}
+/// UTF-8 and LF, as the expectation itself.
+std::string WithVersion(const std::string& utf8) {
+  return std::regex_replace(utf8, std::regex("<version>"), VERSION_TEXT);
+}
+
+const Ending& EndingOf(const std::string& name) {
+  static const std::map<std::string, Ending> endings = {{"txt", {OutputKind::Text, AsListed}},
+                                                        {"tab", {OutputKind::TabDelimited, AsListed}},
+                                                        {"csv", {OutputKind::Csv, AsListed}},
+                                                        {"html", {OutputKind::Html, AsListed}},
+                                                        {"xml", {OutputKind::Xml, AsListed}},
+                                                        {"exact-csv", {OutputKind::ExactCsv, WithMark}},
+                                                        {"jsonl", {OutputKind::JsonLines, WithVersion}},
+                                                        {"sha256", {OutputKind::Sha256, WithVersion}}};
+  return endings.at(name);
 }
 
 /// The rows of a Find window are prepared; those of a path list are read.
@@ -265,7 +291,8 @@ TEST_P(Listings, MatchTheExpectationByteForByte) {
   records.OutputFile = kOutput;
   ASSERT_TRUE(SetStartPath(MakeTree(listed.Tree), records.Start, records.Format));
   OutputDriver driver;
-  driver.Choose(KindOf(GetParam().Ending));
+  const Ending& ending = EndingOf(GetParam().Ending);
+  driver.Choose(ending.Kind);
 
   for (const Step& step : listed.Steps) {
     (records.*step.Configure)();
@@ -276,7 +303,7 @@ TEST_P(Listings, MatchTheExpectationByteForByte) {
   }
 
   const std::string expected =
-      AsListed(ReadTestFile(std::string(listed.Tree) + "/" + listed.Name + "." + GetParam().Ending));
+      ending.InFile(ReadTestFile(std::string(listed.Tree) + "/" + listed.Name + "." + GetParam().Ending));
   EXPECT_EQ(fakes::Fake().Content(kOutput), expected);
   EXPECT_EQ(fakes::Fake().OpenOutputFiles, 0);
 }

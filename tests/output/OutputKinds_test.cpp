@@ -8,14 +8,15 @@
 namespace folivant {
 namespace {
 
-constexpr OutputKind kUnknown = static_cast<OutputKind>(9);
+constexpr OutputKind kUnknown = static_cast<OutputKind>(99);
 
 /// What users and their scripts depend on.
 struct ExpectedRow {
   OutputKind Kind;
-  int Code;  ///< as it is stored
+  int Code;
   std::wstring Word;
   wchar_t Letter;
+  std::wstring SwitchWord;
   std::wstring SwitchExtension;
   std::wstring DialogExtension;
   std::wstring Pattern;
@@ -23,12 +24,15 @@ struct ExpectedRow {
   int DialogIndex;
 };
 const ExpectedRow kExpected[] = {
-    {OutputKind::Text, 0, L"text", L't', L".txt", L".txt", L"*.txt", L"Plain", 1},
-    {OutputKind::TabDelimited, 1, L"tab", L'a', L".txt", L".txt", L"*.txt", L"With tabs", 2},
-    {OutputKind::Html, 2, L"html", L'h', L".html", L".html", L"*.htm*", L"Page", 3},
-    {OutputKind::Csv, 3, L"csv", L'c', L".txt", L".txt", L"*.csv", L"CSV-file", 4},
-    {OutputKind::Xml, 4, L"xml", L'x', L".txt", L".xml", L"*.xml", L"XML file", 5},
-    {OutputKind::Printer, 5, L"printer", L'p', L".txt", L".txt", L"", L"", 1},
+    {OutputKind::Text, 0, L"text", L't', L"", L".txt", L".txt", L"*.txt", L"Plain", 1},
+    {OutputKind::TabDelimited, 1, L"tab", L'a', L"", L".txt", L".txt", L"*.txt", L"With tabs", 2},
+    {OutputKind::Html, 2, L"html", L'h', L"", L".html", L".html", L"*.htm*", L"Page", 3},
+    {OutputKind::Csv, 3, L"csv", L'c', L"", L".txt", L".txt", L"*.csv", L"CSV-file", 4},
+    {OutputKind::Xml, 4, L"xml", L'x', L"", L".txt", L".xml", L"*.xml", L"XML file", 5},
+    {OutputKind::ExactCsv, 6, L"exact-csv", L'\0', L"csv", L".csv", L".csv", L"*.csv", L"Rows", 6},
+    {OutputKind::JsonLines, 7, L"jsonl", L'\0', L"json", L".jsonl", L".jsonl", L"*.jsonl", L"Objects", 7},
+    {OutputKind::Sha256, 8, L"sha256", L'\0', L"sha256", L".sha256", L".sha256", L"*.sha256", L"Sums", 8},
+    {OutputKind::Printer, 5, L"printer", L'p', L"", L".txt", L".txt", L"", L"", 1},
 };
 
 Messages TypeNames() {
@@ -36,10 +40,13 @@ Messages TypeNames() {
   texts.Set(static_cast<std::size_t>(TextId::TypeText), L"Plain");
   texts.Set(static_cast<std::size_t>(TextId::TypeTabDelimited), L"With tabs");
   texts.Set(static_cast<std::size_t>(TextId::TypeHtml), L"Page");
+  texts.Set(static_cast<std::size_t>(TextId::TypeExactCsv), L"Rows");
+  texts.Set(static_cast<std::size_t>(TextId::TypeJsonLines), L"Objects");
+  texts.Set(static_cast<std::size_t>(TextId::TypeSha256), L"Sums");
   return texts;
 }
 
-TEST(OutputKinds, StandInTheOrderOfTheirCodes) {
+TEST(OutputKinds, StandInTheOrderOfTheSaveDialogAndKeepTheirCodes) {
   ASSERT_EQ(OutputKinds().size(), std::size(kExpected));
   for (std::size_t i = 0; i < std::size(kExpected); ++i) {
     EXPECT_EQ(OutputKinds()[i].Kind, kExpected[i].Kind);
@@ -54,6 +61,7 @@ TEST(OutputKinds, HaveTheirWordLetterExtensionsAndType) {
     EXPECT_EQ(row.Kind, expected.Kind);
     EXPECT_EQ(row.Word, expected.Word);
     EXPECT_EQ(row.Letter, expected.Letter);
+    EXPECT_EQ(row.SwitchWord, expected.SwitchWord);
     EXPECT_EQ(row.SwitchExtension, expected.SwitchExtension);
     EXPECT_EQ(row.DialogExtension, expected.DialogExtension);
     EXPECT_EQ(row.Pattern, expected.Pattern);
@@ -66,11 +74,15 @@ TEST(OutputKinds, AreTextForACodeThatIsNone) {
   EXPECT_EQ(RowOf(static_cast<OutputKind>(-1)).Kind, OutputKind::Text);
 }
 
-TEST(OutputKinds, AreFoundByTheirLetter) {
+TEST(OutputKinds, AreFoundByTheirLetterOrTheirWord) {
   for (const ExpectedRow& expected : kExpected) {
-    const OutputKindRow* const row = RowOfLetter(expected.Letter);
+    const OutputKindRow* const row =
+        expected.Letter != 0 ? RowOfLetter(expected.Letter) : RowOfSwitchWord(expected.SwitchWord);
     ASSERT_NE(row, nullptr) << testing::PrintToString(expected.Word);
     EXPECT_EQ(row->Kind, expected.Kind);
+  }
+  for (const wchar_t* word : {L"", L"CSV", L"jsonl", L"text", L"csv "}) {
+    EXPECT_EQ(RowOfSwitchWord(word), nullptr);
   }
   for (const wchar_t letter : {L'T', L'z', L' ', L'\0'}) {
     EXPECT_EQ(RowOfLetter(letter), nullptr);
@@ -78,7 +90,9 @@ TEST(OutputKinds, AreFoundByTheirLetter) {
 }
 
 TEST(OutputKinds, AreTheTypesOfTheSaveDialog) {
-  EXPECT_EQ(SaveDialogTypes(TypeNames()), L"Plain|*.txt|With tabs|*.txt|Page|*.htm*|CSV-file|*.csv|XML file|*.xml");
+  EXPECT_EQ(SaveDialogTypes(TypeNames()),
+            L"Plain|*.txt|With tabs|*.txt|Page|*.htm*|CSV-file|*.csv|XML file|*.xml|"
+            L"Rows|*.csv|Objects|*.jsonl|Sums|*.sha256");
 }
 
 TEST(OutputKinds, HaveAPositionInTheSaveDialog) {
@@ -90,7 +104,7 @@ TEST(OutputKinds, HaveAPositionInTheSaveDialog) {
     }
   }
   EXPECT_EQ(SaveDialogIndexOf(kUnknown), 1);
-  for (const int index : {-1, 0, 6, 100}) {
+  for (const int index : {-1, 0, 9, 100}) {
     EXPECT_EQ(KindAtSaveDialogIndex(index), OutputKind::Text) << index;
   }
 }

@@ -66,7 +66,7 @@ class WriterFixture : public testing::Test, protected fakes::RunRecords {
       order[i] = i;
     }
     const bool follow = Format.ListingStyle == ListingStyle::IncludeSubdirectories;
-    const DirectoryListing listing{path, level, records, order, L"the summary", follow};
+    const DirectoryListing listing{path, level, records, order, L"the summary", follow, path};
     if (Format.ListingStyle == ListingStyle::FullPathList) {
       writer.ListPaths(listing);
     } else {
