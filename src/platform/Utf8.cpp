@@ -143,6 +143,17 @@ std::wstring FromUtf8(std::string_view bytes) {
 }
 
 void AppendUtf8(std::wstring_view text, std::string& bytes) {
+  const std::size_t start = bytes.size();
+  bytes.resize(start + text.size());
+  char32_t seen = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    seen |= static_cast<char32_t>(text[i]);
+    bytes[start + i] = static_cast<char>(text[i]);
+  }
+  if (seen < 0x80) {
+    return;
+  }
+  bytes.resize(start);
   while (!text.empty()) {
     const char32_t character = Take(text);
     Encode(IsSurrogate(character) ? kReplacement : character, bytes);
