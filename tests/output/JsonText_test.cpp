@@ -34,5 +34,12 @@ TEST(JsonText, HalvesOfSurrogatePairsThatStandAloneAreEscaped) {
   EXPECT_EQ(Json(L"\u00E4\xDFFF\u00E4"), "\"\xC3\xA4\\uDFFF\xC3\xA4\"");
 }
 
+TEST(JsonText, LongTextsAreTakenInPiecesThatLoseNothing) {
+  for (const std::size_t length : {509U, 510U, 511U, 512U, 513U, 1'024U, 3'000U}) {
+    const std::wstring text = std::wstring(length, L'a') + L"\"\\\n\u00E4" + std::wstring(length, L'b');
+    EXPECT_EQ(Json(text), '"' + std::string(length, 'a') + "\\\"\\\\\\u000A\xC3\xA4" + std::string(length, 'b') + '"');
+  }
+}
+
 }  // namespace
 }  // namespace folivant
