@@ -1,6 +1,9 @@
+// A row of a large listing has to cost little more than the look at its entry: what is known to be ASCII is made as
+// bytes at once, and only names and paths go through the conversion.
 #include "output/RecordFields.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/InputFile.h"
@@ -13,96 +16,104 @@ namespace {
 constexpr std::size_t kBlock = std::size_t{1} << 20;  ///< bytes that are hashed between two looks at events
 
 /// What the letters of Windows' own attribute tool stand for, in its order, then those that it does not show.
-constexpr std::pair<std::uint32_t, wchar_t> kAttributeLetters[] = {
-    {0x20, L'A'},   {0x4, L'S'},     {0x2, L'H'},      {0x1, L'R'},   {0x1000, L'O'}, {0x2000, L'I'}, {0x20000, L'X'},
-    {0x8000, L'V'}, {0x80000, L'P'}, {0x100000, L'U'}, {0x800, L'C'}, {0x4000, L'E'}, {0x400, L'L'},  {0x100, L'T'}};
+constexpr std::pair<std::uint32_t, char> kAttributeLetters[] = {
+    {0x20, 'A'},   {0x4, 'S'},     {0x2, 'H'},      {0x1, 'R'},   {0x1000, 'O'}, {0x2000, 'I'}, {0x20000, 'X'},
+    {0x8000, 'V'}, {0x80000, 'P'}, {0x100000, 'U'}, {0x800, 'C'}, {0x4000, 'E'}, {0x400, 'L'},  {0x100, 'T'}};
 
-bool AppendNumber(std::uint64_t number, std::wstring& out) {
-  out += std::to_wstring(number);
-  return true;
+/// "file", "directory" or "link".
+std::string_view EntryType(const FileRecord& entry) {
+  if (platform::StandsForAnother(entry.Attributes, entry.ReparseTag)) {
+    return "link";
+  }
+  return entry.IsDirectory() ? "directory" : "file";
 }
 
-bool AppendText(std::wstring_view text, std::wstring& out) {
-  out += text;
-  return true;
+void PutTime(std::uint64_t fileTime, FieldSink& out) {
+  if (fileTime == 0) {
+    return out.None();
+  }
+  out.Plain(UtcTimeText(fileTime).Text());
 }
 
-void AppendPadded(int number, std::size_t width, std::wstring& out) {
-  const std::wstring digits = std::to_wstring(number);
-  out.append(width - std::min(width, digits.size()), L'0');
-  out += digits;
-}
-
-bool AppendAttributes(std::uint32_t attributes, std::wstring& out) {
+void PutAttributes(std::uint32_t attributes, FieldSink& out) {
+  std::array<char, std::size(kAttributeLetters)> letters;
+  std::size_t count = 0;
   for (const auto& [bit, letter] : kAttributeLetters) {
     if ((attributes & bit) != 0) {
-      out += letter;
+      letters[count++] = letter;
     }
   }
-  return true;
+  out.Plain({letters.data(), count});
+}
+
+void PutCount(std::int64_t number, FieldSink& out) {
+  out.Number(static_cast<std::uint64_t>(number));
 }
 
 using Facts = RecordedFacts;
 
 constexpr RecordField<RecordedEntry> kEntryRows[] = {
-    {L"path", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendText(entry.Path, out); }},
-    {L"name", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendText(entry.Name, out); }},
-    {L"type", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendText(EntryType(entry.Entry), out); }},
-    {L"size", FieldType::Number,
-     [](const auto& entry, Facts&, std::wstring& out) {
-       return !entry.Entry.IsDirectory() && AppendNumber(entry.Entry.Size, out);
-     }},
-    {L"modified", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendUtcTime(entry.Entry.LastWrite, out); }},
-    {L"created", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendUtcTime(entry.Entry.Created, out); }},
-    {L"accessed", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendUtcTime(entry.Entry.LastAccess, out); }},
-    {L"attributes", FieldType::Text,
-     [](const auto& entry, Facts&, std::wstring& out) { return AppendAttributes(entry.Entry.Attributes, out); }},
-    {L"owner", FieldType::Text,
-     [](const auto& entry, Facts& facts, std::wstring& out) { return facts.AppendOwner(entry, out); },
+    {"path", [](const auto& entry, Facts&, FieldSink& out) { out.Text(entry.Path); }},
+    {"name", [](const auto& entry, Facts&, FieldSink& out) { out.Text(entry.Name); }},
+    {"type", [](const auto& entry, Facts&, FieldSink& out) { out.Plain(EntryType(entry.Entry)); }},
+    {"size", [](const auto& entry, Facts&,
+                FieldSink& out) { entry.Entry.IsDirectory() ? out.None() : out.Number(entry.Entry.Size); }},
+    {"modified", [](const auto& entry, Facts&, FieldSink& out) { PutTime(entry.Entry.LastWrite, out); }},
+    {"created", [](const auto& entry, Facts&, FieldSink& out) { PutTime(entry.Entry.Created, out); }},
+    {"accessed", [](const auto& entry, Facts&, FieldSink& out) { PutTime(entry.Entry.LastAccess, out); }},
+    {"attributes", [](const auto& entry, Facts&, FieldSink& out) { PutAttributes(entry.Entry.Attributes, out); }},
+    {"owner",
+     [](const auto& entry, Facts& facts, FieldSink& out) {
+       const auto owner = facts.Owner(entry);
+       owner ? out.Text(*owner) : out.None();
+     },
      &GeneralSettings::RecordOwner},
-    {L"links", FieldType::Number,
-     [](const auto& entry, Facts& facts, std::wstring& out) { return facts.AppendLinks(entry, out); },
+    {"links",
+     [](const auto& entry, Facts& facts, FieldSink& out) {
+       const auto links = facts.Links(entry);
+       links ? out.Number(*links) : out.None();
+     },
      &GeneralSettings::RecordLinks},
-    {L"sha256", FieldType::Text,
-     [](const auto& entry, Facts& facts, std::wstring& out) { return facts.AppendSha256(entry, out); },
+    {"sha256",
+     [](const auto& entry, Facts& facts, FieldSink& out) {
+       const auto sum = facts.Sha256(entry);
+       sum ? out.Text(*sum) : out.None();
+     },
      &GeneralSettings::RecordSha256},
 };
 
 constexpr RecordField<DirNode> kDirectoryRows[] = {
-    {L"path", FieldType::Text,
-     [](const auto& node, Facts&, std::wstring& out) { return AppendText(node.PathOnDisk, out); }},
-    {L"files", FieldType::Number,
-     [](const auto& node, Facts&, std::wstring& out) {
-       return AppendNumber(static_cast<std::uint64_t>(node.Files), out);
-     }},
-    {L"size", FieldType::Number,
-     [](const auto& node, Facts&, std::wstring& out) {
-       return AppendNumber(static_cast<std::uint64_t>(node.Size.Whole()), out);
-     }},
-    {L"total_files", FieldType::Number,
-     [](const auto& node, Facts&, std::wstring& out) {
-       return AppendNumber(static_cast<std::uint64_t>(node.TotalFiles), out);
-     }},
-    {L"total_size", FieldType::Number,
-     [](const auto& node, Facts&, std::wstring& out) {
-       return AppendNumber(static_cast<std::uint64_t>(node.TotalSize.Whole()), out);
-     }},
+    {"path", [](const auto& node, Facts&, FieldSink& out) { out.Text(node.PathOnDisk); }},
+    {"files", [](const auto& node, Facts&, FieldSink& out) { PutCount(node.Files, out); }},
+    {"size", [](const auto& node, Facts&, FieldSink& out) { PutCount(node.Size.Whole(), out); }},
+    {"total_files", [](const auto& node, Facts&, FieldSink& out) { PutCount(node.TotalFiles, out); }},
+    {"total_size", [](const auto& node, Facts&, FieldSink& out) { PutCount(node.TotalSize.Whole(), out); }},
 };
 
 constexpr RecordField<FoundItem> kFoundRows[] = {
-    {L"name", FieldType::Text, [](const auto& row, Facts&, std::wstring& out) { return AppendText(row.Name, out); }},
-    {L"folder", FieldType::Text,
-     [](const auto& row, Facts&, std::wstring& out) { return AppendText(row.InFolder, out); }},
-    {L"size", FieldType::Text, [](const auto& row, Facts&, std::wstring& out) { return AppendText(row.Size, out); }},
-    {L"modified", FieldType::Text,
-     [](const auto& row, Facts&, std::wstring& out) { return AppendText(row.Modified, out); }},
+    {"name", [](const auto& row, Facts&, FieldSink& out) { out.Text(row.Name); }},
+    {"folder", [](const auto& row, Facts&, FieldSink& out) { out.Text(row.InFolder); }},
+    {"size", [](const auto& row, Facts&, FieldSink& out) { out.Text(row.Size); }},
+    {"modified", [](const auto& row, Facts&, FieldSink& out) { out.Text(row.Modified); }},
 };
+
+/// Two digits; returns where the next character goes.
+char* PutPair(std::uint32_t number, char* out) {
+  static constexpr auto kPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+      pairs[2 * i] = static_cast<char>('0' + i / 10);
+      pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return pairs;
+  }();
+  return std::copy_n(kPairs.data() + std::size_t{2} * number, 2, out);
+}
+
+char* PutPair(char separator, int number, char* out) {
+  *out = separator;
+  return PutPair(static_cast<std::uint32_t>(number), out + 1);
+}
 
 }  // namespace
 
@@ -110,82 +121,76 @@ constinit const RecordFields<RecordedEntry> kEntryFields{kEntryRows};
 constinit const RecordFields<DirNode> kDirectoryFields{kDirectoryRows};
 constinit const RecordFields<FoundItem> kFoundFields{kFoundRows};
 
-std::wstring_view EntryType(const FileRecord& entry) {
-  if (platform::StandsForAnother(entry.Attributes, entry.ReparseTag)) {
-    return L"link";
-  }
-  return entry.IsDirectory() ? L"directory" : L"file";
-}
-
-bool AppendUtcTime(std::uint64_t fileTime, std::wstring& out) {
+UtcTimeText::UtcTimeText(std::uint64_t fileTime) {
   constexpr std::uint64_t kTicks = 10'000'000;
-  if (fileTime == 0) {
-    return false;
-  }
   const platform::CalendarTime time = CalendarTimeOf(fileTime);
-  if (time.Year > 9999) {
-    out += L'+';  // the standard's mark of a year with more digits
+  const auto year = static_cast<std::uint32_t>(time.Year);
+  const auto fraction = static_cast<std::uint32_t>(fileTime % kTicks);
+  char* out = text_.data();
+  if (year > 9999) {
+    *out++ = '+';  // the standard's mark of a year with more digits
+    *out++ = static_cast<char>('0' + year / 10'000);
   }
-  AppendPadded(time.Year, 4, out);
-  const std::pair<wchar_t, int> parts[] = {
-      {L'-', time.Month}, {L'-', time.Day}, {L'T', time.Hour}, {L':', time.Minute}, {L':', time.Second}};
-  for (const auto& [separator, part] : parts) {
-    out += separator;
-    AppendPadded(part, 2, out);
-  }
-  out += L'.';
-  AppendPadded(static_cast<int>(fileTime % kTicks), 7, out);
-  out += L'Z';
-  return true;
+  out = PutPair(year / 100 % 100, out);
+  out = PutPair(year % 100, out);
+  out = PutPair('-', time.Month, out);
+  out = PutPair('-', time.Day, out);
+  out = PutPair('T', time.Hour, out);
+  out = PutPair(':', time.Minute, out);
+  out = PutPair(':', time.Second, out);
+  *out++ = '.';
+  out = PutPair(fraction / 100'000, out);
+  out = PutPair(fraction / 1'000 % 100, out);
+  out = PutPair(fraction / 10 % 100, out);
+  *out++ = static_cast<char>('0' + fraction % 10);
+  *out++ = 'Z';
+  length_ = static_cast<std::size_t>(out - text_.data());
 }
 
 template <class Read>
-bool RecordedFacts::Append(const RecordedEntry& entry, Read read) {
+auto RecordedFacts::ValueOf(const RecordedEntry& entry, Read read) -> decltype(read()) {
   try {
     return read();
   } catch (const RuntimeError& error) {
     if (run_.Unread.empty() || run_.Unread.back().Path != entry.Path) {  // each field of a row tries again
       run_.Unread.push_back({std::wstring(entry.Path), ReasonOf(error)});
     }
-    return false;
+    return std::nullopt;
   }
 }
 
-bool RecordedFacts::AppendOwner(const RecordedEntry& entry, std::wstring& out) {
-  return Append(entry, [&] { return AppendText(platform::OwnerOf(entry.Path), out); });
+std::optional<std::wstring> RecordedFacts::Owner(const RecordedEntry& entry) {
+  return ValueOf(entry, [&] { return std::optional(platform::OwnerOf(entry.Path)); });
 }
 
-bool RecordedFacts::AppendLinks(const RecordedEntry& entry, std::wstring& out) {
-  return Append(entry, [&] { return AppendNumber(platform::LinkCountOf(entry.Path), out); });
+std::optional<std::uint32_t> RecordedFacts::Links(const RecordedEntry& entry) {
+  return ValueOf(entry, [&] { return std::optional(platform::LinkCountOf(entry.Path)); });
 }
 
-bool RecordedFacts::AppendSha256(const RecordedEntry& entry, std::wstring& out) {
+std::optional<std::wstring> RecordedFacts::Sha256(const RecordedEntry& entry) {
   if (entry.Entry.IsDirectory() || run_.IsCancelled()) {
-    return false;
+    return std::nullopt;
   }
   if (platform::IsPlaceholder(entry.Entry.Attributes)) {
     run_.Unread.push_back({std::wstring(entry.Path), {}});
-    return false;
+    return std::nullopt;
   }
   run_.Watcher.ShowDirectory(entry.Path);
-  return Append(entry, [&] {
-    platform::Sha256 hash;
-    return Hash(entry, hash) && AppendText(hash.Hex(), out);
-  });
+  return ValueOf(entry, [&] { return Hash(entry); });
 }
 
-/// False when the run was cancelled meanwhile.
-bool RecordedFacts::Hash(const RecordedEntry& entry, platform::Sha256& hash) {
+std::optional<std::wstring> RecordedFacts::Hash(const RecordedEntry& entry) {
+  platform::Sha256 hash;
   platform::InputFile file{std::wstring(entry.Path)};
   block_.resize(kBlock);
   while (const std::size_t read = file.Read(block_)) {
     hash.Add(std::span<const char>(block_).first(read));
     run_.Watcher.LetEventsThrough();
     if (run_.IsCancelled()) {
-      return false;
+      return std::nullopt;
     }
   }
-  return true;
+  return hash.Hex();
 }
 
 }  // namespace folivant

@@ -2,7 +2,10 @@
 // A new field is one row.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,31 +31,39 @@ class RecordedFacts {
   /// `run` outlives it.
   explicit RecordedFacts(ListingRun& run) : run_(run) {}
 
-  // False, and `out` unchanged, when there is no value.
-  bool AppendOwner(const RecordedEntry& entry, std::wstring& out);
-  bool AppendLinks(const RecordedEntry& entry, std::wstring& out);
+  std::optional<std::wstring> Owner(const RecordedEntry& entry);
+  std::optional<std::uint32_t> Links(const RecordedEntry& entry);
   /// Of files alone. Shows the file as what is being read, and lets events through while it is: once the run is
   /// cancelled there is no value.
-  bool AppendSha256(const RecordedEntry& entry, std::wstring& out);
+  std::optional<std::wstring> Sha256(const RecordedEntry& entry);
 
  private:
   template <class Read>
-  bool Append(const RecordedEntry& entry, Read read);
-  bool Hash(const RecordedEntry& entry, platform::Sha256& hash);
+  auto ValueOf(const RecordedEntry& entry, Read read) -> decltype(read());
+  std::optional<std::wstring> Hash(const RecordedEntry& entry);
 
   ListingRun& run_;
   std::string block_;
 };
 
-enum class FieldType { Text, Number };
+/// Takes the value of a field, in the way of a kind of record. One of these is called, once for each field.
+class FieldSink {
+ public:
+  virtual ~FieldSink() = default;
+  /// Any text, as the system has it.
+  virtual void Text(std::wstring_view text) = 0;
+  /// Letters, digits and marks that no kind has to escape.
+  virtual void Plain(std::string_view text) = 0;
+  virtual void Number(std::uint64_t number) = 0;
+  /// There is no value.
+  virtual void None() = 0;
+};
 
 /// A field of a row about a `Subject`.
 template <class Subject>
 struct RecordField {
-  std::wstring_view Name;
-  FieldType Type;
-  /// Appends the value; false, and nothing appended, where there is none.
-  bool (*Append)(const Subject& subject, RecordedFacts& facts, std::wstring& out);
+  std::string_view Name;
+  void (*Put)(const Subject& subject, RecordedFacts& facts, FieldSink& out);
   bool GeneralSettings::*Switch = nullptr;  ///< what turns it on; null for a field that is always there
 };
 
@@ -66,9 +77,15 @@ extern const RecordFields<DirNode> kDirectoryFields;
 /// Style 5: the four texts as they were read.
 extern const RecordFields<FoundItem> kFoundFields;
 
-/// "file", "directory" or "link".
-std::wstring_view EntryType(const FileRecord& entry);
-/// "2026-11-21T23:17:31.1234567Z"; nothing is appended for 0.
-bool AppendUtcTime(std::uint64_t fileTime, std::wstring& out);
+/// "2026-11-21T23:17:31.1234567Z", for a time other than 0.
+class UtcTimeText {
+ public:
+  explicit UtcTimeText(std::uint64_t fileTime);
+  std::string_view Text() const { return {text_.data(), length_}; }
+
+ private:
+  std::array<char, 32> text_;
+  std::size_t length_ = 0;
+};
 
 }  // namespace folivant

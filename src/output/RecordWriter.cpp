@@ -1,10 +1,18 @@
 #include "output/RecordWriter.h"
 
+#include <charconv>
+#include <iterator>
 #include <limits>
 
 #include "base/mdlFileRoutines.h"
 
 namespace folivant {
+
+void AppendNumber(std::uint64_t number, std::string& out) {
+  char digits[20];
+  const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+  out.append(digits, static_cast<std::size_t>(end - digits));
+}
 
 void RecordWriter::BeginListing(ListingRun& run) {
   run_ = &run;

@@ -24,6 +24,8 @@ struct RecordTotals {
   bool MoreBytes = false;  ///< the sum does not fit into 64 bits, and Bytes is the largest number that does
 };
 
+void AppendNumber(std::uint64_t number, std::string& out);
+
 class RecordWriter : public ListingWriter {
  public:
   void BeginListing(ListingRun& run) final;
@@ -48,6 +50,10 @@ class RecordWriter : public ListingWriter {
   ListingRun& Run() const { return *run_; }
   RecordedFacts& Facts() { return *facts_; }
   const RecordTotals& Totals() const { return totals_; }
+  template <class Subject>
+  bool IsShown(const RecordField<Subject>& field) const {
+    return field.Switch == nullptr || run_->General.*field.Switch;
+  }
 
  private:
   void WriteEntry(const RecordedEntry& entry);

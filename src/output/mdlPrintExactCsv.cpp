@@ -1,10 +1,40 @@
 #include "output/mdlPrintExactCsv.h"
 
+#include <algorithm>
+
 #include "output/RecordWriter.h"
 #include "platform/Utf8.h"
 
 namespace folivant {
 namespace {
+
+/// `text` is not empty. A blank behind an apostrophe is not at the beginning any more.
+bool NeedsQuotes(std::wstring_view text, bool apostrophe) {
+  const auto isSpecial = [](wchar_t c) { return c == L',' || c == L'"' || c == L'\r' || c == L'\n'; };
+  return (!apostrophe && text.front() == L' ') || text.back() == L' ' ||
+         std::any_of(text.begin(), text.end(), isSpecial);
+}
+
+/// The values of one row.
+class CsvRow final : public FieldSink {
+ public:
+  /// With `apostrophe` what looks like a formula gets one.
+  CsvRow(std::string& out, bool apostrophe) : out_(out), apostrophe_(apostrophe) {}
+
+  void Text(std::wstring_view text) override;
+  void Plain(std::string_view text) override;
+  void Number(std::uint64_t number) override { AppendNumber(number, out_); }
+  void None() override {}
+
+ private:
+  /// Whether a value that begins so gets an apostrophe.
+  bool LooksLikeFormula(wchar_t first) const {
+    return apostrophe_ && std::wstring_view(L"=+-@\t").find(first) != std::wstring_view::npos;
+  }
+
+  std::string& out_;
+  bool apostrophe_;
+};
 
 class ExactCsvWriter final : public RecordWriter {
  private:
@@ -15,16 +45,9 @@ class ExactCsvWriter final : public RecordWriter {
   void AppendFound(const FoundItem& row, std::string& out) override { AppendRow(kFoundFields, row, out); }
 
   template <class Subject>
-  bool IsShown(const RecordField<Subject>& field) const {
-    return field.Switch == nullptr || Run().General.*field.Switch;
-  }
-  template <class Subject>
   void AppendNames(RecordFields<Subject> fields, std::string& out);
   template <class Subject>
   void AppendRow(RecordFields<Subject> fields, const Subject& subject, std::string& out);
-  void AppendValue(std::string& out);
-
-  std::wstring value_;
 };
 
 void ExactCsvWriter::Begin(std::string& out) {
@@ -44,7 +67,7 @@ void ExactCsvWriter::AppendNames(RecordFields<Subject> fields, std::string& out)
   for (const RecordField<Subject>& field : fields) {
     if (IsShown(field)) {
       out += &field == &fields.front() ? "" : ",";
-      platform::AppendUtf8(field.Name, out);
+      out += field.Name;
     }
   }
   out += "\r\n";
@@ -52,37 +75,39 @@ void ExactCsvWriter::AppendNames(RecordFields<Subject> fields, std::string& out)
 
 template <class Subject>
 void ExactCsvWriter::AppendRow(RecordFields<Subject> fields, const Subject& subject, std::string& out) {
+  CsvRow row(out, Run().General.CsvApostrophe);
   for (const RecordField<Subject>& field : fields) {
-    if (!IsShown(field)) {
-      continue;
+    if (IsShown(field)) {
+      out += &field == &fields.front() ? "" : ",";
+      field.Put(subject, Facts(), row);
     }
-    out += &field == &fields.front() ? "" : ",";
-    value_.clear();
-    field.Append(subject, Facts(), value_);
-    AppendValue(out);
   }
   out += "\r\n";
 }
 
 /// In quotes where a comma, a quote or a line break stands inside, or a blank at an end, which some readers drop.
-void ExactCsvWriter::AppendValue(std::string& out) {
-  if (value_.empty()) {
+void CsvRow::Text(std::wstring_view text) {
+  if (text.empty()) {
     return;
   }
-  if (Run().General.CsvApostrophe && std::wstring_view(L"=+-@\t").find(value_.front()) != std::wstring_view::npos) {
-    value_.insert(0, 1, L'\'');
+  const bool formula = LooksLikeFormula(text.front());
+  if (!NeedsQuotes(text, formula)) {
+    out_ += formula ? "'" : "";
+    return platform::AppendUtf8(text, out_);
   }
-  const bool quoted =
-      value_.find_first_of(L",\"\r\n") != value_.npos || value_.front() == L' ' || value_.back() == L' ';
-  if (!quoted) {
-    return platform::AppendUtf8(value_, out);
+  out_ += formula ? "\"'" : "\"";
+  for (std::size_t quote = text.find(L'"'); quote != text.npos; quote = text.find(L'"')) {
+    platform::AppendUtf8(text.substr(0, quote + 1), out_);
+    out_ += '"';
+    text.remove_prefix(quote + 1);
   }
-  out += '"';
-  for (std::size_t at = value_.find(L'"'); at != value_.npos; at = value_.find(L'"', at + 2)) {
-    value_.insert(at, 1, L'"');
-  }
-  platform::AppendUtf8(value_, out);
-  out += '"';
+  platform::AppendUtf8(text, out_);
+  out_ += '"';
+}
+
+void CsvRow::Plain(std::string_view text) {
+  out_ += !text.empty() && LooksLikeFormula(static_cast<wchar_t>(text.front())) ? "'" : "";
+  out_ += text;
 }
 
 }  // namespace

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "output/JsonText.h"
 #include "output/RecordWriter.h"
 #include "platform/Clock.h"
-#include "platform/Utf8.h"
 #include "res/Version.h"
 
 namespace folivant {
@@ -25,8 +27,26 @@ class JsonWriter final : public RecordWriter {
 
   template <class Subject>
   void AppendRow(RecordFields<Subject> fields, const Subject& subject, std::string& out);
+};
 
-  std::wstring value_;
+void AppendPlain(std::string_view text, std::string& out) {
+  out += '"';
+  out += text;
+  out += '"';
+}
+
+/// Values, each behind its key.
+class JsonValues final : public FieldSink {
+ public:
+  explicit JsonValues(std::string& out) : out_(out) {}
+
+  void Text(std::wstring_view text) override { AppendJsonString(text, out_); }
+  void Plain(std::string_view text) override { AppendPlain(text, out_); }
+  void Number(std::uint64_t number) override { AppendNumber(number, out_); }
+  void None() override { out_ += "null"; }
+
+ private:
+  std::string& out_;
 };
 
 /// One object under construction.
@@ -37,15 +57,16 @@ class JsonObject {
   JsonObject& operator=(const JsonObject&) = delete;
   ~JsonObject() { out_ += '}'; }
 
-  /// A key; its value is to be appended next.
-  std::string& Key(std::wstring_view name) {
-    out_ += out_.back() == '{' ? "" : ",";
-    AppendJsonString(name, out_);
-    return out_ += ':';
+  /// A key, in which nothing has to be escaped; its value is to be appended next.
+  std::string& Key(std::string_view name) {
+    out_ += out_.back() == '{' ? "\"" : ",\"";
+    out_ += name;
+    return out_ += "\":";
   }
-  void Text(std::wstring_view name, std::wstring_view value) { AppendJsonString(value, Key(name)); }
-  void Number(std::wstring_view name, std::uint64_t value) { Key(name) += std::to_string(value); }
-  void Flag(std::wstring_view name, bool value) { Key(name) += value ? "true" : "false"; }
+  void Text(std::string_view name, std::wstring_view value) { AppendJsonString(value, Key(name)); }
+  void Plain(std::string_view name, std::string_view value) { AppendPlain(value, Key(name)); }
+  void Number(std::string_view name, std::uint64_t value) { AppendNumber(value, Key(name)); }
+  void Flag(std::string_view name, bool value) { Key(name) += value ? "true" : "false"; }
 
  private:
   std::string& out_;
@@ -71,7 +92,7 @@ std::wstring DayText(DateValue date) {
 }
 
 void AppendAttributeFilter(const FilterSettings& filter, std::string& out) {
-  constexpr std::wstring_view kNames[] = {L"archive", L"read-only", L"hidden", L"system", L"directory"};
+  constexpr std::string_view kNames[] = {"archive", "read-only", "hidden", "system", "directory"};
   JsonObject object(out);
   for (std::size_t i = 0; i < std::size(kNames); ++i) {
     if (filter.Attributes[i] != AttributeChoice::DoNotCare) {
@@ -85,49 +106,47 @@ void AppendFilter(const FilterSettings& filter, std::string& out) {
   constexpr std::uint64_t kKilobyte = 1024;
   JsonObject object(out);
   if (filter.NameOn) {
-    object.Text(L"name", filter.FilterName);
+    object.Text("name", filter.FilterName);
   }
   if (filter.SizeOn) {
-    object.Number(filter.SizeMin ? L"minimum_size" : L"maximum_size",
+    object.Number(filter.SizeMin ? "minimum_size" : "maximum_size",
                   static_cast<std::uint64_t>(std::max(filter.FilterSize, 0)) * kKilobyte);
   }
   if (filter.DateOn) {
-    object.Text(L"modified_from", DayText(filter.DateMin));
-    object.Text(L"modified_to", DayText(filter.DateMax));
+    object.Text("modified_from", DayText(filter.DateMin));
+    object.Text("modified_to", DayText(filter.DateMax));
   }
   if (filter.AttrOn) {
-    AppendAttributeFilter(filter, object.Key(L"attributes"));
+    AppendAttributeFilter(filter, object.Key("attributes"));
   }
 }
 
 void AppendUnread(const UnreadPath& unread, std::string& out) {
   JsonObject object(out);
-  object.Text(L"path", unread.Path);
-  object.Number(L"code", unread.Reason.Code);
-  object.Text(L"reason", unread.Reason.Text);
+  object.Text("path", unread.Path);
+  object.Number("code", unread.Reason.Code);
+  object.Text("reason", unread.Reason.Text);
 }
 
 void JsonWriter::Begin(std::string& out) {
   const ListingRun& run = Run();
   {
     JsonObject line(out);
-    JsonObject listing(line.Key(L"listing"));
-    listing.Number(L"format", kFormatVersion);
-    listing.Text(L"program", L"Folivant " VERSION_TEXT);
+    JsonObject listing(line.Key("listing"));
+    listing.Number("format", kFormatVersion);
+    listing.Text("program", L"Folivant " VERSION_TEXT);
     if (run.Format.ListingStyle != ListingStyle::FindWindow) {
-      listing.Text(L"root", run.Start.OnDisk);
+      listing.Text("root", run.Start.OnDisk);
     }
-    listing.Text(L"style", StyleWord(run.Format.ListingStyle));
+    listing.Text("style", StyleWord(run.Format.ListingStyle));
     if (!run.Format.IsFileList()) {
-      listing.Key(L"depth") += std::to_string(run.Format.SubLevel);
-      AppendFilter(run.Filter, listing.Key(L"filter"));
-      JsonObject order(listing.Key(L"order"));
-      order.Text(L"by", OrderWord(run.Filter.OrderBy));
-      order.Flag(L"ascending", run.Filter.OrderAZ);
+      listing.Key("depth") += std::to_string(run.Format.SubLevel);
+      AppendFilter(run.Filter, listing.Key("filter"));
+      JsonObject order(listing.Key("order"));
+      order.Text("by", OrderWord(run.Filter.OrderBy));
+      order.Flag("ascending", run.Filter.OrderAZ);
     }
-    value_.clear();
-    AppendUtcTime(platform::UtcNow(), value_);
-    listing.Text(L"start", value_);
+    listing.Plain("start", UtcTimeText(platform::UtcNow()).Text());
   }
   out += '\n';
 }
@@ -135,17 +154,17 @@ void JsonWriter::Begin(std::string& out) {
 void JsonWriter::End(std::string& out) {
   {
     JsonObject line(out);
-    JsonObject complete(line.Key(L"complete"));
-    complete.Number(L"files", Totals().Files);
-    complete.Number(L"directories", Totals().Directories);
-    complete.Number(L"links", Totals().Links);
+    JsonObject complete(line.Key("complete"));
+    complete.Number("files", Totals().Files);
+    complete.Number("directories", Totals().Directories);
+    complete.Number("links", Totals().Links);
     if (Run().Format.ListingStyle == ListingStyle::FindWindow) {
-      complete.Key(L"bytes") += "null";  // a Find window tells no sizes, only texts
+      complete.Key("bytes") += "null";  // a Find window tells no sizes, only texts
     } else {
-      complete.Number(L"bytes", Totals().Bytes);
+      complete.Number("bytes", Totals().Bytes);
     }
-    complete.Flag(L"more_bytes", Totals().MoreBytes);
-    complete.Key(L"unread") += '[';
+    complete.Flag("more_bytes", Totals().MoreBytes);
+    complete.Key("unread") += '[';
     for (const UnreadPath& unread : Run().Unread) {
       out += &unread == &Run().Unread.front() ? "" : ",";
       AppendUnread(unread, out);
@@ -155,25 +174,27 @@ void JsonWriter::End(std::string& out) {
   out += '\n';
 }
 
+/// What stands before the value of each field.
+template <class Subject>
+std::vector<std::string> KeysOf(RecordFields<Subject> fields) {
+  std::vector<std::string> keys;
+  for (const RecordField<Subject>& field : fields) {
+    keys.push_back((keys.empty() ? "{\"" : ",\"") + std::string(field.Name) + "\":");
+  }
+  return keys;
+}
+
 template <class Subject>
 void JsonWriter::AppendRow(RecordFields<Subject> fields, const Subject& subject, std::string& out) {
-  {
-    JsonObject row(out);
-    for (const RecordField<Subject>& field : fields) {
-      if (field.Switch != nullptr && !(Run().General.*field.Switch)) {
-        continue;
-      }
-      value_.clear();
-      if (!field.Append(subject, Facts(), value_)) {
-        row.Key(field.Name) += "null";
-      } else if (field.Type == FieldType::Number) {
-        platform::AppendUtf8(value_, row.Key(field.Name));
-      } else {
-        row.Text(field.Name, value_);
-      }
+  static const std::vector<std::string> keys = KeysOf(fields);
+  JsonValues values(out);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (IsShown(fields[i])) {
+      out += keys[i];
+      fields[i].Put(subject, Facts(), values);
     }
   }
-  out += '\n';
+  out += "}\n";
 }
 
 }  // namespace

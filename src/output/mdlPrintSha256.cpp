@@ -19,8 +19,6 @@ class Sha256Writer final : public RecordWriter {
 
   void AppendSum(const RecordedEntry& entry, std::string& out);
   std::wstring PathFromStart(std::wstring_view path) const;
-
-  std::wstring hash_;
 };
 
 /// A Find window tells no more than texts; where they make the path of a file, that is the one.
@@ -30,8 +28,8 @@ void Sha256Writer::AppendFound(const FoundItem& row, std::string& out) {
 }
 
 void Sha256Writer::AppendSum(const RecordedEntry& entry, std::string& out) {
-  hash_.clear();
-  if (!Facts().AppendSha256(entry, hash_)) {
+  const std::optional<std::wstring> sum = Facts().Sha256(entry);
+  if (!sum) {
     return;
   }
   std::wstring path = PathFromStart(entry.Path);
@@ -40,7 +38,7 @@ void Sha256Writer::AppendSum(const RecordedEntry& entry, std::string& out) {
     path = ReplaceAll(ReplaceAll(ReplaceAll(path, L"\\", L"\\\\"), L"\n", L"\\n"), L"\r", L"\\r");
   }
   out += escaped ? "\\" : "";
-  platform::AppendUtf8(hash_, out);
+  platform::AppendUtf8(*sum, out);
   out += "  ";
   platform::AppendUtf8(path, out);
   out += '\n';
