@@ -49,7 +49,7 @@ const std::wstring& KnownAccountOf(PSID sid) {
 }  // namespace
 
 std::wstring OwnerOf(std::wstring_view path) {
-  const std::wstring name = LongPathForm(path);
+  const std::wstring name = EntryPathForm(path);
   DWORD size = 0;
   GetFileSecurityW(name.c_str(), OWNER_SECURITY_INFORMATION, nullptr, 0, &size);
   Bytes descriptor(size);
@@ -65,7 +65,7 @@ std::wstring OwnerOf(std::wstring_view path) {
 }
 
 std::uint32_t LinkCountOf(std::wstring_view path) {
-  const OwnedFile file(CreateFileW(LongPathForm(path).c_str(), FILE_READ_ATTRIBUTES,
+  const OwnedFile file(CreateFileW(EntryPathForm(path).c_str(), FILE_READ_ATTRIBUTES,
                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   BY_HANDLE_FILE_INFORMATION information;

@@ -104,7 +104,7 @@ std::optional<FoundEntry> FindEntry(std::wstring_view path) {
   }
   WIN32_FIND_DATAW found;
   OwnedFind handle(
-      FindFirstFileExW(LongPathForm(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
+      FindFirstFileExW(EntryPathForm(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));
   if (!handle.IsOpen()) {  // typed with a dot or blank at its end that the name on disk has not
     handle = OwnedFind(
         FindFirstFileExW(std::wstring(path).c_str(), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0));

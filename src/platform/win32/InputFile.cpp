@@ -16,7 +16,7 @@ struct InputFile::State {
 
 InputFile::InputFile(const std::wstring& path) : state_(std::make_unique<State>()) {
   state_->Path = AbsolutePath(path);
-  state_->File = OwnedFile(CreateFileW(LongPathForm(state_->Path).c_str(), GENERIC_READ,
+  state_->File = OwnedFile(CreateFileW(EntryPathForm(state_->Path).c_str(), GENERIC_READ,
                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                        FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
   if (!state_->File.IsOpen()) {

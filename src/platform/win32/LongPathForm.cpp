@@ -8,6 +8,7 @@ namespace folivant::platform {
 namespace {
 
 constexpr std::wstring_view kVerbatim = L"\\\\?\\";
+constexpr std::wstring_view kDevice = L"\\\\.\\";
 constexpr std::size_t kPlainLimit = MAX_PATH - 12;  // a directory must leave room for an 8.3 name
 
 bool IsDriveOrServer(std::wstring_view path) {
@@ -54,11 +55,17 @@ std::wstring Verbatim(std::wstring_view path) {
 }  // namespace
 
 std::wstring LongPathForm(std::wstring_view path) {
-  if (path.starts_with(kVerbatim) || path.starts_with(L"\\\\.\\")) {
+  if (path.starts_with(kVerbatim) || path.starts_with(kDevice)) {
     return std::wstring(path);
   }
   const bool trimmed = IsDriveOrServer(path) && LosesDotsOrBlanks(path) && !HasDotComponents(path);
   return trimmed || path.size() >= kPlainLimit ? Verbatim(path) : std::wstring(path);
+}
+
+std::wstring EntryPathForm(std::wstring_view path) {
+  const bool plain = IsDriveOrServer(path) && !path.starts_with(L"\\\\") && !HasDotComponents(path);
+  const bool device = plain && FullPath(path).starts_with(kDevice);  // which names are depends on the system's version
+  return device ? std::wstring(kVerbatim) + std::wstring(path) : LongPathForm(path);
 }
 
 }  // namespace folivant::platform

@@ -11,4 +11,8 @@ namespace folivant::platform {
 /// meets them.)
 std::wstring LongPathForm(std::wstring_view path);
 
+/// The same for an entry of a directory, whatever its name: one that is called like a device ("nul.txt"; other systems
+/// make such names, too) is a file, and neither size nor content are those of the device.
+std::wstring EntryPathForm(std::wstring_view path);
+
 }  // namespace folivant::platform

@@ -42,6 +42,16 @@ TEST(LongPathForm, KeepsDotsAndBlanksAtTheEndOfNames) {
   }
 }
 
+TEST(EntryPathForm, IsThatOfAFileWhereTheNameIsThatOfADevice) {
+  for (const wchar_t* odd : {L"C:\\a\\nul", L"C:\\a\\NUL", L"C:\\con"}) {
+    EXPECT_EQ(EntryPathForm(odd), std::wstring(L"\\\\?\\") + odd);
+  }
+  for (const wchar_t* plain : {L"nul", L"C:\\a\\null", L"C:\\nul\\a", L"\\\\.\\NUL", L"\\\\server\\share\\a"}) {
+    EXPECT_EQ(EntryPathForm(plain), plain);
+  }
+  EXPECT_EQ(EntryPathForm(L"C:\\a "), L"\\\\?\\C:\\a ");
+}
+
 class WindowsFiles : public testing::Test {
  protected:
   const Scratch scratch_;
