@@ -22,6 +22,7 @@ WINDOWS_COMPILER = 'x86_64-w64-mingw32-g++-posix'
 BEGIN, END = '<!-- benchmarks: begin -->', '<!-- benchmarks: end -->'
 WIDE, FLAT = '300,000 files in 3,000 directories', '100,000 files in one directory'
 ON_HOST, UNDER_WINE = 'On the host, whole process, against the floor', 'Under Wine, whole process, against the floor'
+EXACT = (('csv', 'exact CSV'), ('json', 'JSON Lines'))
 COLLECTING, OTHER_RUNS = 'Memory of the collecting styles, bytes', 'Under Wine, other runs'
 # What the README shows: its own words, the title of a table, a row of it, and the unit of the first figure there.
 SUMMARY = [(f'{WIDE}, host build', ON_HOST, WIDE, 'times the floor'),
@@ -49,6 +50,13 @@ def build(scratch, windows):
         run(WINDOWS_COMPILER, '-std=c++20', '-O2', '-static', '-municode', 'bench/floor_windows.cpp', '-o',
             program / 'floor.exe')
         build_empty(scratch, run)
+
+
+def compile_program(scratch, name, *sources):
+    """A program with the core of the host build in it."""
+    libraries = [HOUSE / f'build/host-release/src/libfolivant_{part}.a' for part in ('core', 'platform', 'core')]
+    subprocess.run(['g++', '-std=c++20', '-O2', '-DNDEBUG', '-Isrc', '-Itests', *sources, *libraries, '-lcrypto',
+                    '-o', scratch / name], cwd=HOUSE, check=True)
 
 
 def build_empty(scratch, run):
@@ -108,6 +116,15 @@ class Trees:
         self.files(root.joinpath(*['level'] * depth), 1)
         return root
 
+    def filled(self, name, count, size):
+        """Files with content that differs from one to the next."""
+        root = self.scratch / name
+        root.mkdir()
+        block = self.random.randbytes(size)
+        for number in range(count):
+            (root / f'file {number}').write_bytes(number.to_bytes(8, 'little') + block[8:])
+        return root
+
     def empty(self):
         root = self.scratch / 'empty'
         root.mkdir()
@@ -157,9 +174,9 @@ def dos(path):
 
 
 def listing(program, tree, output, kind='t', filter_file=None):
-    """A command-line run; without a filter file of its own in style 1, ordered by name."""
+    """A command-line run; without a filter file of its own in style 1, ordered by name. A kind is a letter or a word."""
     chosen = filter_file or output.with_name('usual.fvf')
-    return [*program, '/f', dos(chosen), '/d', dos(tree), '/t', kind, '/o', dos(output), '/g']
+    return [*program, '/f', dos(chosen), '/d', dos(tree), '/t' if len(kind) == 1 else '/k', kind, '/o', dos(output), '/g']
 
 
 def table(title, head, rows):
@@ -188,10 +205,23 @@ def on_host(bench, trees):
 
     tree = trees[WIDE]
     rows = []
-    for kind, name in (('h', 'HTML'), ('x', 'XML'), ('a', 'tab-delimited'), ('c', 'CSV')):
+    for kind, name in (('h', 'HTML'), ('x', 'XML'), ('a', 'tab-delimited'), ('c', 'CSV'), *EXACT):
         ratio = bench.ratio((listing(host, tree, out, kind), None), (listing(host, tree, out), None))
         rows.append([name, f'{ratio:.2f}'])
     return lines + table('Other kinds of file against text, on the host', ['Kind', 'Ratio'], rows)
+
+
+def hashing(bench, make, scale):
+    """Sums of the same files, all of them in the cache; of more than one, so that neither side waits for a disk."""
+    host = [HOUSE / 'build/host-release/folivant-host']
+    out = bench.scratch / 'list.out'
+    rows = []
+    for name, count, size in (('20 files of 50 MB', 20, 50_000_000), ('20,000 files of 20 kB', 20_000, 20_000)):
+        tree = make.filled(f'filled {size}', max(1, int(count * scale)), size)
+        tool = (['sh', '-c', f'cd "{tree}" && find . -type f -exec sha256sum {{}} +'], out)
+        rows.append([name, f'{bench.ratio(tool, (listing(host, tree, out, "sha256"), None)):.2f}'])
+        shutil.rmtree(tree)
+    return table('Throughput of a SHA-256 list, on the host', ['Files', 'Times that of sha256sum'], rows)
 
 
 def orders(bench, small, large):
@@ -214,21 +244,35 @@ def memory(bench, few, many, nodes):
     host = [HOUSE / 'build/host-release/folivant-host']
     out = bench.scratch / 'list.out'
 
-    def peak(tree, style):
+    def peak(tree, style, kind='t'):
         chosen = bench.filter_file(f'style{style}', OrderBy=1, OrderAZ='True', Format=style)
-        return statistics.median(bench.once(listing(host, tree, out, filter_file=chosen))[1] for _ in range(3))
+        return statistics.median(bench.once(listing(host, tree, out, kind, chosen))[1] for _ in range(3))
 
     def growth(less, more, style):
         """Bytes for each further directory."""
         return (peak(more[0], style) - peak(less[0], style)) * 1024 / (more[1] - less[1])
     rows = []
-    for style, name in ((0, 'No subdirectories'), (1, 'Include subdirectories'), (4, 'Full-path list')):
-        rows.append([name, f'{peak(few[0], style):,} kB', f'{peak(many[0], style):,} kB'])
+    for kind, kind_name in (('t', 'text'), *EXACT):
+        for style, name in ((0, 'No subdirectories'), (1, 'Include subdirectories'), (4, 'Full-path list')):
+            rows.append([name, kind_name, f'{peak(few[0], style, kind):,} kB', f'{peak(many[0], style, kind):,} kB'])
     lines = table('Peak memory, streaming styles',
-                  ['Style', f'{few[1]:,} directories', f'{many[1]:,} directories'], rows)
+                  ['Style', 'Kind', f'{few[1]:,} directories', f'{many[1]:,} directories'], rows)
+    lines += made_up_memory(bench)
     rows = [['Tree-style, per entry', f'{growth(few, many, 2) / 100:.0f}'],
             ['Directory view, per directory', f'{growth(*nodes, 3):.0f}']]
     return lines + table(COLLECTING, ['Style', 'Bytes'], rows)
+
+
+def made_up_memory(bench):
+    """Of rows that are on no disk, so that a million of them take no walk."""
+    compile_program(bench.scratch, 'made_up', 'tests/records/made_up.cpp')
+    rows = []
+    for kind, name in EXACT:
+        peaks = [bench.once([bench.scratch / 'made_up', kind, dos(bench.scratch / 'many.out'), str(count)])[1]
+                 for count in (10_000, 1_000_000)]
+        rows.append([name, *(f'{peak:,} kB' for peak in peaks)])
+    (bench.scratch / 'many.out').unlink()
+    return table('Peak memory, made-up entries', ['Kind', '10,000 entries', '1,000,000 entries'], rows)
 
 
 def under_wine(bench, trees, empty):
@@ -241,7 +285,7 @@ def under_wine(bench, trees, empty):
     lines = table(UNDER_WINE, ['Tree', 'Folivant.exe'], rows)
     tree = next(iter(trees.values()))
     rows = []
-    for kind, name in (('h', 'HTML'), ('x', 'XML')):
+    for kind, name in (('h', 'HTML'), ('x', 'XML'), *EXACT):
         rows.append([f'{name} against text', f'{bench.ratio((listing(exe, tree, out, kind), None), (listing(exe, tree, out), None)):.2f}'])
     rows.append(['Empty folder against an empty program',
                  f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "program/empty.exe"], None), 15 * bench.pairs):.2f}'])
@@ -276,9 +320,7 @@ def window(bench, tree, empty, filter_file):
 
 def pages(scratch):
     """The page writer on a printer in memory; its program compares by itself."""
-    libraries = [HOUSE / f'build/host-release/src/libfolivant_{name}.a' for name in ('core', 'platform', 'core')]
-    subprocess.run(['g++', '-std=c++20', '-O2', '-DNDEBUG', '-Isrc', '-Itests', 'bench/writers.cpp',
-                    'tests/fakes/RecordingSurface.cpp', *libraries, '-o', scratch / 'writers'], cwd=HOUSE, check=True)
+    compile_program(scratch, 'writers', 'bench/writers.cpp', 'tests/fakes/RecordingSurface.cpp')
     done = subprocess.run([scratch / 'writers', scratch / 'text.out'], capture_output=True, text=True, check=True)
     ratio = re.search(r'pages (\S+) times', done.stdout).group(1)
     return table('100,000 entries drawn on pages against written as text, without the walk', ['Writer', 'Ratio'],
@@ -329,7 +371,7 @@ def sections(text):
     return {part.split('\n', 1)[0]: f'### {part.rstrip()}\n\n' for part in re.split('^### ', text, flags=re.M)[1:]}
 
 
-PARTS = ('pages', 'host', 'orders', 'memory', 'wine', 'window')
+PARTS = ('pages', 'host', 'hashing', 'orders', 'memory', 'wine', 'window')
 
 def main():
     options = argparse.ArgumentParser(description=__doc__)
@@ -372,6 +414,8 @@ def measure(bench, make, parts, scale):
     lines = []
     if 'host' in parts:
         lines += on_host(bench, trees)
+    if 'hashing' in parts:
+        lines += hashing(bench, make, scale)
     if 'orders' in parts:
         lines += orders(bench, small_flat, large_flat)
     if 'memory' in parts:

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "fakes/RecordingSurface.h"
+#include "fakes/RunRecords.h"
 #include "output/mdlPrint.h"
 
 using namespace folivant;
@@ -19,54 +20,59 @@ namespace {
 constexpr std::size_t kDirectories = 1'000;
 constexpr std::size_t kEntries = 100;  // of each directory
 
-/// Names and sizes of a directory as they come: most fit into their column, some do not.
+/// The entries of a directory as they come: most names fit into their column, some do not.
 class Entries {
  public:
   Entries() {
     for (std::size_t i = 0; i < kEntries; ++i) {
       names_.push_back((i % 10 == 9 ? L"A long name that does not fit into its column " : L"Document ") +
                        std::to_wstring(i) + L".txt");
-      sizes_.push_back(std::to_wstring(i * 97 % 9'999) + (i % 2 == 0 ? L" b " : L" kb"));
     }
     for (std::size_t i = 0; i < kEntries; ++i) {
       FileRecord record;
       record.Name = names_[i];
-      record.DosName = L"docume~1.txt";
-      record.SizeText = sizes_[i];
-      record.DateText = L"2001/02/03 04:05";
-      record.AttrText = L" a   ";
+      record.AlternateName = L"docume~1.txt";
+      record.Size = i * 97'531;
+      record.ShownWrite = 126'000'000'000'000'000 + i * 987'654'321'000;
+      record.Attributes = platform::kArchive;
       records_.push_back(record);
     }
     std::iota(order_.begin(), order_.end(), 0U);
   }
-  DirectoryListing Listing() const { return {L"C:\\Data\\Some folder", 1, records_, order_, L"100 files, 4,882 kb"}; }
+  DirectoryListing Listing() const {
+    return {.Path = L"Z:\\Data\\Some folder",
+            .Level = 1,
+            .Records = records_,
+            .Order = order_,
+            .Summary = L"100 files, 4,882 kb"};
+  }
 
  private:
   std::vector<std::wstring> names_;
-  std::vector<std::wstring> sizes_;
   std::vector<FileRecord> records_;
   std::vector<std::uint32_t> order_ = std::vector<std::uint32_t>(kEntries);
 };
 
-class Bench {
+class Bench : fakes::RunRecords {
  public:
-  explicit Bench(std::wstring file) : outputFile_(std::move(file)) {
-    general_.TextWidth = 80;
-    general_.MarginLeft = general_.MarginRight = general_.MarginTop = general_.MarginBottom = 20;
-    general_.FontName = L"Courier New";
-    general_.FontSize = 10;
-    general_.Font80HF = true;
-    general_.Header = L"%p";
-    general_.Footer = L"- %n -";
-    format_.Files = {true, true, true, true, true};
-    tree_.StartPath = tree_.StartPathOnDisk = L"Z:\\";
+  explicit Bench(std::wstring file) {
+    OutputFile = std::move(file);
+    General.TextWidth = 80;
+    General.MarginLeft = General.MarginRight = General.MarginTop = General.MarginBottom = 20;
+    General.FontName = L"Courier New";
+    General.FontSize = 10;
+    General.Font80HF = true;
+    General.Header = L"%p";
+    General.Footer = L"- %n -";
+    Format.Files = {true, true, true, true, true};
+    Start = {L"Z:\\", L"Z:\\"};
   }
 
   double Seconds(OutputKind kind) {
-    kind_ = kind;
-    pageNumber_ = 0;
+    ListingRun run = MakeRun();
+    driver_.Choose(kind);
     const auto start = std::chrono::steady_clock::now();
-    driver_.BeginListing();
+    driver_.BeginListing(run);
     for (std::size_t i = 0; i < kDirectories; ++i) {
       driver_.ListDirectory(entries_.Listing());
     }
@@ -76,18 +82,7 @@ class Bench {
 
  private:
   Entries entries_;
-  Messages texts_;
-  GeneralSettings general_;
-  PrinterSettings printer_;
-  FilterSettings filter_;
-  ListingFormat format_;
-  ScanTree tree_;
-  OutputKind kind_ = OutputKind::Text;
-  std::wstring outputFile_;
-  std::wstring datePattern_ = L"yyyy/mm/dd";
-  std::int16_t pageNumber_ = 0;
-  ListingRun run_{texts_, general_, printer_, filter_, format_, tree_, kind_, outputFile_, datePattern_, pageNumber_};
-  OutputDriver driver_{run_};
+  OutputDriver driver_;
 };
 
 }  // namespace
