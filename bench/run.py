@@ -120,9 +120,12 @@ class Trees:
         """Files with content that differs from one to the next."""
         root = self.scratch / name
         root.mkdir()
-        block = self.random.randbytes(size)
+        block = self.random.randbytes(10_000_000)
         for number in range(count):
-            (root / f'file {number}').write_bytes(number.to_bytes(8, 'little') + block[8:])
+            with open(root / f'file {number}', 'wb') as file:
+                file.write(number.to_bytes(8, 'little'))
+                while file.tell() < size:
+                    file.write(block[:size - file.tell()])
         return root
 
     def empty(self):
@@ -221,7 +224,24 @@ def hashing(bench, make, scale):
         tool = (['sh', '-c', f'cd "{tree}" && find . -type f -exec sha256sum {{}} +'], out)
         rows.append([name, f'{bench.ratio(tool, (listing(host, tree, out, "sha256"), None)):.2f}'])
         shutil.rmtree(tree)
-    return table('Throughput of a SHA-256 list, on the host', ['Files', 'Times that of sha256sum'], rows)
+    lines = table('Throughput of a SHA-256 list, on the host', ['Files', 'Times that of sha256sum'], rows)
+    return lines + cancel_within_a_file(bench, make, max(1_000_000, int(1_000_000_000 * scale)))
+
+
+def cancel_within_a_file(bench, make, size):
+    """One huge file that has to come from the disk, then again from the cache."""
+    compile_program(bench.scratch, 'hashing', 'bench/hashing.cpp')
+    file = make.filled('huge', 1, size) / 'file 0'
+    with open(file, 'rb') as opened:
+        os.fsync(opened.fileno())
+        os.posix_fadvise(opened.fileno(), 0, 0, os.POSIX_FADV_DONTNEED)
+    rows = []
+    for source in ('from the disk', 'from the cache'):
+        done = subprocess.run([bench.scratch / 'hashing', file], capture_output=True, text=True, check=True)
+        longest, whole = re.search(r'longest (\S+) ms of (\S+) s', done.stdout).groups()
+        rows.append([f'{size / 1e9:.1f} GB {source}', f'{longest} ms', f'{whole} s'])
+    shutil.rmtree(file.parent)
+    return table('One file that is summed, on the host', ['File', 'Longest wait of Cancel', 'Whole'], rows)
 
 
 def orders(bench, small, large):

@@ -19,6 +19,18 @@ class Value final : public FieldSink {
   void None() override { Seen = L"none"; }
 };
 
+/// Counts the looks at events, and cancels at one of them.
+class Looks final : public Progress {
+ public:
+  int Count = 0;
+  int CancelAt = -1;
+
+  void ShowDirectory(std::wstring_view) override {}
+  void SetProgress(std::int32_t) override {}
+  void LetEventsThrough() override { ++Count; }
+  bool Cancelled() const override { return Count == CancelAt; }
+};
+
 class RecordFieldsTest : public testing::Test, protected fakes::RunRecords {
  protected:
   std::wstring ValueOf(std::string_view field) {
@@ -132,6 +144,25 @@ TEST_F(RecordFieldsTest, DirectoriesHaveNoSum) {
   Entry.Attributes = platform::kDirectory;
   EXPECT_EQ(ValueOf("sha256"), L"none");
   EXPECT_TRUE(Run.Unread.empty());
+}
+
+/// 256 kB take no reader longer than Cancel may take.
+TEST_F(RecordFieldsTest, EventsGetThroughWithinAHugeFile) {
+  fakes::Tree().Dir(L"C:\\Data").FileWith(L"a.txt", std::string(3'000'000, 'x'));
+  Looks looks;
+  ListingRun watched = MakeRun(looks);
+  EXPECT_TRUE(RecordedFacts(watched).Sha256({Path, L"a.txt", Entry}).has_value());
+  EXPECT_GE(looks.Count, 3'000'000 / (256 * 1024));
+}
+
+TEST_F(RecordFieldsTest, CancelWithinAHugeFileStopsReadingIt) {
+  fakes::Tree().Dir(L"C:\\Data").FileWith(L"a.txt", std::string(3'000'000, 'x'));
+  Looks looks;
+  looks.CancelAt = 2;
+  ListingRun watched = MakeRun(looks);
+  EXPECT_FALSE(RecordedFacts(watched).Sha256({Path, L"a.txt", Entry}).has_value());
+  EXPECT_EQ(looks.Count, 2);
+  EXPECT_TRUE(watched.Unread.empty()) << "it could have been read";
 }
 
 }  // namespace
