@@ -208,10 +208,22 @@ def on_host(bench, trees):
 
     tree = trees[WIDE]
     rows = []
-    for kind, name in (('h', 'HTML'), ('x', 'XML'), ('a', 'tab-delimited'), ('c', 'CSV'), *EXACT):
+    for kind, name in (('h', 'HTML'), ('x', 'XML'), ('a', 'tab-delimited'), ('c', 'CSV')):
         ratio = bench.ratio((listing(host, tree, out, kind), None), (listing(host, tree, out), None))
         rows.append([name, f'{ratio:.2f}'])
     return lines + table('Other kinds of file against text, on the host', ['Kind', 'Ratio'], rows)
+
+
+def records(bench, tree):
+    """Exact records on both systems; Wine has been started."""
+    out = bench.scratch / 'list.out'
+    programs = ([HOUSE / 'build/host-release/folivant-host'], ['wine', bench.scratch / 'program/Folivant.exe'])
+    rows = []
+    for kind, name in EXACT:
+        ratios = [bench.ratio((listing(program, tree, out, kind), None), (listing(program, tree, out), None))
+                  for program in programs]
+        rows.append([name, *(f'{ratio:.2f}' for ratio in ratios)])
+    return table(f'Exact records against text, {WIDE}', ['Kind', 'On the host', 'Under Wine'], rows)
 
 
 def hashing(bench, make, scale):
@@ -305,7 +317,7 @@ def under_wine(bench, trees, empty):
     lines = table(UNDER_WINE, ['Tree', 'Folivant.exe'], rows)
     tree = next(iter(trees.values()))
     rows = []
-    for kind, name in (('h', 'HTML'), ('x', 'XML'), *EXACT):
+    for kind, name in (('h', 'HTML'), ('x', 'XML')):
         rows.append([f'{name} against text', f'{bench.ratio((listing(exe, tree, out, kind), None), (listing(exe, tree, out), None)):.2f}'])
     rows.append(['Empty folder against an empty program',
                  f'{bench.ratio((listing(exe, empty, out), None), (["wine", bench.scratch / "program/empty.exe"], None), 15 * bench.pairs):.2f}'])
@@ -391,7 +403,7 @@ def sections(text):
     return {part.split('\n', 1)[0]: f'### {part.rstrip()}\n\n' for part in re.split('^### ', text, flags=re.M)[1:]}
 
 
-PARTS = ('pages', 'host', 'hashing', 'orders', 'memory', 'wine', 'window')
+PARTS = ('pages', 'host', 'records', 'hashing', 'orders', 'memory', 'wine', 'window')
 
 def main():
     options = argparse.ArgumentParser(description=__doc__)
@@ -410,7 +422,7 @@ def main():
     parts = chosen.only or PARTS
     with tempfile.TemporaryDirectory(prefix='folivant-bench-') as name:
         scratch = pathlib.Path(name)
-        build(scratch, not {'wine', 'window', 'interpreter'}.isdisjoint(parts))
+        build(scratch, not {'records', 'wine', 'window', 'interpreter'}.isdisjoint(parts))
         bench = Bench(scratch, chosen.pairs)
         bench.clock = chosen.clock
         bench.filter_file('usual', OrderBy=1, OrderAZ='True', Format=1)
@@ -441,9 +453,10 @@ def measure(bench, make, parts, scale):
     if 'memory' in parts:
         nodes = [(make.wide(f'nodes {count}', count, 1), count) for count in (many, 10 * many)]
         lines += memory(bench, (few, max(1, many // 10)), (trees[WIDE], many), nodes)
-    if 'wine' in parts or 'interpreter' in parts:
+    if not {'records', 'wine', 'interpreter'}.isdisjoint(parts):
         end_wine = start_wine(bench)
         try:
+            lines += records(bench, trees[WIDE]) if 'records' in parts else []
             lines += under_wine(bench, trees, empty) if 'wine' in parts else []
             lines += interpreter(bench, trees) if 'interpreter' in parts else []
         finally:
