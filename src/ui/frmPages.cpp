@@ -5,7 +5,9 @@
 namespace folivant {
 namespace {
 
-constexpr int kPageBorder = 4;  // between the tab strip's frame and a page, in pixels at 96 per inch
+// In pixels at 96 per inch.
+constexpr int kPageBorder = 4;  // between the tab strip's frame and a page
+constexpr int kTabsBorder = 4;  // between the last tab and the end of the strip
 
 }  // namespace
 
@@ -28,7 +30,8 @@ void frmPages::PlacePages() {
   RECT page = strip;
   Send(TabStrip, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
   InflateRect(&page, -Scaled(kPageBorder), -Scaled(kPageBorder));
-  SIZE needed{page.right - page.left, page.bottom - page.top};
+  const LONG missing = std::max(WidthOfTabs() - (strip.right - strip.left), LONG{0});
+  SIZE needed{page.right - page.left + missing, page.bottom - page.top};
   for (const HWND each : pages_) {
     const SIZE size = FitPageToTexts(each);
     needed = {std::max(needed.cx, size.cx), std::max(needed.cy, size.cy)};
@@ -38,6 +41,13 @@ void frmPages::PlacePages() {
     SetWindowPos(each, HWND_TOP, page.left, page.top, needed.cx, needed.cy, SWP_NOACTIVATE);
   }
   FitToTexts();
+}
+
+/// What the strip needs to show all of them in one row; one that is narrower gets arrows to scroll with.
+LONG frmPages::WidthOfTabs() const {
+  RECT last{};
+  Send(TabStrip, TCM_GETITEMRECT, pages_.size() - 1, reinterpret_cast<LPARAM>(&last));
+  return last.right + Scaled(kTabsBorder);
 }
 
 void frmPages::ShowPage(int page) {

@@ -19,8 +19,8 @@ class frmPages : public frmBase {
 
   /// Makes the pages, hidden. Called in Form_Load before the controls are filled.
   void MakePages(std::span<const PageDesign> pages);
-  /// Gives all pages the size of the largest one, and the tab strip and the window what that takes. Called when the
-  /// controls have their texts, and again when the resolution changes.
+  /// Gives all pages the size of the largest one, or what the tabs take, and the tab strip and the window what that
+  /// takes. Called when the controls have their texts, and again when the resolution changes.
   void PlacePages();
   /// Pages count from 0.
   void ShowPage(int page);
@@ -30,6 +30,8 @@ class frmPages : public frmBase {
  private:
   /// The keys that turn pages in the system's own property sheets.
   bool Form_KeyDown(WPARAM key) override;
+
+  LONG WidthOfTabs() const;
 
   std::vector<HWND> pages_;
 };

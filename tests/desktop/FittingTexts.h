@@ -36,13 +36,20 @@ class FittingTexts {
     EXPECT_EQ(dpi_, std::stoi(asked));
   }
 
-  /// Captions of buttons and labels, in pages too; labels that shorten or wrap their text are passed over, and so are
-  /// bare option buttons.
+  /// Captions of buttons, labels and tabs, in pages too; labels that wrap have room for all lines. Labels that shorten
+  /// their text are passed over, and so are bare option buttons.
   void ExpectNothingClipped(Window window, const std::wstring& where) const {
     for (HWND each = GetWindow(window.Handle(), GW_CHILD); each != nullptr; each = GetWindow(each, GW_HWNDNEXT)) {
       const Window control(each);
       if (control.ClassName() == L"#32770") {
         ExpectNothingClipped(control, where);
+      } else if (control.ClassName() == L"SysTabControl32") {
+        const HWND arrows = FindWindowExW(each, nullptr, L"msctls_updown32", nullptr);
+        EXPECT_FALSE(IsWindowVisible(arrows)) << testing::PrintToString(where) << ": the tabs do not fit";
+      } else if (Wraps(control)) {
+        const RECT box = control.Rectangle();
+        EXPECT_LE(HeightOf(control.Text(), box.right - box.left), box.bottom - box.top)
+            << testing::PrintToString(where) << " " << testing::PrintToString(control.Text());
       } else if (const LONG needed = NeededWidth(control); needed > 0) {
         const RECT box = control.Rectangle();
         EXPECT_LE(needed, box.right - box.left)
@@ -59,6 +66,20 @@ class FittingTexts {
   }
 
  private:
+  static bool IsLabel(Window control) {
+    const LONG_PTR style = GetWindowLongPtrW(control.Handle(), GWL_STYLE);
+    return control.ClassName() == L"Static" && (style & WS_VISIBLE) != 0 && (style & SS_TYPEMASK) <= SS_RIGHT &&
+           (style & SS_ELLIPSISMASK) == 0;
+  }
+  bool Wraps(Window control) const {
+    const RECT box = control.Rectangle();
+    return IsLabel(control) && box.bottom - box.top >= Scaled(25);
+  }
+  LONG HeightOf(const std::wstring& text, LONG width) const {
+    RECT box{0, 0, width, 0};
+    DrawTextW(screen_, text.c_str(), -1, &box, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    return box.bottom;
+  }
   LONG Scaled(LONG length) const { return MulDiv(length, dpi_, 96); }
 
   /// 0 for what shows no caption on one line.
@@ -66,8 +87,7 @@ class FittingTexts {
     const std::wstring kind = control.ClassName();
     const LONG_PTR style = GetWindowLongPtrW(control.Handle(), GWL_STYLE);
     const RECT box = control.Rectangle();
-    const bool label = kind == L"Static" && (style & WS_VISIBLE) != 0 && (style & SS_TYPEMASK) <= SS_RIGHT &&
-                       (style & SS_ELLIPSISMASK) == 0 && box.bottom - box.top < Scaled(25);
+    const bool label = IsLabel(control) && !Wraps(control);
     const bool button = kind == L"Button" && box.right - box.left > Scaled(22);
     if (!label && !button) {
       return 0;
