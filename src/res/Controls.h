@@ -26,6 +26,7 @@
 #define dlgPageLanguage 110
 #define dlgPrinter 111
 #define dlgFind 112
+#define dlgPageListing 113
 
 // The label of a field
 #define LABEL_OF(control) ((control) + 5000)
@@ -148,6 +149,15 @@
 #define fraPage 1175
 #define lblRestart 1176
 #define fraLegend 1177
+#define fraRecord 1178
+#define chkOwner 1179
+#define chkLinks 1180
+#define lblOpens 1181
+#define chkSha256 1182
+#define lblReads 1183
+#define fraExactCsv 1184
+#define chkApostrophe 1185
+#define lblApostrophe 1186
 
 // frmPrinter
 #define cmbPrinter 1190

@@ -186,12 +186,13 @@ enum class TextId : int {
   MaxLevel = 251,
   AllLevels = 252,
 
-  // Options: captions of the five pages, then their controls
+  // Options: captions of the pages, then their controls
   PageGeneral = 255,
   PagePrinter = 256,
   PageFont = 257,
   PageHeaderFooter = 258,
   PageLanguage = 259,
+  PageListing = 34,
   Viewer = 260,
   Width = 261,
   Characters = 262,
@@ -223,6 +224,14 @@ enum class TextId : int {
   HeaderFooterFont = 288,
   HeaderLabel = 289,
   FooterLabel = 290,
+  RecordFields = 36,
+  RecordOwner = 37,
+  RecordLinks = 38,
+  RecordOpensFiles = 48,  ///< the price of the two before
+  RecordSha256 = 39,
+  RecordReadsFiles = 49,   ///< the price of that
+  CsvApostrophe = 50,      ///< in a frame with the text TypeExactCsv
+  CsvApostropheNote = 51,  ///< the price of that
 
   // Printer
   QualityDraft = 291,

@@ -25,7 +25,7 @@ namespace {
 constexpr PageDesign kPages[] = {
     {dlgPageGeneral, TextId::PageGeneral},   {dlgPagePrinter, TextId::PagePrinter},
     {dlgPageFont, TextId::PageFont},         {dlgPageHeaderFooter, TextId::PageHeaderFooter},
-    {dlgPageLanguage, TextId::PageLanguage},
+    {dlgPageLanguage, TextId::PageLanguage}, {dlgPageListing, TextId::PageListing},
 };
 
 struct Legend {

@@ -147,7 +147,7 @@ TEST_F(CommonDialogs, ControlAndTabTurnThePagesOfTheOptions) {
   EXPECT_TRUE(options.Control(txtLeft).IsShown());
   PressKey(VK_TAB, false, true, true);
   PressKey(VK_TAB, false, true, true);
-  EXPECT_TRUE(WaitUntil([&] { return page() == 4; })) << "from the first page back to the last";
+  EXPECT_TRUE(WaitUntil([&] { return page() == 5; })) << "from the first page back to the last";
   PressKey(VK_NEXT, false, false, true);
   EXPECT_TRUE(WaitUntil([&] { return page() == 0; }));
   options.Answer(cmdCancel);

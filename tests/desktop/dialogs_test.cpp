@@ -299,6 +299,42 @@ TEST_F(Dialogs, TheOptionsStoreEveryPage) {
   EXPECT_EQ(ReadStore(L"Settings", L"TextViewer"), L"viewer.exe") << "cancel stores nothing";
 }
 
+TEST_F(Dialogs, TheListingPageStoresWhatDiffersFromItsDefaultAndNothingElse) {
+  const std::pair<int, const wchar_t*> boxes[] = {{chkOwner, L"RecordOwner"},
+                                                  {chkLinks, L"RecordLinks"},
+                                                  {chkSha256, L"RecordSha256"},
+                                                  {chkApostrophe, L"CsvApostrophe"}};
+  Window options = Show(cmdOptions, 204);
+  SendMessageW(options.Control(TabStrip).Handle(), TCM_SETCURFOCUS, 5, 0);
+  for (const auto& [box, key] : boxes) {
+    EXPECT_TRUE(options.Control(box).IsShown()) << box;
+    EXPECT_FALSE(options.IsChecked(box)) << box;
+  }
+  Dismiss(options, cmdOK);
+  for (const auto& [box, key] : boxes) {
+    EXPECT_EQ(ReadStore(L"Settings", key), std::nullopt) << testing::PrintToString(std::wstring(key));
+  }
+  for (const auto& [box, key] : boxes) {  // one alone
+    options = Show(cmdOptions, 204);
+    EXPECT_TRUE(options.Control(box).IsShown()) << "the page comes back";
+    Check(options, box, true);
+    Dismiss(options, cmdOK);
+    for (const auto& [other, otherKey] : boxes) {
+      EXPECT_EQ(ReadStore(L"Settings", otherKey), other == box ? std::optional<std::wstring>(L"True") : std::nullopt)
+          << box << " and " << other;
+    }
+    options = Show(cmdOptions, 204);
+    Check(options, box, false);
+    Dismiss(options, cmdCancel);
+    EXPECT_EQ(ReadStore(L"Settings", key), L"True") << "cancel changes nothing";
+    options = Show(cmdOptions, 204);
+    EXPECT_TRUE(options.IsChecked(box)) << box;
+    Check(options, box, false);
+    Dismiss(options, cmdOK);
+    EXPECT_EQ(ReadStore(L"Settings", key), std::nullopt) << "the key is gone again";
+  }
+}
+
 TEST_F(Dialogs, TheUnitChangesTheLabelsAndNotTheNumbers) {
   const Window options = Show(cmdOptions, 204);
   EXPECT_EQ(options.TextOf(lblUnit), Message(278));

@@ -206,6 +206,59 @@ TEST_F(MainWindow, AFilterFileCarriesTheListingAndNoHabits) {
   Close(program, main);
 }
 
+TEST_F(MainWindow, AFilterFileHasTheFieldsOfExactRecordsOnlyWhileTheyAreChosen) {
+  const Program program(Argument());
+  const Window main = Main(program);
+  const auto choose = [&](bool on) {
+    const Window options = Open(program, main, cmdOptions, 204);
+    for (const int box : {chkOwner, chkLinks, chkSha256, chkApostrophe}) {
+      if (options.IsChecked(box) != on) {
+        options.Click(box);
+      }
+    }
+    options.Answer(cmdOK);
+  };
+  const auto save = [&](const wchar_t* name) {
+    const std::wstring file = scratch / name;
+    const bool asks = Exists(file);
+    main.Press(cmdSave);
+    const Window dialog = program.WaitForBox(main);
+    Confirm(dialog, file);
+    if (asks) {
+      program.WaitForBox(dialog).Answer(IDYES);
+    }
+    EXPECT_TRUE(dialog.WaitUntilGone());
+    EXPECT_TRUE(WaitUntil([&] { return main.IsEnabled(); }));
+    SendMessageW(main.Handle(), WM_NULL, 0, 0);  // answered once the click is: the file is written by then
+    return ReadBytes(file);
+  };
+  const std::string without = save(L"plain.fvf");
+  EXPECT_EQ(without.find("Record"), std::string::npos) << without;
+  EXPECT_EQ(without.find("CsvApostrophe"), std::string::npos) << without;
+  choose(true);
+  const std::string with = save(L"exact.fvf");
+  for (const char* line :
+       {"RecordOwner=True\r\n", "RecordLinks=True\r\n", "RecordSha256=True\r\n", "CsvApostrophe=True\r\n"}) {
+    EXPECT_NE(with.find(line), std::string::npos) << line << with;
+  }
+  choose(false);
+  EXPECT_EQ(save(L"exact.fvf"), without) << "to the byte what it was";
+  EXPECT_EQ(save(L"plain.fvf"), without);
+
+  scratch.File(L"exact.fvf", with);
+  main.Press(cmdLoad);
+  const Window open = program.WaitForBox(main);
+  Confirm(open, scratch / L"exact.fvf");
+  EXPECT_TRUE(open.WaitUntilGone());
+  EXPECT_TRUE(main.StaysReady());
+  const Window options = Open(program, main, cmdOptions, 204);
+  for (const int box : {chkOwner, chkLinks, chkSha256, chkApostrophe}) {
+    EXPECT_TRUE(options.IsChecked(box)) << box << " came with the file";
+  }
+  options.Answer(cmdCancel);
+  Close(program, main);
+}
+
 TEST_F(MainWindow, AFileWithoutSettingsIsAskedAboutBeforeTheDefaultsAreLoaded) {
   WriteStore(L"Filter", L"FilterName", L"*.doc");
   const std::wstring file = scratch.File(L"letter.txt", "Dear reader,\r\n");

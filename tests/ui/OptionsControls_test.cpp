@@ -55,6 +55,21 @@ TEST(OptionsControls, OfWidthAndHeightTheBeginningIsRead) {
   EXPECT_THROW(ReadBack(controls), FieldError);
 }
 
+TEST(OptionsControls, EachFieldOfExactRecordsHasACheckBoxOfItsOwn) {
+  const std::pair<int, bool GeneralSettings::*> boxes[] = {{chkOwner, &GeneralSettings::RecordOwner},
+                                                           {chkLinks, &GeneralSettings::RecordLinks},
+                                                           {chkSha256, &GeneralSettings::RecordSha256},
+                                                           {chkApostrophe, &GeneralSettings::CsvApostrophe}};
+  for (const auto& [box, member] : boxes) {
+    const FakeControls controls = Filled(With(member, true));
+    EXPECT_TRUE(controls.Checked(box)) << box;
+    const GeneralSettings read = ReadBack(controls);
+    for (const auto& [other, field] : boxes) {
+      EXPECT_EQ(read.*field, other == box) << box << " and " << other;
+    }
+  }
+}
+
 TEST(OptionsControls, CopiesAreANumberOf16Bits) {
   FakeControls controls;
   PrinterSettings printer;
