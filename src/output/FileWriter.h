@@ -16,7 +16,11 @@ class FileWriter : public ListingWriter {
   void BeginListing(ListingRun& run) final {
     run_ = &run;
     texts_.emplace(run);
-    file_.Open(run.OutputFile);
+    if (run.OutputText != nullptr) {
+      file_.OpenText(*run.OutputText);
+    } else {
+      file_.Open(run.OutputFile);
+    }
     Begin();
   }
   void EndListing() final {

@@ -18,15 +18,17 @@ void IgnoreFailure(Step step) noexcept {
 }  // namespace
 
 void ListingFile::Close() {
-  file_.Write(std::exchange(line_, {}));
+  Write(std::exchange(line_, {}));
+  text_ = nullptr;
   file_.Close();
 }
 
 void ListingFile::Abandon() noexcept {
   if (file_.IsOpen()) {
-    IgnoreFailure([this] { file_.Write(std::exchange(line_, {})); });
+    IgnoreFailure([this] { Write(std::exchange(line_, {})); });
     IgnoreFailure([this] { file_.Close(); });
   }
+  text_ = nullptr;
 }
 
 }  // namespace folivant

@@ -1,4 +1,5 @@
-// The file that a listing is written to, line by line. A line is put together in one buffer and written once.
+// The file that a listing is written to, line by line, or the text that it becomes in memory. A line is put together in
+// one buffer and written once.
 #pragma once
 
 #include <string>
@@ -13,14 +14,20 @@ class ListingFile {
   /// Creates or truncates. Throws RuntimeError (CreateFile).
   void Open(const std::wstring& path) {
     line_.clear();
+    text_ = nullptr;
     file_.Open(path);
+  }
+  /// What is written goes to the end of `text` instead, which outlives Close and Abandon; no file is opened.
+  void OpenText(std::wstring& text) {
+    line_.clear();
+    text_ = &text;
   }
   /// The line so far; what is appended to it goes out with EndLine.
   std::wstring& Line() { return line_; }
   /// Throws RuntimeError (WriteFile).
   void EndLine() {
     line_ += L"\r\n";
-    file_.Write(line_);
+    Write(line_);
     line_.clear();
   }
   void WriteLine(std::wstring_view text) {
@@ -39,7 +46,16 @@ class ListingFile {
   void Abandon() noexcept;
 
  private:
+  void Write(std::wstring_view text) {
+    if (text_ != nullptr) {
+      *text_ += text;
+    } else {
+      file_.Write(text);
+    }
+  }
+
   platform::OutputFile file_;
+  std::wstring* text_ = nullptr;  ///< of a listing in memory
   std::wstring line_;
 };
 

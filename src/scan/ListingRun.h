@@ -42,6 +42,9 @@ struct ListingRun {
   /// Such as "yyyy/mm/dd". Kept by the caller between runs: a "DateFormat" without a meaning leaves it as it was.
   std::wstring& DatePattern;
   Progress& Watcher;
+  /// Where the writers of text put the listing instead of into the file, as UTF-16 with the same lines; null for a run
+  /// to the file.
+  std::wstring* OutputText = nullptr;
 
   // Prepared at the start of the run.
   NamePatterns Patterns = {};    ///< of Filter.FilterName

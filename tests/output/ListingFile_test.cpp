@@ -55,6 +55,28 @@ TEST_F(ListingFileTest, ForgetsTheLineOfAFileThatCouldNotBeWritten) {
   EXPECT_EQ(Fake().Content(kPath), "again\r\n");
 }
 
+TEST_F(ListingFileTest, BecomesATextInsteadOfAFileUntilItIsClosed) {
+  file_.Close();
+  std::wstring text = L"before ";
+  for (const bool closed : {true, false}) {
+    file_.OpenText(text);
+    file_.WriteLine(L"\u03A9 \xD800 <", L"text", L">");
+    EXPECT_EQ(text, L"before \u03A9 \xD800 <text>\r\n") << "every character as it is";
+    file_.Line() += L"unfinished";
+    closed ? file_.Close() : file_.Abandon();
+    EXPECT_EQ(text, closed ? L"before \u03A9 \xD800 <text>\r\nunfinished" : L"before \u03A9 \xD800 <text>\r\n");
+    EXPECT_EQ(Fake().Content(kPath), "") << "no file is written";
+    file_.Open(kPath);
+    file_.WriteLine(L"a file again");
+    file_.Close();
+    EXPECT_EQ(Fake().Content(kPath), "a file again\r\n");
+    EXPECT_EQ(text.find(L"a file"), text.npos);
+    text = L"before ";
+    file_.Open(kPath);
+    file_.Close();
+  }
+}
+
 TEST_F(ListingFileTest, AbandonsTwiceWithoutHarm) {
   file_.Abandon();
   file_.Line() += L"into nothing";
