@@ -73,9 +73,7 @@ class Dialog::KeyWatch {
  private:
   static LRESULT CALLBACK Procedure(int code, WPARAM wParam, LPARAM lParam) {
     const auto& message = *reinterpret_cast<const MSG*>(lParam);
-    const bool mine = code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && current_->filled_ &&
-                      GetAncestor(message.hwnd, GA_ROOT) == current_->window_;
-    if (mine && current_->Form_KeyDown(message.wParam)) {
+    if (code == MSGF_DIALOGBOX && current_->UsesKey(message)) {
       return TRUE;
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
@@ -163,6 +161,15 @@ HWND Dialog::AddPage(int resource) {
   return pages_.back()->Window();
 }
 
+Dialog* Dialog::Of(HWND window) {
+  return reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, DWLP_USER));
+}
+
+bool Dialog::UsesKey(const MSG& message) {
+  return message.message == WM_KEYDOWN && filled_ && GetAncestor(message.hwnd, GA_ROOT) == window_ &&
+         Form_KeyDown(message.wParam);
+}
+
 INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_INITDIALOG) {
     auto* created = reinterpret_cast<Dialog*>(lParam);
@@ -171,7 +178,7 @@ INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wParam, LPA
     created->Load();
     return created->focusGiven_ ? FALSE : TRUE;
   }
-  auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, DWLP_USER));
+  Dialog* const dialog = Of(window);
   if (dialog == nullptr) {
     return FALSE;
   }
@@ -274,9 +281,12 @@ bool LetWindowEventsThrough() {
       PostQuitMessage(static_cast<int>(message.wParam));
       return false;
     }
+    const auto takes = [&message](HWND window) {
+      Dialog* const dialog = Dialog::Of(window);
+      return (dialog != nullptr && dialog->UsesKey(message)) || IsDialogMessageW(window, &message) != 0;
+    };
     const auto windows = ModelessWindows();  // a copy: handlers open and close windows
-    if (std::none_of(windows.begin(), windows.end(),
-                     [&](HWND each) { return IsDialogMessageW(each, &message) != 0; })) {
+    if (std::none_of(windows.begin(), windows.end(), takes)) {
       TranslateMessage(&message);
       DispatchMessageW(&message);
     }

@@ -71,8 +71,8 @@ class Dialog : public Controls {
   /// The close box, Alt+F4 or Escape without a cancel button.
   virtual void Form_QueryClose() { Close(); }
   virtual void Form_Timer(UINT_PTR) {}
-  /// A key pressed in a modal window or one of its pages, as a virtual-key code, before its control gets it. True when
-  /// it is used up. Must not throw.
+  /// A key pressed in the window or one of its pages, as a virtual-key code, before its control gets it. True when it
+  /// is used up. Must not throw.
   virtual bool Form_KeyDown(WPARAM) { return false; }
   /// The screen's resolution changed; called after the system has scaled the controls.
   virtual void Form_DpiChanged() {}
@@ -104,6 +104,7 @@ class Dialog : public Controls {
   void Centre();
 
  private:
+  friend bool LetWindowEventsThrough();
   class KeyWatch;
   class Page;
   struct Picture {
@@ -111,6 +112,10 @@ class Dialog : public Controls {
     OwnedBitmap Bitmap;
   };
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  /// `window` was made by Create or ShowModal; null when it is not made yet, or gone.
+  static Dialog* Of(HWND window);
+  /// Whether the message is a key for this window that it uses up.
+  bool UsesKey(const MSG& message);
   INT_PTR Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
   void Load();
   void Remove();
