@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/ChosenPrinter.h"
+#include "app/CopyListing.h"
 #include "app/MainControls.h"
 #include "app/MainWindow.h"
 #include "app/Settings.h"
@@ -16,6 +17,7 @@
 #include "output/EntryFormatting.h"
 #include "output/PageLayout.h"
 #include "output/mdlPrint.h"
+#include "platform/Clipboard.h"
 #include "platform/win32/Shell.h"
 #include "platform/win32/WindowSystem.h"
 #include "scan/NameRules.h"
@@ -28,6 +30,11 @@
 
 namespace folivant {
 namespace {
+
+// Orders of the system menu; the system keeps the lowest four bits for itself.
+constexpr WPARAM mnuCopyListing = 0x10;
+constexpr WPARAM mnuCopyPath = 0x20;  // of no entry
+constexpr WPARAM kOrderBits = 0xFFF0;
 
 platform::FileDialog FilterFileDialog() {
   platform::FileDialog dialog;
@@ -65,6 +72,7 @@ class frmMain final : public frmBase, private TextMeasure {
   void Form_Load() override;
   void Form_QueryClose() override;
   bool Form_Message(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+  bool Form_KeyDown(WPARAM key) override;
 
   void MakeFilterLabel();
   void MakeFormatLabel();
@@ -79,7 +87,10 @@ class frmMain final : public frmBase, private TextMeasure {
   void cmdLoad_Click();
   void cmdSave_Click();
   void cmdOK_Click();
+  void mnuCopyListing_Click();
   void lblPath_Drop(const std::wstring& path);
+
+  void FillSystemMenu();
 
   bool ChooseDestination();
   bool RunOnce();
@@ -113,6 +124,7 @@ void frmMain::Form_Load() {
   for (const Binding<OutputTarget>& destination : kOutputToControls) {
     OnClick(destination.Control, [this] { mdlVars::OutputTo = GetOutputTo(); });
   }
+  FillSystemMenu();
   drop_ = std::make_unique<platform::DropTarget>(Item(lblPath), [this](const auto& path) { lblPath_Drop(path); });
   SetFocusTo(cmdOK);
 }
@@ -123,10 +135,34 @@ void frmMain::Form_QueryClose() {
   }
 }
 
+void frmMain::FillSystemMenu() {
+  const HMENU menu = GetSystemMenu(Window(), FALSE);
+  AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+  AppendMenuW(menu, MF_STRING, mnuCopyListing,
+              (Texts()[TextId::CopyListing] + L'\t' + Texts()[TextId::CopyShortcut]).c_str());
+}
+
+/// The window has no text box, whose own copying Ctrl+C would be.
+bool frmMain::Form_KeyDown(WPARAM key) {
+  if (key != 'C' || GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_MENU) < 0) {  // AltGr is both, and types a letter
+    return false;
+  }
+  PostMessageW(Window(), WM_SYSCOMMAND, GetKeyState(VK_SHIFT) < 0 ? mnuCopyPath : mnuCopyListing, 0);
+  return true;
+}
+
 bool frmMain::Form_Message(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
   if (message == WM_SETCURSOR && running_) {
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     result = TRUE;
+    return true;
+  }
+  if (message == WM_SYSCOMMAND && (wParam & kOrderBits) == mnuCopyListing) {
+    mnuCopyListing_Click();
+    return true;
+  }
+  if (message == WM_SYSCOMMAND && (wParam & kOrderBits) == mnuCopyPath) {
+    platform::CopyToClipboard(mdlVars::Start.Shown);
     return true;
   }
   if (message == WM_ENDSESSION && wParam != FALSE && !running_) {
@@ -253,6 +289,15 @@ bool frmMain::RunOnce() {
   ListingRun run = mdlVars::MakeRun(guard.Progress());
   RunListing(run, driver_, rows_);
   return !run.Cancelled;
+}
+
+/// The window stays: what was copied is to be pasted, and another copy may follow. The task bar shows the system menu
+/// of a window that is behind a dialog, too.
+void frmMain::mnuCopyListing_Click() {
+  if (!running_ && IsWindowEnabled(Window()) != FALSE) {
+    RunGuard guard(*this, Context(), running_);
+    CopyListing(driver_, rows_, guard.Progress());
+  }
 }
 
 void frmMain::FinishRun() {

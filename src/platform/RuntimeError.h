@@ -21,6 +21,7 @@ enum class FailedAction {
   UseMargins,     ///< they leave no room on a page
   UseFont,        ///< no line in it stands on a page
   OpenWindow,     ///< one of the program's own; it has no object
+  UseClipboard,   ///< it has no object
   ListPaths,      ///< a file whose lines hold no path
   ReadLargeFile,  ///< a file beyond what is read whole; the limit in megabytes stands in for the system's words
 };

@@ -33,6 +33,8 @@ TextId TextOf(FailedAction action) {
       return TextId::FileTooLarge;
     case FailedAction::ReadWindow:
       return TextId::CannotReadWindow;
+    case FailedAction::UseClipboard:
+      return TextId::CannotUseClipboard;
     case FailedAction::OpenWindow:
       break;
   }

@@ -22,7 +22,9 @@ enum class TextId : int {
   Ok = 13,
   Close = 14,
   Help = 15,
-  FilterFiles = 16,  ///< file type of the filter-file dialogs
+  CopyListing = 52,   ///< in the system menu of the window, before its shortcut
+  CopyShortcut = 53,  ///< as the keys are called
+  FilterFiles = 16,   ///< file type of the filter-file dialogs
   AllFiles = 17,
   TypeText = 18,  ///< file types of the save dialog
   TypeTabDelimited = 19,
@@ -112,7 +114,8 @@ enum class TextId : int {
   CannotCreateFile = 160,
   CannotReadFile = 161,
   CannotWriteFile = 162,
-  BadSetting = 164,  ///< %1 store or file, %2 key, %3 value
+  CannotUseClipboard = 163,  ///< without %1
+  BadSetting = 164,          ///< %1 store or file, %2 key, %3 value
   CannotWriteSetting = 165,
   CannotPrint = 166,
   CannotStartProgram = 167,

@@ -76,6 +76,9 @@ struct FakePlatform {
   std::deque<platform::BoxAnswer> Answers;
   std::array<wchar_t, 40> LastMessage{};  ///< the beginning of the last one, kept without memory of its own
 
+  std::optional<std::wstring> Clipboard;     ///< nothing while no text has been put there
+  std::optional<FakeFailure> FailClipboard;  ///< another program holds it
+
   platform::UserLocale Locale{L",", L".", L"/"};
 
   void Reset();

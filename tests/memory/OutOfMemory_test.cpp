@@ -9,11 +9,14 @@
 #include <string>
 #include <utility>
 
+#include "app/CopyListing.h"
+#include "app/Settings.h"
 #include "app/StartUp.h"
 #include "app/mdlVars.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeSession.h"
 #include "fakes/RecordingSurface.h"
+#include "shell/mdlFind.h"
 
 namespace {
 
@@ -157,6 +160,40 @@ TEST_P(OutOfMemory, IsToldAndNoFileStaysOpen) {
 // The message box itself is the test's: its record needs memory, so the message is on its way and none arrives.
 TEST_P(OutOfMemory, IsToldWithoutAnyFurtherMemory) {
   EXPECT_GT(ExpectEachIsTold(GetParam(), UntilTheCommandLine(), true), 30);
+}
+
+/// Copies a listing with the allocation after `count` others failing; false when that was told.
+bool CopyWith(std::int64_t count) {
+  MakeMachine();
+  LoadSettings();
+  mdlVars::Start = {L"C:\\Data", L"C:\\Data"};
+  Fake().Clipboard = L"before";
+  OutputDriver output;
+  FindCapture rows(mdlVars::MakeDialogContext());
+  NoProgress nobody;
+  allocationsLeft = count;
+  bool copied = true;
+  try {
+    CopyListing(output, rows, nobody);
+  } catch (const std::bad_alloc&) {
+    copied = false;
+  }
+  allocationsLeft = -1;
+  return copied;
+}
+
+TEST(OutOfMemoryWhileCopying, LeavesTheClipboardAsItIs) {
+  ASSERT_TRUE(CopyWith(kNever));
+  const std::optional<std::wstring> whole = Fake().Clipboard;
+  shortageStays = false;
+  int failed = 0;
+  for (std::int64_t count = 0; count < 2'000; ++count) {
+    const bool copied = CopyWith(count);
+    EXPECT_EQ(Fake().Clipboard, copied ? whole : L"before") << "after " << count << " allocations";
+    EXPECT_EQ(Fake().OpenOutputFiles, 0);
+    failed += copied ? 0 : 1;
+  }
+  EXPECT_GT(failed, 30);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, OutOfMemory,

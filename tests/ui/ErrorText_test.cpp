@@ -87,7 +87,7 @@ TEST(ErrorText, HasOneTextForEachAction) {
       {FailedAction::Print, L"166 \"x\": no (5)"},      {FailedAction::StartProgram, L"167 \"x\": no (5)"},
       {FailedAction::ReadWindow, L"168 \"x\": no (5)"}, {FailedAction::UseMargins, L"187 \"x\": no (5)"},
       {FailedAction::UseFont, L"188 \"x\": no (5)"},    {FailedAction::ReadWindow, L"168 \"x\": no (5)"},
-      {FailedAction::OpenWindow, L"186 \"x\": no (5)"},
+      {FailedAction::OpenWindow, L"186 \"x\": no (5)"}, {FailedAction::UseClipboard, L"163 \"x\": no (5)"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ErrorText(RuntimeError(row.action, L"x", L"no", 5), English()), row.expected);

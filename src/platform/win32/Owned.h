@@ -26,6 +26,8 @@ class Owned {
     }
   }
   Raw Get() const { return raw_; }
+  /// Whoever is given it closes it.
+  Raw Release() { return std::exchange(raw_, Kind::Empty()); }
   bool IsOpen() const { return raw_ != Kind::Empty(); }
   /// Closes now what is open, for a kind whose closing can fail: false, with the number of the failure in GetLastError.
   bool Close() { return Kind::Close(std::exchange(raw_, Kind::Empty())); }

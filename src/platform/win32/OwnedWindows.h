@@ -120,6 +120,26 @@ class OwnedMedium {
   STGMEDIUM medium_;
 };
 
+/// Global memory that has not been given away yet.
+struct GlobalKind : NullKind<HGLOBAL> {
+  static void Close(Raw memory) { GlobalFree(memory); }
+};
+using OwnedGlobal = Owned<GlobalKind>;
+
+/// The clipboard, opened by this thread or not.
+struct ClipboardKind {
+  using Raw = bool;
+  static Raw Empty() { return false; }
+  static void Close(Raw) { CloseClipboard(); }
+};
+using OwnedClipboard = Owned<ClipboardKind>;
+
+/// A window that nobody sees and that is no dialog.
+struct HelperKind : NullKind<HWND> {
+  static void Close(Raw window) { DestroyWindow(window); }
+};
+using OwnedHelper = Owned<HelperKind>;
+
 /// A block of global memory, held in its place.
 class LockedMemory {
  public:
