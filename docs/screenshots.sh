@@ -105,7 +105,7 @@ take_main_and_its_dialogs() {
 
 take_options() {
   local page=0 name
-  for name in general printer font header-footer language; do
+  for name in general printer font header-footer language listing; do
     page=$((page + 1))
     setting LastTab $page
     start

@@ -19,7 +19,7 @@ EMPTY = {'meta', 'link', 'img'}
 COMMON = {'Folivant', 'CSV-file', 'XML file', 'OK'}
 ENGLISH_WORDS = {'the', 'and', 'with', 'which', 'from', 'this', 'that', 'are'}
 # What a manual must name: the texts of the main window, of the styles, of the options' switches and of the filter.
-EXPLAINED = [*range(0, 16), 18, 19, 20, *range(24, 29), 42, 105, 106, 108, 109, 110, 135, 144, *range(210, 217),
+EXPLAINED = [*range(0, 16), 18, 19, 20, *range(24, 32), 37, 38, 39, 42, 50, 52, 105, 106, 108, 109, 110, 135, 144, *range(210, 217),
              222, 223, 224, 225, 226, 228, 233, 234, 240, 241, 246, 251, 260, 261, 263, 265, 266, 267, 268, 269, 272,
              279, 280, 282, 283, 285, 287, 288]
 EXPLAINED.remove(216)  # "between", which the pickers show
@@ -189,12 +189,15 @@ def of_the_program(english):
     line = (ROOT / 'src/app/CommandLine.cpp').read_text()
     start = (ROOT / 'src/app/StartUp.cpp').read_text()
     switches = set(re.findall(r'L"(/\w+)"', line + start))
-    letters = set(re.findall(r"\{OutputKind::\w+, L\"\w+\", L'(\w)'", (ROOT / 'src/output/OutputKinds.cpp').read_text()))
+    rows = re.findall(r"""\{OutputKind::\w+, L"[\w-]+", L'(\w|\\0)', L"(\w*)",""",
+                      (ROOT / 'src/output/OutputKinds.cpp').read_text())
+    letters = {letter for letter, _ in rows} - {'\\0'}
+    words = {word for _, word in rows} - {''}
     expanded = (ROOT / 'src/output/DriverServices.cpp').read_text()
     placeholders = set(re.findall(r'L"(%\w)', expanded))
-    if len(switches) < 6 or len(letters) < 6 or len(placeholders) < 7:
-        yield f'the sources do not show what there is to explain: {switches} {letters} {placeholders}'
-    for code in sorted((switches | letters | placeholders) - codes):
+    if len(switches) < 7 or len(letters) < 6 or len(words) < 3 or len(placeholders) < 7:
+        yield f'the sources do not show what there is to explain: {switches} {letters} {words} {placeholders}'
+    for code in sorted((switches | letters | words | placeholders) - codes):
         yield f'does not explain {code}'
 
 
