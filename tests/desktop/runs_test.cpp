@@ -37,7 +37,8 @@ TEST_F(Runs, TheSaveDialogOffersTheTypesInTheirOrder) {
   const Window dialog = program.WaitForBox(main);
   ASSERT_TRUE(WaitUntil([&] { return static_cast<bool>(dialog.Control(kFileTypes)); }));
   EXPECT_EQ(dialog.ItemsOf(kFileTypes),
-            (std::vector{Message(18), Message(19), Message(20), std::wstring(L"CSV-file"), std::wstring(L"XML file")}));
+            (std::vector{Message(18), Message(19), Message(20), std::wstring(L"CSV-file"), std::wstring(L"XML file"),
+                         Message(29), Message(30), Message(31)}));
   PostMessageW(dialog.Handle(), WM_COMMAND, IDCANCEL, 0);
   EXPECT_TRUE(dialog.WaitUntilGone());
   Close(program, main);
@@ -52,6 +53,15 @@ TEST_F(Runs, EachTypeWritesAFileOfItsKind) {
   const std::string html = RunToFile(program, main, L"page.htm", 2);
   EXPECT_TRUE(html.starts_with("<html><head><title>\r\n")) << html;
   EXPECT_NE(html.find("<td>A.txt"), std::string::npos) << html;
+  const std::string exact = RunToFile(program, main, L"exact.csv", 5);
+  EXPECT_TRUE(exact.starts_with("\xEF\xBB\xBFpath,name,type,size,")) << exact;
+  EXPECT_NE(exact.find("\\A.txt,A.txt,file,5,"), std::string::npos) << exact;
+  const std::string lines = RunToFile(program, main, L"data.jsonl", 6);
+  EXPECT_TRUE(lines.starts_with("{\"listing\":{")) << lines;
+  const std::string sums = RunToFile(program, main, L"sums.sha256", 7);
+  // echo -n 12345 | sha256sum
+  EXPECT_NE(sums.find("5994471abb01112afcc18159f6cc74b4f511b99806da59b3caf5a9c173cacfc5  A.txt\n"), std::string::npos)
+      << sums;
   const std::string xml = RunToFile(program, main, L"data.xml", 4);
   EXPECT_TRUE(xml.starts_with("<xml><generator>Folivant")) << xml;
   EXPECT_NE(xml.find("A.txt"), std::string::npos) << xml;
