@@ -61,6 +61,8 @@ class FindFiles {
   bool Failed() const;
   /// Why Opened is false or Failed true.
   SystemReason Reason() const;
+  /// Whether that is because this user may not read the directory.
+  bool Denied() const;
 
  private:
   struct State;

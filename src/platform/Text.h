@@ -16,9 +16,11 @@ void UpperInto(std::wstring_view text, wchar_t* out);
 /// The platform's case-insensitive text comparison: -1, 0 or +1. On Windows CompareString with the user's locale,
 /// ignoring case, kana type and width; in the host build lower-case code points.
 int CompareText(std::wstring_view a, std::wstring_view b);
-/// Appends bytes that sort, as unsigned bytes and a shorter prefix first, exactly as CompareText orders the texts.
-/// Making a key once costs far less than comparing often.
-void AppendSortKey(std::wstring_view text, std::string& keys);
+/// Whether "file10" comes before "file2", or after it.
+enum class Digits { AsCharacters, AsNumbers };
+/// Appends bytes that sort, as unsigned bytes and a shorter prefix first, exactly as CompareText orders the texts, but
+/// for numbers where they are taken as such. Making a key once costs far less than comparing often.
+void AppendSortKey(std::wstring_view text, std::string& keys, Digits digits = Digits::AsCharacters);
 
 /// ANSI code page to text and back. What the code page lacks becomes the system's best fit or "?".
 std::wstring FromAnsi(std::string_view bytes);

@@ -3,9 +3,11 @@
 #include "fakes/FakePlatform.h"
 #include "platform/Files.h"
 #include "platform/InputFile.h"
+#include "platform/LogFile.h"
 #include "platform/OutputFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 
 namespace folivant::platform {
 
@@ -37,6 +39,49 @@ std::wstring RootOf(const std::wstring& path) {
 }
 
 }  // namespace
+
+namespace {
+
+/// As far as the disk has room.
+void AppendTo(FakeNode& node, std::string_view bytes, const std::wstring& path) {
+  std::size_t count = bytes.size();
+  auto& room = Fake().DiskFullAfter;
+  if (room) {
+    count = static_cast<std::size_t>(std::min<std::uint64_t>(count, *room));
+    *room -= count;
+  }
+  node.Content.append(bytes.substr(0, count));
+  node.Size += count;
+  if (count < bytes.size()) {
+    Throw(FailedAction::WriteFile, path, fakes::DiskFull());
+  }
+}
+
+}  // namespace
+
+struct LogFile::State {
+  std::wstring Path;
+};
+
+LogFile::LogFile(const std::wstring& path, LogStart start)
+    : state_(std::make_unique<State>(State{AbsolutePath(path)})) {
+  ThrowInjected(Fake().FailCreates, FailedAction::CreateFile, state_->Path);
+  const FakeNode* const before = Fake().Tree.Find(state_->Path);
+  const std::string content = before == nullptr || start == LogStart::Anew ? std::string() : before->Content;
+  FakeNode* const node = Fake().Tree.MakeFile(state_->Path);
+  if (node == nullptr) {
+    Throw(FailedAction::CreateFile, state_->Path, PathNotFound());
+  }
+  node->Content = content;
+}
+
+LogFile::~LogFile() = default;
+
+void LogFile::WriteLine(std::wstring_view line) {
+  std::string bytes;
+  AppendUtf8(line, bytes);
+  AppendTo(*Fake().Tree.Find(state_->Path), bytes + "\r\n", state_->Path);
+}
 
 struct InputFile::State {
   std::wstring Path;
@@ -185,17 +230,7 @@ void OutputFile::Write(std::wstring_view text) {
 }
 
 void OutputFile::WriteBytes(std::string_view bytes) {
-  std::size_t count = bytes.size();
-  auto& room = Fake().DiskFullAfter;
-  if (room) {
-    count = static_cast<std::size_t>(std::min<std::uint64_t>(count, *room));
-    *room -= count;
-  }
-  state_->Node->Content.append(bytes.substr(0, count));
-  state_->Node->Size += count;
-  if (count < bytes.size()) {
-    Throw(FailedAction::WriteFile, state_->Path, fakes::DiskFull());
-  }
+  AppendTo(*state_->Node, bytes, state_->Path);
 }
 
 void OutputFile::Close() {

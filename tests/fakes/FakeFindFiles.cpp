@@ -24,13 +24,16 @@ struct FindFiles::State {
   ShortNames Names = ShortNames::Skip;
   std::size_t Position = 0;
   bool Failed = false;
+  bool Denied = false;
 };
 
 FindFiles::FindFiles(std::wstring_view directory, ShortNames shortNames) : state_(std::make_unique<State>()) {
   const FakeNode* node = fakes::Tree().Find(directory);
   if (node != nullptr && node->IsDirectory() && !node->Unreadable) {
-    *state_ = {node, shortNames, 0, false};
+    *state_ = {node, shortNames};
     fakes::Fake().ShortNamesAsked += shortNames == ShortNames::Read ? 1 : 0;
+  } else {
+    state_->Denied = node != nullptr && node->Unreadable;
   }
 }
 
@@ -44,7 +47,12 @@ bool FindFiles::Failed() const {
 }
 
 SystemReason FindFiles::Reason() const {
-  return {5, L"Access is denied."};
+  return Denied() || Failed() ? SystemReason{5, L"Access is denied."}
+                              : SystemReason{3, L"The system cannot find the path specified."};
+}
+
+bool FindFiles::Denied() const {
+  return state_->Denied;
 }
 
 bool FindFiles::Next(FindData& data) {

@@ -81,7 +81,10 @@ std::wstring FormatShortDate(int year, int month, int day) {
   return std::to_wstring(month) + separator + std::to_wstring(day) + separator + std::to_wstring(year);
 }
 
-BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons, BoxDefault preset) {
+std::optional<BoxAnswer> ShowBox(const std::wstring& text, BoxIcon icon, BoxButtons buttons, BoxDefault preset) {
+  if (!Fake().CanShowWindows) {
+    return std::nullopt;
+  }
   Fake().LastMessage.fill(L'\0');
   text.copy(Fake().LastMessage.data(), Fake().LastMessage.size() - 1);
   Fake().Messages.push_back({text, icon, buttons, preset});
@@ -99,6 +102,14 @@ BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons
       break;
   }
   return BoxAnswer::Ok;
+}
+
+bool CanShowWindows() {
+  return Fake().CanShowWindows;
+}
+
+void WriteStandardError(std::wstring_view text) {
+  Fake().StandardError.emplace_back(text);
 }
 
 struct StoreSection::State {

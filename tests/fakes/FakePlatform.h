@@ -74,7 +74,9 @@ struct FakePlatform {
   // Message boxes: an answer is taken from Answers for each box, in order; when there is none, Ok, No or Cancel.
   std::vector<ShownMessage> Messages;
   std::deque<platform::BoxAnswer> Answers;
-  std::array<wchar_t, 40> LastMessage{};  ///< the beginning of the last one, kept without memory of its own
+  bool CanShowWindows = true;               ///< false: neither box nor dialog
+  std::vector<std::wstring> StandardError;  ///< its lines
+  std::array<wchar_t, 40> LastMessage{};    ///< the beginning of the last one, kept without memory of its own
 
   std::optional<std::wstring> Clipboard;     ///< nothing while no text has been put there
   std::optional<FakeFailure> FailClipboard;  ///< another program holds it

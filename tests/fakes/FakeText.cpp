@@ -1,4 +1,5 @@
 // Letter case of the scripts that tests use (Latin, Greek, Cyrillic), and code page 1252 without best fits.
+#include "platform/NumberWeights.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -78,7 +79,13 @@ int CompareText(std::wstring_view a, std::wstring_view b) {
   return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
-void AppendSortKey(std::wstring_view text, std::string& keys) {
+void AppendSortKey(std::wstring_view text, std::string& keys, Digits digits) {
+  if (digits == Digits::AsNumbers) {
+    std::wstring weighed;
+    AppendWithNumberWeights(text, weighed);
+    AppendSortKey(weighed, keys);
+    return;
+  }
   // In the manner of UTF-8, whose bytes sort as its characters do: eight letters fill one step of the sorting.
   for (const wchar_t c : text) {
     const auto code = static_cast<std::uint32_t>(Lower(c));

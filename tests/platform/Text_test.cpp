@@ -95,6 +95,25 @@ TEST(AppendSortKey, OrdersExactlyAsCompareText) {
   EXPECT_EQ(wrong, 0);
 }
 
+TEST(AppendSortKey, TakesDigitsAsNumbersWhenAsked) {
+  const wchar_t* const inOrder[] = {L"a",    L"a001", L"A01b",  L"a1",     L"a1b",
+                                    L"a02",  L"a2",   L"A9",    L"a10",    L"a99",
+                                    L"a100", L"a999", L"a1000", L"a1000b", L"a10000000000000000000000",
+                                    L"ab",   L"b1"};
+  const auto key = [](const wchar_t* text) {
+    std::string bytes;
+    AppendSortKey(text, bytes, Digits::AsNumbers);
+    return bytes;
+  };
+  for (std::size_t i = 1; i < std::size(inOrder); ++i) {
+    EXPECT_EQ(OrderOfKeys(key(inOrder[i - 1]), key(inOrder[i])), -1)
+        << testing::PrintToString(std::wstring(inOrder[i - 1])) << " "
+        << testing::PrintToString(std::wstring(inOrder[i]));
+  }
+  EXPECT_EQ(key(L"File10"), key(L"fILE10"));
+  EXPECT_EQ(OrderOfKeys(KeyOf(L"file2"), KeyOf(L"file10")), 1) << "only when asked";
+}
+
 TEST(AppendSortKey, AppendsAndTakesLongTexts) {
   std::string keys = "before";
   AppendSortKey(L"abc", keys);

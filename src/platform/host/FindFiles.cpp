@@ -149,6 +149,10 @@ SystemReason FindFiles::Reason() const {
   return ReasonFor(state_->Error);
 }
 
+bool FindFiles::Denied() const {
+  return state_->Error == EACCES || state_->Error == EPERM;
+}
+
 bool FindFiles::Next(FindData& data) {
   State& state = *state_;
   if (!state.Directory || state.Failed) {

@@ -6,17 +6,16 @@
 
 namespace folivant::platform {
 
-BoxAnswer ShowMessage(const std::wstring& text, BoxIcon, BoxButtons buttons, BoxDefault) {
+std::optional<BoxAnswer> ShowBox(const std::wstring&, BoxIcon, BoxButtons, BoxDefault) {
+  return std::nullopt;
+}
+
+bool CanShowWindows() {
+  return false;
+}
+
+void WriteStandardError(std::wstring_view text) {
   std::fprintf(stderr, "%s\n", ToUtf8(text).c_str());
-  switch (buttons) {
-    case BoxButtons::Ok:
-      return BoxAnswer::Ok;
-    case BoxButtons::YesNo:
-      return BoxAnswer::No;
-    case BoxButtons::YesNoCancel:
-      break;
-  }
-  return BoxAnswer::Cancel;
 }
 
 }  // namespace folivant::platform

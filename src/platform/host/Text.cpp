@@ -7,6 +7,7 @@
 #include <array>
 #include <clocale>
 
+#include "platform/NumberWeights.h"
 #include "platform/Utf8.h"
 
 namespace folivant::platform {
@@ -96,7 +97,13 @@ int CompareText(std::wstring_view a, std::wstring_view b) {
 }
 
 // UTF-8 sorts by its bytes as its characters do.
-void AppendSortKey(std::wstring_view text, std::string& keys) {
+void AppendSortKey(std::wstring_view text, std::string& keys, Digits digits) {
+  if (digits == Digits::AsNumbers) {
+    std::wstring weighed;
+    AppendWithNumberWeights(text, weighed);
+    AppendSortKey(weighed, keys, Digits::AsCharacters);
+    return;
+  }
   const std::size_t start = keys.size();
   keys.resize(start + text.size());
   char* out = keys.data() + start;

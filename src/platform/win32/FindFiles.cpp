@@ -77,6 +77,10 @@ SystemReason FindFiles::Reason() const {
   return {state_->Error, SystemText(state_->Error)};
 }
 
+bool FindFiles::Denied() const {
+  return state_->Error == ERROR_ACCESS_DENIED;
+}
+
 bool FindFiles::Next(FindData& data) {
   State& state = *state_;
   do {

@@ -1,6 +1,7 @@
 #include "platform/MessageBox.h"
 
-#include "platform/win32/Win32.h"
+#include "platform/Utf8.h"
+#include "platform/win32/OwnedWindows.h"
 
 namespace folivant::platform {
 namespace {
@@ -49,7 +50,7 @@ HWND MessageOwner() {
 
 }  // namespace
 
-BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons, BoxDefault preset) {
+std::optional<BoxAnswer> ShowBox(const std::wstring& text, BoxIcon icon, BoxButtons buttons, BoxDefault preset) {
   const HWND owner = MessageOwner();
   const UINT modality = owner == nullptr ? MB_TASKMODAL | MB_SETFOREGROUND : 0;
   const UINT second = preset == BoxDefault::Second ? MB_DEFBUTTON2 : 0;
@@ -60,8 +61,45 @@ BoxAnswer ShowMessage(const std::wstring& text, BoxIcon icon, BoxButtons buttons
       return BoxAnswer::No;
     case IDOK:
       return BoxAnswer::Ok;
-    default:
+    case IDCANCEL:
       return BoxAnswer::Cancel;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool CanShowWindows() {
+  USEROBJECTFLAGS flags{};
+  DWORD size = 0;
+  if (GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof flags, &size) != FALSE &&
+      (flags.dwFlags & WSF_VISIBLE) == 0) {
+    return false;
+  }
+  const OwnedHelper probe(
+      CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr));
+  return probe.IsOpen();
+}
+
+void WriteStandardError(std::wstring_view text) {
+  HANDLE error = GetStdHandle(STD_ERROR_HANDLE);
+  OwnedFile console;
+  if (error == nullptr || error == INVALID_HANDLE_VALUE) {
+    // A program with windows has no console of its own, but may have been started from one.
+    if (AttachConsole(ATTACH_PARENT_PROCESS) == FALSE) {
+      return;
+    }
+    console = OwnedFile(CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                    nullptr, OPEN_EXISTING, 0, nullptr));
+    error = console.Get();
+  }
+  const std::wstring line = std::wstring(text) + L"\r\n";
+  DWORD written = 0;
+  DWORD mode = 0;
+  if (GetConsoleMode(error, &mode) != FALSE) {
+    WriteConsoleW(error, line.c_str(), static_cast<DWORD>(line.size()), &written, nullptr);
+  } else {
+    const std::string bytes = ToUtf8(line);
+    WriteFile(error, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);  // it may have been closed
   }
 }
 

@@ -64,15 +64,15 @@ int CompareText(std::wstring_view a, std::wstring_view b) {
   return result - CSTR_EQUAL;
 }
 
-void AppendSortKey(std::wstring_view text, std::string& keys) {
+void AppendSortKey(std::wstring_view text, std::string& keys, Digits digits) {
   if (text.empty()) {
     text = std::wstring_view(L"", 1);  // NUL weighs nothing, like nothing, and an empty text is refused
   }
   const int length = static_cast<int>(text.size());
+  const DWORD flags = LCMAP_SORTKEY | kCompare | (digits == Digits::AsNumbers ? SORT_DIGITSASNUMBERS : 0);
   std::array<char, 1024> small;
   const auto map = [&](char* key, int size) {
-    return LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | kCompare, text.data(), length,
-                        reinterpret_cast<wchar_t*>(key), size);
+    return LCMapStringW(LOCALE_USER_DEFAULT, flags, text.data(), length, reinterpret_cast<wchar_t*>(key), size);
   };
   const int size = map(small.data(), static_cast<int>(small.size()));
   if (size > 0) {
