@@ -45,6 +45,8 @@ std::span<const Setting> Settings() {
       {G::General, Ex, kSettingsSection, L"FontSizeHF", L"8", &general.FontSizeHF},
       {G::General, Ex, kSettingsSection, L"Header", L"Folivant - %d %t   %p (%g)", &general.Header},
       {G::General, Ex, kSettingsSection, L"Footer", L"- %n -", &general.Footer},
+      {G::General, Ex, kSettingsSection, L"FollowLinks", L"True", &general.FollowLinks, nullptr, {}, WhenChanged},
+      {G::General, Ex, kSettingsSection, L"NaturalOrder", L"False", &general.NaturalOrder, nullptr, {}, WhenChanged},
       {G::General, Ex, kSettingsSection, L"RecordOwner", L"False", &general.RecordOwner, nullptr, {}, WhenChanged},
       {G::General, Ex, kSettingsSection, L"RecordLinks", L"False", &general.RecordLinks, nullptr, {}, WhenChanged},
       {G::General, Ex, kSettingsSection, L"RecordSha256", L"False", &general.RecordSha256, nullptr, {}, WhenChanged},

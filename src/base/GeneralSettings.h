@@ -33,6 +33,8 @@ struct GeneralSettings {
   std::int32_t FontSizeHF = 0;  ///< points
   std::wstring Header;
   std::wstring Footer;
+  bool FollowLinks = true;     ///< off: junctions and symbolic links are listed and not entered
+  bool NaturalOrder = false;   ///< "file2" before "file10" in the orders by name
   bool RecordOwner = false;    ///< the fields of exact records that cost an open per file
   bool RecordLinks = false;    ///< the same
   bool RecordSha256 = false;   ///< the same

@@ -154,7 +154,7 @@ auto RecordedFacts::ValueOf(const RecordedEntry& entry, Read read) -> decltype(r
     return read();
   } catch (const RuntimeError& error) {
     if (run_.Unread.empty() || run_.Unread.back().Path != entry.Path) {  // each field of a row tries again
-      run_.Unread.push_back({std::wstring(entry.Path), ReasonOf(error)});
+      run_.AddUnread(entry.Path, ReasonOf(error));
     }
     return std::nullopt;
   }
@@ -173,7 +173,7 @@ std::optional<std::wstring> RecordedFacts::Sha256(const RecordedEntry& entry) {
     return std::nullopt;
   }
   if (platform::IsPlaceholder(entry.Entry.Attributes)) {
-    run_.Unread.push_back({std::wstring(entry.Path), {}});
+    run_.AddUnread(entry.Path, {});
     return std::nullopt;
   }
   run_.Watcher.ShowDirectory(entry.Path);

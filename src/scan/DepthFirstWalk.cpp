@@ -5,11 +5,14 @@
 namespace folivant {
 
 DepthFirstWalk::DepthFirstWalk(ListingRun& run, platform::ShortNames shortNames)
-    : run_(run), shortNames_(shortNames), path_(run.Start.Shown, run.Start.OnDisk) {}
+    : run_(run),
+      shortNames_(shortNames),
+      path_(run.Start.Shown, run.Start.OnDisk),
+      names_(run.General.NaturalOrder ? platform::Digits::AsNumbers : platform::Digits::AsCharacters) {}
 
 void DepthFirstWalk::Walk() {
   constexpr std::int32_t kWholeBar = 100;
-  OpenDirectory(0, kWholeBar);
+  OpenDirectory(0, kWholeBar, false);
   while (!frames_.empty()) {
     path_.GoBackTo(frames_.back().Path);
     const Step step = Next(frames_.back());
@@ -29,20 +32,23 @@ bool DepthFirstWalk::MayDescend(std::int32_t level) const {
 DepthFirstWalk::Entrance DepthFirstWalk::EnterSubdirectory(const Frame& parent, std::size_t name,
                                                            std::wstring_view shownName) {
   path_.Enter(shownName, names_.TextOf(name));
-  if (names_[name].IsLink && ancestors_.Contain(path_)) {
-    return Entrance::LeadsBack;
+  const bool isLink = names_[name].IsLink;
+  if (isLink && (!run_.General.FollowLinks || ancestors_.Contain(path_))) {
+    return Entrance::PassedBy;
   }
-  const bool opened = OpenDirectory(parent.Level + 1, DivideShare(parent.Share, parent.Subdirectories));
+  const bool opened = OpenDirectory(parent.Level + 1, DivideShare(parent.Share, parent.Subdirectories), isLink);
   return opened ? Entrance::Entered : Entrance::Unreadable;
 }
 
 /// Reads the directory at the end of path_ and puts its frame on the stack; false when it cannot be opened.
-bool DepthFirstWalk::OpenDirectory(std::int32_t level, std::int32_t share) {
+bool DepthFirstWalk::OpenDirectory(std::int32_t level, std::int32_t share, bool isLink) {
   run_.Watcher.ShowDirectory(path_.Shown());
   run_.Watcher.LetEventsThrough();
   platform::FindFiles files(path_.OnDisk(), shortNames_);
   if (!files.Opened()) {
-    run_.Unread.push_back({path_.OnDisk(), files.Reason()});
+    if (!isLink || !files.Denied()) {  // every profile has links that nobody may enter, for the programs of old days
+      run_.AddUnread(path_.OnDisk(), files.Reason());
+    }
     return false;
   }
   Frame frame{.Path = path_.Here(),
@@ -55,12 +61,15 @@ bool DepthFirstWalk::OpenDirectory(std::int32_t level, std::int32_t share) {
   for (platform::FindData entry; files.Next(entry);) {
     run_.Watcher.LetEventsThrough();
     if (entry.IsDirectory()) {
-      names_.Push(entry.Name, entry.IsLink());
+      if (run_.Filter.NameOn && run_.Patterns.LeaveOut(entry.Name)) {
+        continue;
+      }
+      names_.Push(entry.Name, platform::StandsForAnother(entry.Attributes, entry.ReparseTag));
     }
     TakeEntry(frame, entry);
   }
   if (files.Failed()) {
-    run_.Unread.push_back({path_.OnDisk(), files.Reason()});
+    run_.AddUnread(path_.OnDisk(), files.Reason());
   }
   frame.Subdirectories = names_.Size() - frame.FirstName;
   EndDirectory(frame);

@@ -37,8 +37,9 @@ class DepthFirstWalk {
   /// What became of the topmost directory: a child was entered, an entry or unreadable child was passed, or all is
   /// done.
   enum class Step { Entered, Passed, Finished };
-  /// What came of the attempt to enter a subdirectory. A link to a directory that the walk is in is not entered.
-  enum class Entrance { Entered, LeadsBack, Unreadable };
+  /// What came of the attempt to enter a subdirectory. A link is passed by when links are not followed, or when it
+  /// leads to a directory that the walk is in.
+  enum class Entrance { Entered, PassedBy, Unreadable };
 
   /// `run` outlives the walk.
   DepthFirstWalk(ListingRun& run, platform::ShortNames shortNames);
@@ -63,7 +64,7 @@ class DepthFirstWalk {
   virtual void LeaveDirectory(const Frame& frame) = 0;
 
  private:
-  bool OpenDirectory(std::int32_t level, std::int32_t share);
+  bool OpenDirectory(std::int32_t level, std::int32_t share, bool isLink);
   void Leave();
 
   ListingRun& run_;

@@ -27,6 +27,8 @@ class NameStack {
     bool IsLink = false;
   };
 
+  explicit NameStack(platform::Digits digits = platform::Digits::AsCharacters) : sorter_(digits) {}
+
   void Push(std::wstring_view name, bool isLink) {
     names_.push_back({text_.size(), static_cast<std::uint32_t>(name.size()), isLink});
     text_ += name;

@@ -43,6 +43,11 @@ platform::ShortNames ShortNamesFor(const ListingRun& run) {
   return used ? platform::ShortNames::Read : platform::ShortNames::Skip;
 }
 
+platform::Digits DigitsFor(const ListingRun& run) {
+  const bool byName = run.Filter.OrderBy == OrderBy::Name || run.Filter.OrderBy == OrderBy::DosName;
+  return byName && run.General.NaturalOrder ? platform::Digits::AsNumbers : platform::Digits::AsCharacters;
+}
+
 FileRecordFiller::FileRecordFiller(const ListingRun& run)
     : run_(run),
       filesLead_(run.Format.ListingStyle == ListingStyle::TreeStyle && run.General.FilesFirst),

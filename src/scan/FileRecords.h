@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/FindFiles.h"
+#include "platform/Text.h"
 #include "scan/FileRecord.h"
 #include "scan/ListingRun.h"
 #include "scan/TextArena.h"
@@ -14,6 +15,9 @@ namespace folivant {
 
 /// Whether a run shows MS-DOS names or sorts by them. Without that they are neither asked for nor kept.
 platform::ShortNames ShortNamesFor(const ListingRun& run);
+
+/// How the digits in the run's sort keys are meant. A size or date in a key is none of the numbers of natural order.
+platform::Digits DigitsFor(const ListingRun& run);
 
 /// Fills the records of one run, which outlives it.
 class FileRecordFiller {

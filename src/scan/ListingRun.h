@@ -8,7 +8,6 @@
 
 #include "base/Currency.h"
 #include "base/GeneralSettings.h"
-#include "platform/SystemReason.h"
 #include "scan/FilterSettings.h"
 #include "scan/ListingFormat.h"
 #include "scan/NamePatterns.h"
@@ -22,12 +21,6 @@ struct RunTotals {
   Currency TotalSize;
   std::int32_t TotalFiles = 0;
   std::int32_t TotalDirs = 0;
-};
-
-/// A directory or file that could not be read.
-struct UnreadPath {
-  std::wstring Path;  ///< on disk
-  SystemReason Reason;
 };
 
 /// Made anew for every run. The records outlive it.
@@ -55,6 +48,9 @@ struct ListingRun {
   bool Cancelled = false;
   std::vector<UnreadPath> Unread = {};  ///< in the order in which they were tried; most listings are silent about them
 
+  void AddUnread(std::wstring_view path, const SystemReason& reason) {
+    Watcher.TellUnread(Unread.emplace_back(std::wstring(path), reason));
+  }
   /// Whether the user has cancelled the run. Asked only at the points where a run may stop.
   bool IsCancelled() {
     Cancelled = Cancelled || Watcher.Cancelled();

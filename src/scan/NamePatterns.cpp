@@ -103,19 +103,35 @@ NamePatterns::NamePatterns(std::wstring_view filterName) {
   for (bool more = true; more;) {
     const std::size_t comma = filterName.find(L',');
     more = comma != filterName.npos;
-    std::wstring piece = Trim(filterName.substr(0, comma));
+    AddPiece(Trim(filterName.substr(0, comma)));
     filterName.remove_prefix(more ? comma + 1 : filterName.size());
-    if (piece.find(L'.') == piece.npos) {
-      piece += L"*.*";
-    }
-    const bool excludes = piece.starts_with(L'-');
-    const bool hasSign = excludes || piece.starts_with(L'+');
-    entries_.push_back({excludes, WildcardPattern(std::wstring_view(piece).substr(hasSign ? 1 : 0))});
   }
   const auto excludes = [](const Entry& entry) { return entry.Excludes; };
   const auto matchesAll = [](const Entry& entry) { return entry.Pattern.MatchesEveryDottedName(); };
-  admitsAll_ = std::none_of(entries_.begin(), entries_.end(), excludes) &&
-               std::any_of(entries_.begin(), entries_.end(), matchesAll);
+  admitsAll_ = entries_.empty() || (std::none_of(entries_.begin(), entries_.end(), excludes) &&
+                                    std::any_of(entries_.begin(), entries_.end(), matchesAll));
+}
+
+void NamePatterns::AddPiece(std::wstring piece) {
+  if (piece.starts_with(L'-') && piece.ends_with(L'\\')) {
+    leftOut_.emplace_back(std::wstring_view(piece).substr(1, piece.size() - 2));
+    return;
+  }
+  if (piece.find(L'.') == piece.npos) {
+    piece += L"*.*";
+  }
+  const bool excludes = piece.starts_with(L'-');
+  const bool hasSign = excludes || piece.starts_with(L'+');
+  entries_.push_back({excludes, WildcardPattern(std::wstring_view(piece).substr(hasSign ? 1 : 0))});
+}
+
+bool NamePatterns::LeaveOut(std::wstring_view directory) const {
+  if (leftOut_.empty()) {
+    return false;
+  }
+  const std::wstring lower = platform::ToLower(directory);
+  return std::any_of(leftOut_.begin(), leftOut_.end(),
+                     [&](const WildcardPattern& pattern) { return pattern.Matches(lower); });
 }
 
 bool NamePatterns::Admit(std::wstring_view name) const {

@@ -41,21 +41,29 @@ class WildcardPattern {
 class NamePatterns {
  public:
   NamePatterns() = default;
-  /// Splits at every ","; each piece is trimmed and gets "*.*" appended when it holds no dot (so an empty piece matches
-  /// everything). A piece that starts with "-" excludes, one with "+" or anything else includes.
+  /// Splits at every ",". A piece that starts with "-" and ends in "\" names directories that are left out with all
+  /// that they hold; it says nothing of other names, and a list of nothing else admits all of them. Every other piece
+  /// is trimmed and gets "*.*" appended when it holds no dot (so an empty piece matches everything). One that starts
+  /// with
+  /// "-" excludes, one with "+" or anything else includes.
   explicit NamePatterns(std::wstring_view filterName);
 
   /// Whether the name passes: some inclusion matches and no exclusion does. A list of exclusions alone admits nothing,
   /// on purpose: exclusions only subtract from what the inclusions admit. A name without a dot is compared with one
   /// appended.
   bool Admit(std::wstring_view name) const;
+  /// Whether a directory of that name is left out. Its pattern is compared as it is, without a dot appended anywhere.
+  bool LeaveOut(std::wstring_view directory) const;
 
  private:
   struct Entry {
     bool Excludes;
     WildcardPattern Pattern;
   };
+  void AddPiece(std::wstring piece);
+
   std::vector<Entry> entries_;
+  std::vector<WildcardPattern> leftOut_;
   bool admitsAll_ = false;  ///< nothing excludes, and some pattern matches every name
 };
 

@@ -2,9 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
+#include "platform/SystemReason.h"
+
 namespace folivant {
+
+/// A directory or file that could not be read.
+struct UnreadPath {
+  std::wstring Path;  ///< on disk
+  SystemReason Reason;
+};
 
 class Progress {
  public:
@@ -18,11 +27,15 @@ class Progress {
   virtual void LetEventsThrough() = 0;
   /// Whether the user has cancelled the run. Asked only at the points where a run may stop.
   virtual bool Cancelled() const = 0;
+  /// Called for each directory or file that could not be read, at once.
+  virtual void TellUnread(const UnreadPath&) {}
   /// False when nobody watches, so that a wait for the user would never end.
   virtual bool CanCancel() const { return true; }
+  /// False when nobody could answer a question, so that none may be asked.
+  virtual bool CanAsk() const { return true; }
 };
 
-class NoProgress final : public Progress {
+class NoProgress : public Progress {
  public:
   void ShowDirectory(std::wstring_view) override {}
   void SetProgress(std::int32_t) override {}

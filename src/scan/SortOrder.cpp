@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "platform/Text.h"
-
 namespace folivant {
 namespace {
 
@@ -28,7 +26,7 @@ void EntrySorter::Clear() {
 
 void EntrySorter::Add(std::wstring_view sortKey) {
   const std::size_t start = bytes_.size();
-  platform::AppendSortKey(sortKey, bytes_);
+  platform::AppendSortKey(sortKey, bytes_, digits_);
   keys_.push_back({0, static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(bytes_.size() - start),
                    static_cast<std::uint32_t>(keys_.size())});
 }

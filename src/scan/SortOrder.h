@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Text.h"
+
 namespace folivant {
 
 /// Collects the sort keys of one directory's entries as they are found, then orders the entries. The order is that of
@@ -14,6 +16,7 @@ namespace folivant {
 /// keys stay as they were found. Made for reuse: a cleared collector keeps its memory.
 class EntrySorter {
  public:
+  explicit EntrySorter(platform::Digits digits = platform::Digits::AsCharacters) : digits_(digits) {}
   void Clear();
   /// The key of the next entry; entries count from 0.
   void Add(std::wstring_view sortKey);
@@ -37,6 +40,7 @@ class EntrySorter {
   void SortRange(const Range& range, bool ascending);
   void SortRun(const Range& run, bool ascending);
 
+  const platform::Digits digits_;
   std::string bytes_;
   std::vector<Key> keys_;
   std::vector<Range> ranges_;  ///< still to be sorted

@@ -9,7 +9,7 @@
 namespace folivant {
 
 StreamingWalk::StreamingWalk(ListingRun& run, ListingWriter& output)
-    : DepthFirstWalk(run, ShortNamesFor(run)), output_(output), filler_(run) {}
+    : DepthFirstWalk(run, ShortNamesFor(run)), output_(output), filler_(run), sorter_(DigitsFor(run)) {}
 
 void StreamingWalk::BeginDirectory(const Frame&) {
   texts_.Clear();

@@ -7,7 +7,7 @@
 
 namespace folivant {
 
-TreeWalk::TreeWalk(ListingRun& run) : DepthFirstWalk(run, ShortNamesFor(run)), filler_(run) {}
+TreeWalk::TreeWalk(ListingRun& run) : DepthFirstWalk(run, ShortNamesFor(run)), filler_(run), sorter_(DigitsFor(run)) {}
 
 void TreeWalk::ForEachEntry(const std::function<void(const FileRecord&)>& list) const {
   std::wstring names;

@@ -69,6 +69,7 @@ void ListTree(ListingRun& run, ListingWriter& output) {
 
 void ListRows(ListingRun& run, ListingWriter& output, const FoundRows& rows) {
   if (!run.IsCancelled()) {
+    run.Totals.TotalFiles = static_cast<std::int32_t>(rows.Items.size());
     output.FindList(rows);
   }
 }

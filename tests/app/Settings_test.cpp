@@ -75,9 +75,25 @@ const Known kKnown[] = {
 };
 // Apart from these: "Path", whose default is the current directory, and "Port", which is read from "Portrait".
 
-/// Settings that came later: all of them flags of section "Settings" that are off by default and travel into filter
-/// files.
-const wchar_t* const kLaterFlags[] = {L"RecordOwner", L"RecordLinks", L"RecordSha256", L"CsvApostrophe"};
+/// Flags that came later: all of them lie in section "Settings", travel into filter files, and are stored only while
+/// they differ from their default.
+struct LaterFlag {
+  const wchar_t* Key;
+  bool GeneralSettings::*Member;
+  bool Default;
+};
+const LaterFlag kLaterFlags[] = {
+    {L"FollowLinks", &GeneralSettings::FollowLinks, true},
+    {L"NaturalOrder", &GeneralSettings::NaturalOrder, false},
+    {L"RecordOwner", &GeneralSettings::RecordOwner, false},
+    {L"RecordLinks", &GeneralSettings::RecordLinks, false},
+    {L"RecordSha256", &GeneralSettings::RecordSha256, false},
+    {L"CsvApostrophe", &GeneralSettings::CsvApostrophe, false},
+};
+
+std::wstring Word(bool flag) {
+  return flag ? L"True" : L"False";
+}
 
 void FilterFile(const std::string& lines) {
   Tree().File(kFilterFile, "[Folivant 3.5]\r\n" + lines);
@@ -218,32 +234,31 @@ TEST(Settings, LoadingAFilterFileLeavesMachineSettingsUntouched) {
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
-TEST(Settings, ALaterFlagIsStoredOnlyWhileItIsOn) {
-  for (const wchar_t* key : kLaterFlags) {
-    LoadWith(L"Settings", key, L"True");
-    const auto before = Fake().Store;
+TEST(Settings, ALaterFlagIsStoredOnlyWhileItIsChanged) {
+  for (const LaterFlag& flag : kLaterFlags) {
+    LoadWith(L"Settings", flag.Key, Word(!flag.Default));
     SaveSettings();
-    EXPECT_EQ((Fake().Store[{L"Settings", key}]), L"True") << Narrow(key);
+    EXPECT_EQ((Fake().Store[{L"Settings", flag.Key}]), Word(!flag.Default)) << Narrow(flag.Key);
     EXPECT_EQ(Fake().Store.size(), std::size(kKnown) + 2) << "\"Path\" is no directory here";
-    LoadWith(L"Settings", key, L"False");
+    LoadWith(L"Settings", flag.Key, Word(flag.Default));
     SaveSettings();
-    EXPECT_EQ(Fake().Store.count({L"Settings", key}), 0U) << Narrow(key);
+    EXPECT_EQ(Fake().Store.count({L"Settings", flag.Key}), 0U) << Narrow(flag.Key);
   }
 }
 
-TEST(Settings, ALaterFlagTravelsIntoAFilterFileOnlyWhileItIsOn) {
+TEST(Settings, ALaterFlagTravelsIntoAFilterFileOnlyWhileItIsChanged) {
   Tree().Dir(L"C:\\sets");
   LoadSettings();
   SaveFilterFile(kFilterFile);
   const std::string without = Fake().Content(kFilterFile);
-  for (const wchar_t* key : kLaterFlags) {
-    const std::string line = "\r\n" + Narrow(key) + "=";
+  for (const LaterFlag& flag : kLaterFlags) {
+    const std::string line = "\r\n" + Narrow(flag.Key) + "=";
     EXPECT_EQ(without.find(line), without.npos);
-    FilterFile(Narrow(key) + "=True\r\n");
+    FilterFile(Narrow(flag.Key) + "=" + Narrow(Word(!flag.Default)) + "\r\n");
     LoadFilterFile(kFilterFile);
     SaveFilterFile(kFilterFile);
-    EXPECT_NE(Fake().Content(kFilterFile).find(line + "True\r\n"), without.npos);
-    FilterFile(Narrow(key) + "=False\r\n");
+    EXPECT_NE(Fake().Content(kFilterFile).find(line + Narrow(Word(!flag.Default)) + "\r\n"), without.npos);
+    FilterFile(Narrow(flag.Key) + "=" + Narrow(Word(flag.Default)) + "\r\n");
     LoadFilterFile(kFilterFile);
     SaveFilterFile(kFilterFile);
     EXPECT_EQ(Fake().Content(kFilterFile).find(line), without.npos);
@@ -251,13 +266,11 @@ TEST(Settings, ALaterFlagTravelsIntoAFilterFileOnlyWhileItIsOn) {
 }
 
 TEST(Settings, EachLaterFlagIsOneOfItsOwn) {
-  bool GeneralSettings::*const members[] = {&GeneralSettings::RecordOwner, &GeneralSettings::RecordLinks,
-                                            &GeneralSettings::RecordSha256, &GeneralSettings::CsvApostrophe};
-  for (std::size_t on = 0; on < std::size(members); ++on) {
-    FilterFile(Narrow(kLaterFlags[on]) + "=True\r\n");
+  for (const LaterFlag& changed : kLaterFlags) {
+    FilterFile(Narrow(changed.Key) + "=" + Narrow(Word(!changed.Default)) + "\r\n");
     LoadFilterFile(kFilterFile);
-    for (std::size_t i = 0; i < std::size(members); ++i) {
-      EXPECT_EQ(General.*members[i], i == on) << Narrow(kLaterFlags[i]);
+    for (const LaterFlag& flag : kLaterFlags) {
+      EXPECT_EQ(General.*flag.Member, flag.Default != (flag.Key == changed.Key)) << Narrow(flag.Key);
     }
   }
 }

@@ -159,5 +159,32 @@ TEST(NamePatternsTest, ASignAloneStandsForEveryName) {
   EXPECT_FALSE(Passes(L"*.*,-", L"a.txt"));
 }
 
+TEST(NamePatterns, ABackslashAtTheEndLeavesDirectoriesOut) {
+  const NamePatterns patterns(L"*.txt, -node_modules\\, -.git\\,-tmp*\\");
+  for (const wchar_t* name : {L"node_modules", L"NODE_Modules", L".git", L"tmp", L"Tmp.old"}) {
+    EXPECT_TRUE(patterns.LeaveOut(name)) << testing::PrintToString(std::wstring(name));
+  }
+  for (const wchar_t* name : {L"node_modules2", L"my node_modules", L"git", L".github", L"a.tmp", L"", L"a.txt"}) {
+    EXPECT_FALSE(patterns.LeaveOut(name)) << testing::PrintToString(std::wstring(name));
+  }
+  EXPECT_TRUE(patterns.Admit(L"a.txt"));
+  EXPECT_TRUE(patterns.Admit(L"node_modules.txt")) << "such a pattern says nothing of other names";
+  EXPECT_FALSE(patterns.Admit(L"a.doc"));
+}
+
+TEST(NamePatterns, AListThatOnlyLeavesDirectoriesOutAdmitsEverything) {
+  const NamePatterns patterns(L"-.git\\");
+  EXPECT_TRUE(patterns.Admit(L"a.txt"));
+  EXPECT_TRUE(patterns.Admit(L".git"));
+  EXPECT_TRUE(patterns.LeaveOut(L".git"));
+}
+
+TEST(NamePatterns, ABackslashLeavesNothingOutWithoutTheMinus) {
+  for (const wchar_t* list : {L".git\\", L"+.git\\", L"*.*,.git\\", L"*.*,-.g\\it", L"*.*,-.git"}) {
+    EXPECT_FALSE(NamePatterns(list).LeaveOut(L".git")) << testing::PrintToString(std::wstring(list));
+  }
+  EXPECT_FALSE(NamePatterns(L".git\\").Admit(L".git")) << "no name holds a backslash";
+}
+
 }  // namespace
 }  // namespace folivant
