@@ -226,6 +226,21 @@ def records(bench, tree):
     return table(f'Exact records against text, {WIDE}', ['Kind', 'On the host', 'Under Wine'], rows)
 
 
+def choices(bench, tree, flat):
+    """What may be switched on, against the same without it, on both systems; Wine has been started."""
+    out = bench.scratch / 'list.out'
+    natural = bench.filter_file('natural', OrderBy=1, OrderAZ='True', Format=1, NaturalOrder='True')
+    programs = ([HOUSE / 'build/host-release/folivant-host'], ['wine', bench.scratch / 'program/Folivant.exe'])
+
+    def logged(program):
+        return [*listing(program, tree, out), '/l', dos(bench.scratch / 'log.txt'), '/q']
+    rows = [[f'natural order, {FLAT}', lambda p: listing(p, flat, out, filter_file=natural), lambda p: listing(p, flat, out)],
+            [f'a log, {WIDE}', logged, lambda p: listing(p, tree, out)]]
+    rows = [[name, *(f'{bench.ratio((chosen(p), None), (usual(p), None)):.2f}' for p in programs)]
+            for name, chosen, usual in rows]
+    return table('What choices cost, against the same run without', ['Choice', 'On the host', 'Under Wine'], rows)
+
+
 def hashing(bench, make, scale):
     """Sums of the same files, all of them in the cache; of more than one, so that neither side waits for a disk."""
     host = [HOUSE / 'build/host-release/folivant-host']
@@ -403,7 +418,7 @@ def sections(text):
     return {part.split('\n', 1)[0]: f'### {part.rstrip()}\n\n' for part in re.split('^### ', text, flags=re.M)[1:]}
 
 
-PARTS = ('pages', 'host', 'records', 'hashing', 'orders', 'memory', 'wine', 'window')
+PARTS = ('pages', 'host', 'records', 'choices', 'hashing', 'orders', 'memory', 'wine', 'window')
 
 def main():
     options = argparse.ArgumentParser(description=__doc__)
@@ -422,7 +437,7 @@ def main():
     parts = chosen.only or PARTS
     with tempfile.TemporaryDirectory(prefix='folivant-bench-') as name:
         scratch = pathlib.Path(name)
-        build(scratch, not {'records', 'wine', 'window', 'interpreter'}.isdisjoint(parts))
+        build(scratch, not {'records', 'choices', 'wine', 'window', 'interpreter'}.isdisjoint(parts))
         bench = Bench(scratch, chosen.pairs)
         bench.clock = chosen.clock
         bench.filter_file('usual', OrderBy=1, OrderAZ='True', Format=1)
@@ -453,10 +468,11 @@ def measure(bench, make, parts, scale):
     if 'memory' in parts:
         nodes = [(make.wide(f'nodes {count}', count, 1), count) for count in (many, 10 * many)]
         lines += memory(bench, (few, max(1, many // 10)), (trees[WIDE], many), nodes)
-    if not {'records', 'wine', 'interpreter'}.isdisjoint(parts):
+    if not {'records', 'choices', 'wine', 'interpreter'}.isdisjoint(parts):
         end_wine = start_wine(bench)
         try:
             lines += records(bench, trees[WIDE]) if 'records' in parts else []
+            lines += choices(bench, trees[WIDE], small_flat) if 'choices' in parts else []
             lines += under_wine(bench, trees, empty) if 'wine' in parts else []
             lines += interpreter(bench, trees) if 'interpreter' in parts else []
         finally:

@@ -56,7 +56,9 @@ CommandLine ReadCommandLine(const std::wstring& line) {
   command.OutputLetter = LetterOf(line);
   command.KindWord = ArgumentOf(line, L"/k");
   command.OutputFile = ArgumentOf(line, L"/o");
+  command.LogFile = ArgumentOf(line, L"/l");
   command.Go = line.find(L"/g") != line.npos;
+  command.Quiet = line.find(L"/q") != line.npos;
   return command;
 }
 

@@ -25,7 +25,9 @@ struct CommandLine {
   std::optional<wchar_t> OutputLetter;     ///< "/t": the third character after the slash, 0 where the line ends before
   std::optional<std::wstring> KindWord;    ///< "/k"
   std::optional<std::wstring> OutputFile;  ///< "/o"
+  std::optional<std::wstring> LogFile;     ///< "/l", with the "+" in front that continues a log
   bool Go = false;                         ///< "/g"
+  bool Quiet = false;                      ///< "/q"
 };
 CommandLine ReadCommandLine(const std::wstring& line);
 

@@ -9,14 +9,16 @@
 #include "app/MainWindow.h"
 #include "app/SendTo.h"
 #include "app/Settings.h"
+#include "app/UnattendedRun.h"
 #include "app/mdlVars.h"
 #include "base/mdlFileRoutines.h"
 #include "output/OutputKinds.h"
 #include "output/mdlPrint.h"
 #include "platform/Files.h"
+#include "platform/FindFiles.h"
 #include "platform/MessageBox.h"
 #include "platform/Printers.h"
-#include "scan/Progress.h"
+#include "platform/RuntimeError.h"
 #include "scan/mdlScan.h"
 #include "shell/mdlFind.h"
 #include "ui/ErrorText.h"
@@ -88,33 +90,75 @@ Ending ApplyOutputKind(const CommandLine& command) {
   return std::nullopt;
 }
 
-bool HasDestination() {
-  if (mdlVars::OutputKind != OutputKind::Printer) {
-    return !mdlVars::OutputFile.empty() || AskForOutputFile();
+bool HasDestination(const UnattendedRun& unattended) {
+  if (mdlVars::OutputKind == OutputKind::Printer) {
+    return FindPrinter(mdlVars::Printer, mdlVars::Texts);
   }
-  return FindPrinter(mdlVars::Printer, mdlVars::Texts);
+  if (!mdlVars::OutputFile.empty()) {
+    return true;
+  }
+  if (!unattended.CanAsk()) {
+    CommandLineError(mdlVars::Texts[TextId::OutputFileMissing]);
+    return false;
+  }
+  return AskForOutputFile();
 }
 
-/// The run of "/g": no window, no viewer, and the stored settings stay as they are.
-ExitStatus RunAtOnce() {
-  if (!HasDestination()) {
+void LogResult(RunLog& log, const ListingRun& run) {
+  log.TellCounts(run);
+  if (mdlVars::OutputKind == OutputKind::Printer) {
+    log.TellPrinter(run.Printer.PrinterName);
+  } else {
+    log.TellOutputFile(platform::AbsolutePath(run.OutputFile));
+  }
+}
+
+ExitStatus StatusOf(const ListingRun& run, bool elsewhere) {
+  if (run.Cancelled) {
+    return kExitFailed;
+  }
+  if (!run.Unread.empty()) {
+    return kExitUnreadable;
+  }
+  return elsewhere ? kExitElsewhere : kExitDone;
+}
+
+/// The run of "/g": no window, no viewer, and the stored settings stay as they are. `elsewhere` says that it does not
+/// list the directory that the command line names.
+ExitStatus RunAtOnce(UnattendedRun& unattended, bool elsewhere) {
+  if (!HasDestination(unattended)) {
     return kExitFailed;
   }
   OutputDriver output;
   output.Choose(mdlVars::OutputKind);
   FindCapture rows(mdlVars::MakeDialogContext());
-  NoProgress nobody;
-  ListingRun run = mdlVars::MakeRun(nobody);
-  RunListing(run, output, rows);
-  if (run.Cancelled) {
-    return kExitFailed;
+  ListingRun run = mdlVars::MakeRun(unattended);
+  if (RunLog* const log = unattended.Log()) {
+    log->TellListing(run);
   }
-  return run.Unread.empty() ? kExitDone : kExitUnreadable;
+  RunListing(run, output, rows);
+  if (RunLog* const log = unattended.Log()) {
+    LogResult(*log, run);
+  }
+  return StatusOf(run, elsewhere);
+}
+
+/// False when "/d" leaves the directory of the filter file, because it names none. With "/q" that is an error, as it is
+/// when the directory cannot be read: nobody is there to see that something else was listed, or nothing.
+bool ApplyDirectory(const CommandLine& command) {
+  const bool set = SetDirectory(*command.Directory);
+  if (command.Go && command.Quiet) {
+    const platform::FindFiles files(set ? mdlVars::Start.OnDisk : *command.Directory, platform::ShortNames::Skip);
+    if (!set || !files.Opened()) {
+      const SystemReason reason = files.Reason();
+      throw RuntimeError(FailedAction::ReadFile, *command.Directory, reason.Text, reason.Code);
+    }
+  }
+  return set;
 }
 
 /// The switches in their fixed order, whatever their order on the line.
-Ending ParseCommandLine(const std::wstring& line) {
-  const CommandLine command = ReadCommandLine(line);
+Ending ParseCommandLine(const CommandLine& command, UnattendedRun& unattended) {
   if (!command.HasSwitches) {
     ApplyPath(command.Path);
     return std::nullopt;
@@ -122,16 +166,14 @@ Ending ParseCommandLine(const std::wstring& line) {
   if (const Ending ending = ApplyFilterFile(command)) {
     return ending;
   }
-  if (command.Directory) {
-    SetDirectory(*command.Directory);  // one that is not valid leaves the directory of the filter file, silently
-  }
+  const bool elsewhere = command.Directory && !ApplyDirectory(command);
   if (const Ending ending = ApplyOutputKind(command)) {
     return ending;
   }
   if (command.OutputFile) {
     mdlVars::OutputFile = WithSwitchExtension(*command.OutputFile, mdlVars::OutputKind);
   }
-  return command.Go ? Ending(RunAtOnce()) : std::nullopt;
+  return command.Go ? Ending(RunAtOnce(unattended, elsewhere)) : std::nullopt;
 }
 
 /// The language of the settings, or English while they have none.
@@ -168,6 +210,37 @@ int StartWindow() {
   return ShowMainWindow();
 }
 
+int StartOrTell(const CommandLine& command, UnattendedRun& unattended) {
+  try {
+    RecreateSendTo();
+    LoadSettingsAndLanguage();
+    if (const Ending ending = ParseCommandLine(command, unattended)) {
+      return *ending;
+    }
+    return StartWindow();
+  } catch (const std::exception& error) {
+    TellFailure(error);
+    return kExitFailed;
+  }
+}
+
+/// Fails where there can be no log, or no more of it.
+int StartWithLog(const std::wstring& commandLine) {
+  const CommandLine command = ReadCommandLine(commandLine);
+  UnattendedRun unattended(command);
+  try {
+    unattended.OpenLog(commandLine);
+    const int status = StartOrTell(command, unattended);
+    if (RunLog* const log = unattended.Log()) {
+      log->End(status);
+    }
+    return status;
+  } catch (const std::exception& error) {
+    TellFailure(error);
+    return kExitFailed;
+  }
+}
+
 }  // namespace
 
 int Start(const std::wstring& commandLine) {
@@ -176,12 +249,7 @@ int Start(const std::wstring& commandLine) {
       DeleteSendTo();
       return kExitDone;
     }
-    RecreateSendTo();
-    LoadSettingsAndLanguage();
-    if (const Ending ending = ParseCommandLine(commandLine)) {
-      return *ending;
-    }
-    return StartWindow();
+    return StartWithLog(commandLine);
   } catch (const std::exception& error) {
     TellFailure(error);
     return kExitFailed;

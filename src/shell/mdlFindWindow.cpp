@@ -11,14 +11,20 @@
 namespace folivant {
 namespace {
 
+void GiveUp(FindChoice& choice, const std::wstring& why) {
+  platform::ShowMessage(why, platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
+  choice.Cancel();
+}
+
 // A window that is alone is taken at once; the dialog is shown only where there is something to choose.
-void BeginChoice(FindChoice& choice, FindDialog& dialog, const Messages& texts) {
+void BeginChoice(FindChoice& choice, FindDialog& dialog, const ListingRun& run) {
   choice.FindCandidates();
   if (choice.Candidates.empty()) {
-    platform::ShowMessage(texts[TextId::NoFindWindow], platform::BoxIcon::Exclamation, platform::BoxButtons::Ok);
-    choice.Cancel();
+    GiveUp(choice, run.Texts[TextId::NoFindWindow]);
   } else if (choice.Candidates.size() == 1) {
     choice.Choose(0);
+  } else if (!run.Watcher.CanAsk()) {
+    GiveUp(choice, run.Texts[TextId::SeveralFindWindows]);
   } else {
     dialog.Show();
   }
@@ -64,7 +70,7 @@ FoundRows FindCapture::PrintFromFind(ListingRun& run) {
   FindChoice choice;
   {
     const auto dialog = OpenFindDialog(choice, context_);
-    BeginChoice(choice, *dialog, run.Texts);
+    BeginChoice(choice, *dialog, run);
     WaitForChoice(choice, *dialog, run);
   }
   if (choice.Chosen) {

@@ -124,6 +124,8 @@ enum class TextId : int {
   OverwriteLastLine = 170,   ///< "already exists. Do you want to overwrite it?"
   MarginsLeaveNoRoom = 187,  ///< %1 the four margins
   FontDoesNotFit = 188,      ///< %1 font and size
+  OutputFileMissing = 189,   ///< in a run that may not ask
+  SeveralFindWindows = 190,  ///< the same
   ValidValues = 180,         ///< follows BadSetting; %1 the lowest and %2 the highest value
   NumberOutOfRange = 181,    ///< %1 the name of the field, %2 the lowest and %3 the highest number
   NoPrinterName = 182,       ///< stands for the name of the printer where there is none

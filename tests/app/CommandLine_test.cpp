@@ -66,6 +66,14 @@ TEST(ReadCommandLine, ABlankAfterASwitchMayBeMissing) {
   EXPECT_EQ(command.OutputFile, L"out");
 }
 
+TEST(ReadCommandLine, ALogMayBeContinuedAndARunQuiet) {
+  const CommandLine command = ReadCommandLine(L"/g/q /l +C:\\my log.txt /f a.fvf");
+  EXPECT_TRUE(command.Quiet);
+  EXPECT_EQ(command.LogFile, L"+C:\\my log.txt");
+  EXPECT_FALSE(ReadCommandLine(L"/g /Q /L log").Quiet);
+  EXPECT_EQ(ReadCommandLine(L"/g /Q /L log").LogFile, std::nullopt);
+}
+
 TEST(ReadCommandLine, SwitchesAreSmallLetters) {
   const CommandLine command = ReadCommandLine(L"/F a.fvf /D C:\\ /T t /K csv /O out /G");
   EXPECT_TRUE(command.HasSwitches);

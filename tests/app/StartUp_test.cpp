@@ -8,9 +8,11 @@
 
 #include "app/Settings.h"
 #include "app/mdlVars.h"
+#include "base/mdlFileRoutines.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeSession.h"
 #include "output/mdlPrint.h"
+#include "platform/Utf8.h"
 #include "scan/mdlScan.h"
 #include "shell/mdlFind.h"
 
@@ -32,6 +34,7 @@ class StartUp : public testing::Test {
     Tree().File(L"C:\\Program Files\\Folivant\\english.ini",
                 "[Messages]\r\n21=Unknown type.\r\n22=Problem:\r\n23=Usage.\r\n100=No printer.\r\n183=None "
                 "chosen.\r\n13=OK\r\n184=Unexpected.\r\n185=No memory.\r\n"
+                "138=No window.\r\n189=No output.\r\n190=Several windows.\r\n"
                 "160=Cannot create \"%1\": %2 (%3)\r\n161=Cannot read \"%1\": %2 (%3)\r\n164=%1, %2, %3\r\n"
                 "171=No path in %1, none.\r\n172=%1 is over %2 MB\r\n");
   }
@@ -263,6 +266,146 @@ TEST_F(StartUp, AFileThatCannotBeReadForItsSumEndsWithTheStatusOfUnreadableOnes)
   EXPECT_TRUE(Fake().Messages.empty());
 }
 
+/// Runs that nobody watches.
+class Unattended : public StartUp {
+ protected:
+  static constexpr wchar_t kLog[] = L"C:\\Out\\log.txt";
+
+  /// The log's lines without their times, which are all those of the fake clock.
+  static std::vector<std::string> Log() {
+    std::vector<std::string> lines;
+    std::string rest = Fake().Content(kLog);
+    for (std::size_t end = rest.find("\r\n"); end != rest.npos; end = rest.find("\r\n")) {
+      const std::string line = rest.substr(0, end);
+      EXPECT_TRUE(line.starts_with("2001-02-03T04:05:06Z\t")) << line;
+      lines.push_back(line.substr(std::min<std::size_t>(line.size(), 21)));
+      rest.erase(0, end + 2);
+    }
+    EXPECT_EQ(rest, "");
+    return lines;
+  }
+  /// Ends with `status`, without box or dialog; standard error and the log have `message`.
+  static void ExpectQuietEnd(const std::wstring& line, ExitStatus status, const std::wstring& message) {
+    Fake().StandardError.clear();
+    EXPECT_EQ(Start(line + L" /l C:\\Out\\log.txt /g"), status);
+    EXPECT_TRUE(Fake().Messages.empty());
+    EXPECT_EQ(Session().OutputFileAsked, 0);
+    EXPECT_EQ(Session().Shown, 0);
+    EXPECT_THAT(Fake().StandardError, testing::ElementsAre(message));
+    const std::string field = platform::ToUtf8(ReplaceAll(message, L"\r\n", L" "));
+    EXPECT_THAT(Log(), testing::Contains("message\t" + field));
+    EXPECT_EQ(Log().back(), "end\tstatus=" + std::to_string(status));
+  }
+};
+
+TEST_F(Unattended, TheLogTellsTheWholeRun) {
+  const std::wstring line = L"/f C:\\sets\\a.fvf /d C:\\Data /t t /o C:\\Out\\list /l C:\\Out\\log.txt /g";
+  EXPECT_EQ(Start(line), kExitDone);
+  EXPECT_THAT(Log(), testing::ElementsAre(testing::AllOf(testing::StartsWith("start\tFolivant "),
+                                                         testing::EndsWith("\t" + platform::ToUtf8(line))),
+                                          "listing\tC:\\Data\tstyle=4\tdepth=0\torder=1\tfilter=*.*",
+                                          "counts\tfiles=1\tdirectories=1\tbytes=5\tunread=0",
+                                          "output\tC:\\Out\\list.txt\tbytes=15", "end\tstatus=0"));
+}
+
+TEST_F(Unattended, TheLogIsWrittenAnewOrContinued) {
+  const std::wstring run = L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list /g /l ";
+  for (const auto& [file, lines] : {std::pair(L"C:\\Out\\log.txt", 5U),
+                                    {L"+C:\\Out\\log.txt", 10U},
+                                    {L"\"+C:\\Out\\log.txt\"", 15U},
+                                    {L"C:\\Out\\log.txt", 5U}}) {
+    EXPECT_EQ(Start(run + file), kExitDone);
+    EXPECT_EQ(Log().size(), lines);
+  }
+}
+
+TEST_F(Unattended, TheLogNamesWhatCouldNotBeReadAtOnce) {
+  FilterFile("Format=1\r\n");
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=1\r\nPath=C:\\Data\r\n");
+  Tree().Dir(L"C:\\Data").Folder(L"Locked").Unreadable();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /l C:\\Out\\log.txt /g"), kExitUnreadable);
+  EXPECT_EQ(Log().at(2), "unread\tC:\\Data\\Locked\tAccess is denied. (5)");
+  EXPECT_THAT(Log().at(3), testing::EndsWith("\tunread=1"));
+  EXPECT_EQ(Log().back(), "end\tstatus=2");
+}
+
+TEST_F(Unattended, WithoutTheSwitchMessagesAreShownAndLogged) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\none.fvf /l C:\\Out\\log.txt /g"), kExitFailed);
+  EXPECT_EQ(Fake().Messages.size(), 1U);
+  EXPECT_TRUE(Fake().StandardError.empty());
+  EXPECT_EQ(Log().at(1), "message\tProblem: Filter file not found.  Usage.");
+}
+
+TEST_F(Unattended, QuietRunsShowNothing) {
+  const auto problem = [](const std::wstring& detail) { return L"Problem:\r\n" + detail + L"\r\n\r\nUsage."; };
+  ExpectQuietEnd(L"/q", kExitFailed, problem(L"No filter file specified."));
+  ExpectQuietEnd(L"/f C:\\sets\\none.fvf /q", kExitFailed, problem(L"Filter file not found."));
+  ExpectQuietEnd(L"/f C:\\sets\\a.fvf /q /t z", kExitFailed, problem(L"Unknown type."));
+  ExpectQuietEnd(L"/f C:\\sets\\a.fvf /q /t t", kExitFailed, problem(L"No output."));
+  ExpectQuietEnd(L"/f C:\\sets\\a.fvf /q /t p", kExitFailed, L"No printer.");
+  ExpectQuietEnd(L"/f C:\\sets\\a.fvf /q /t t /o C:\\None\\list.txt", kExitFailed,
+                 L"Cannot create \"C:\\None\\list.txt\": The system cannot find the path specified. (3)");
+}
+
+TEST_F(Unattended, WhereNoWindowCanBeSeenEveryRunIsQuiet) {
+  Fake().CanShowWindows = false;
+  ExpectQuietEnd(L"/f C:\\sets\\a.fvf /t t", kExitFailed, L"Problem:\r\nNo output.\r\n\r\nUsage.");
+  ExpectQuietEnd(L"/f C:\\sets\\none.fvf", kExitFailed, L"Problem:\r\nFilter file not found.\r\n\r\nUsage.");
+}
+
+TEST_F(Unattended, ABadSettingIsToldAndTheRunGoesOn) {
+  Store(L"TextWidth", L"wide");
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /q /g"), kExitDone);
+  EXPECT_TRUE(Fake().Messages.empty());
+  EXPECT_EQ(Fake().StandardError.size(), 1U);
+}
+
+TEST_F(Unattended, AQuietRunListsNothingButTheDirectoryThatIsNamed) {
+  Tree().Dir(L"C:\\Refused").Unreadable();
+  Tree().File(L"C:\\Out\\list.txt", "before");
+  const std::wstring run = L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /q /d ";
+  ExpectQuietEnd(run + L"C:\\Nowhere", kExitFailed,
+                 L"Cannot read \"C:\\Nowhere\": The system cannot find the path specified. (3)");
+  ExpectQuietEnd(run + L"\\\\nobody\\share", kExitFailed,
+                 L"Cannot read \"\\\\nobody\\share\": The system cannot find the path specified. (3)");
+  ExpectQuietEnd(run + L"C:\\Refused", kExitFailed, L"Cannot read \"C:\\Refused\": Access is denied. (5)");
+  EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "before");
+}
+
+TEST_F(Unattended, AListingOfAnotherDirectoryThatIsNotCompleteTellsThatAlone) {
+  Tree().File(L"C:\\sets\\a.fvf", "[Folivant 3.5]\r\nFormat=1\r\nPath=C:\\Data\r\n");
+  Tree().Dir(L"C:\\Data").Folder(L"Locked").Unreadable();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d C:\\Nowhere /t t /o C:\\Out\\list.txt /g"), kExitUnreadable);
+}
+
+TEST_F(Unattended, ALogThatCannotBeMadeIsToldAndNothingIsListed) {
+  Fake().FailCreates[kLog] = fakes::AccessDenied();
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /l C:\\Out\\log.txt /q /g"), kExitFailed);
+  EXPECT_THAT(Fake().StandardError, testing::ElementsAre(L"Cannot create \"C:\\Out\\log.txt\": Access is denied. (5)"));
+  EXPECT_TRUE(Fake().Messages.empty());
+  EXPECT_FALSE(Exists(L"C:\\Out\\list.txt"));
+}
+
+TEST_F(Unattended, AFullDiskEndsTheRunWhateverCouldNotBeWritten) {
+  const std::wstring line = L"/f C:\\sets\\a.fvf /t t /o C:\\Out\\list.txt /l C:\\Out\\log.txt /q /g";
+  Start(line);
+  const std::size_t all = Fake().Content(kLog).size() + Fake().Content(L"C:\\Out\\list.txt").size();
+  for (std::size_t room = 0; room < all; room += 7) {
+    Fake().DiskFullAfter = room;
+    Fake().StandardError.clear();
+    EXPECT_EQ(Start(line), kExitFailed) << room;
+    EXPECT_FALSE(Fake().StandardError.empty()) << room;
+    EXPECT_TRUE(Fake().Messages.empty());
+    EXPECT_EQ(Fake().OpenOutputFiles, 0);
+  }
+}
+
+TEST_F(Unattended, WithoutGoTheSwitchesChangeNothing) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\none.fvf /l C:\\Out\\log.txt /q"), kExitFailed);
+  EXPECT_EQ(Fake().Messages.size(), 1U);
+  EXPECT_FALSE(Exists(kLog));
+}
+
 TEST_F(StartUp, WithoutAnOutputLetterTheDestinationIsThatOfTheFilterFile) {
   Session().Printers = {L"Laser"};
   for (const OutputTarget target : {OutputTarget::Printer, OutputTarget::File, OutputTarget::Screen}) {
@@ -274,8 +417,8 @@ TEST_F(StartUp, WithoutAnOutputLetterTheDestinationIsThatOfTheFilterFile) {
   }
 }
 
-TEST_F(StartUp, AnInvalidDirectorySilentlyLeavesThatOfTheFilterFile) {
-  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d C:\\Nowhere /o C:\\Out\\list.txt /g"), kExitDone);
+TEST_F(StartUp, AnInvalidDirectoryLeavesThatOfTheFilterFileAndTheStatusTellsIt) {
+  EXPECT_EQ(Start(L"/f C:\\sets\\a.fvf /d C:\\Nowhere /o C:\\Out\\list.txt /g"), kExitElsewhere);
   EXPECT_TRUE(Fake().Messages.empty());
   EXPECT_EQ(Fake().Content(L"C:\\Out\\list.txt"), "C:\\Data\\A.txt\r\n");
 }

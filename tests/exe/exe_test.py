@@ -75,6 +75,12 @@ class ExeTest(unittest.TestCase):
         start = len(windows_path(self.tree)) + 1
         return [line[start:] for line in listing.decode('cp1252').splitlines()]
 
+    def comparable(self, listing):
+        """All of it; without the free-space sentence where a busy disk may change it between two runs."""
+        if self.tree.is_symlink():
+            return listing
+        return b'\r\n'.join(line for line in listing.split(b'\r\n') if b' free of ' not in line)
+
 
 class SameBytes(ExeTest):
     def make_tree(self):
@@ -118,12 +124,6 @@ class SameBytes(ExeTest):
                     native = self.run_program(*lines, native=True)
                     windows = self.run_program(*lines)
                     self.assertEqual(self.comparable(native[2]), self.comparable(windows[2]))
-
-    def comparable(self, listing):
-        """All of it; without the free-space sentence where a busy disk may change it between two runs."""
-        if self.tree.is_symlink():
-            return listing
-        return b'\r\n'.join(line for line in listing.split(b'\r\n') if b' free of ' not in line)
 
 
 class OddTrees(ExeTest):
@@ -414,6 +414,164 @@ class Failures(ExeTest):
         status, errors, listing = self.run_program('Format=4', environment=environment)
         self.assertEqual(status, 0, errors)
         self.assertTrue(listing.endswith(b'\\A.txt\r\n'))
+
+
+class Unattended(ExeTest):
+    """What scripts rely on: the run ends, its status is true, and the log says what went wrong."""
+
+    def setUp(self):
+        super().setUp()
+        self.file('A.txt')
+        self.log = self.work / 'log.txt'
+
+    def start(self, *switches, native=False, filter_file=None, environment=None):
+        """A /g run with a log; its status, its messages on standard error, and the log's events with their values."""
+        program = [HOST] if native else [RUN_WINDOWS, EXE]
+        begun = time.monotonic()
+        done = subprocess.run([*program, '/f', windows_path(filter_file or self.filter_file('Format=4')), *map(str, switches),
+                               '/l', windows_path(self.log), '/g'], capture_output=True, timeout=60, env=environment)
+        self.took = time.monotonic() - begun
+        lines = self.log.read_bytes().decode('utf-8').split('\r\n')
+        self.assertEqual(lines.pop(), '', 'the last line has its end')
+        events = [line.split('\t') for line in lines]
+        for event in events:
+            self.assertRegex(event[0], r'^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ$')
+        self.assertEqual(events[-1][1:], ['end', f'status={done.returncode}'])
+        return done.returncode, done.stderr.decode('utf-8', 'replace'), [event[1:] for event in events]
+
+    def assert_told(self, result, status, *parts):
+        """The status, and one message with these parts, in the log and on standard error."""
+        self.assertEqual(result[0], status, result)
+        messages = [event[1] for event in result[2] if event[0] == 'message']
+        self.assertEqual(len(messages), 1, result)
+        for part in parts:
+            self.assertIn(part, messages[0])
+            self.assertIn(part, result[1])
+
+    def both(self):
+        for native in [False, True]:
+            with self.subTest(native=native):
+                yield native
+
+    def test_the_log_of_a_run(self):
+        for native in self.both():
+            out = self.work / f'{native}.out'
+            status, errors, events = self.start('/d', windows_path(self.tree), '/o', windows_path(out), '/q', '/t', 't', native=native)
+            self.assertEqual(status, 0, errors)
+            self.assertEqual([event[0] for event in events], ['start', 'listing', 'counts', 'output', 'end'])
+            self.assertEqual(events[1][1:], [windows_path(self.tree), 'style=4', 'depth=0', 'order=1', 'filter=*.*'])
+            self.assertEqual(events[2][1:], ['files=1', 'directories=1', 'bytes=0', 'unread=0'])
+            self.assertEqual(events[3][1:], [windows_path(out), f'bytes={out.stat().st_size}'])
+
+    def test_quiet_runs_end_and_say_why(self):
+        for native in self.both():
+            out = ['/d', windows_path(self.tree), '/o', windows_path(self.work / 'list.txt'), '/q', '/t']
+            self.assert_told(self.start(*out, 't', native=native, filter_file=self.work / 'none.fvf'), 1, 'Filter file not found.')
+            self.assert_told(self.start(*out, 'z', native=native), 1, 'Unknown output type.')
+            self.assert_told(self.start('/q', '/t', 't', native=native), 1, '/o')
+            self.assert_told(self.start('/q', '/t', 't', '/o', windows_path(self.work / 'no' / 'list.txt'), native=native), 1,
+                             windows_path(self.work / 'no' / 'list.txt'))
+            self.assert_told(self.start('/q', '/t', 'p', '/d', windows_path(self.tree), native=native), 1, 'printer')
+            self.assertFalse((self.work / 'list.txt').exists())
+
+    def test_a_directory_that_is_not_there(self):
+        for native in self.both():
+            gone, out = windows_path(self.work / 'gone'), self.work / 'list.txt'
+            arguments = ['/d', gone, '/o', windows_path(out), '/t', 't']
+            self.assert_told(self.start(*arguments, '/q', native=native), 1, gone)
+            self.assertFalse(out.exists())
+            status, _, events = self.start(*arguments, native=native)
+            self.assertEqual(status, 3)
+            self.assertNotEqual(events[1][1], gone)
+            self.assertTrue(out.exists())
+            out.unlink()
+
+    def test_a_full_disk(self):
+        (self.work / 'full.txt').symlink_to('/dev/full')
+        for number in range(300):
+            self.file(f'File{number:03}.txt')
+        for native in self.both():
+            self.assert_told(self.start('/d', windows_path(self.tree), '/o', windows_path(self.work / 'full.txt'), '/q', '/t', 't',
+                                        native=native), 1, windows_path(self.work / 'full.txt'))
+
+    def test_without_a_display_no_box_is_waited_for(self):
+        environment = {name: value for name, value in os.environ.items() if name != 'DISPLAY'}
+        for switches in [['/t', 't'], ['/t', 'z'], ['/t', 'p', '/d', windows_path(self.tree)]]:
+            with self.subTest(switches=switches):
+                self.assert_told(self.start(*switches, environment=environment), 1)
+
+    def test_a_log_that_cannot_be_written(self):
+        for native in self.both():
+            command = [*([HOST] if native else [RUN_WINDOWS, EXE]), '/f', windows_path(self.filter_file('Format=4')), '/d',
+                       windows_path(self.tree), '/t', 't', '/o', windows_path(self.work / 'list.txt'), '/l',
+                       windows_path(self.work / 'no' / 'log.txt'), '/q', '/g']
+            done = subprocess.run(command, capture_output=True, timeout=60)
+            self.assertEqual(done.returncode, 1)
+            self.assertIn(windows_path(self.work / 'no' / 'log.txt'), done.stderr.decode())
+            self.assertFalse((self.work / 'list.txt').exists())
+
+    def test_a_log_is_continued(self):
+        out = ['/d', windows_path(self.tree), '/o', windows_path(self.work / 'list.txt'), '/t', 't', '/q', '/g', '/l']
+        for native in self.both():
+            self.log.unlink(missing_ok=True)
+            for count in [1, 2]:
+                subprocess.run([*([HOST] if native else [RUN_WINDOWS, EXE]), '/f', windows_path(self.filter_file('Format=4')), *out,
+                                '+' + windows_path(self.log)], timeout=60)
+                self.assertEqual(self.log.read_text().count('\tend\tstatus=0'), count)
+
+    def test_left_out_directories_and_natural_order(self):
+        for name in ['file2', 'file10', 'node_modules/x', 'Sub/node_modules/y', 'Sub10/z', 'Sub2/z']:
+            self.file(name)
+        lines = ['Format=4', 'Filter=1000', 'FilterName=*.*,-node_modules\\', 'NaturalOrder=True']
+        for native in self.both():
+            status, errors, listing = self.run_program(*lines, native=native)
+            self.assertEqual(status, 0, errors)
+            start = len(windows_path(self.tree)) + 1
+            self.assertEqual([line[start:] for line in listing.decode().splitlines()],
+                             ['Sub', 'Sub2', 'Sub10', 'A.txt', 'File2', 'File10', 'Sub2\\Z', 'Sub10\\Z'])
+
+    def test_links_that_are_not_followed(self):
+        self.file('Real/Inside.txt')
+        (self.tree / 'Link').symlink_to(self.tree / 'Real')
+        for native in self.both():
+            for lines, entered in [([], 2), (['FollowLinks=False'], 1)]:
+                status, errors, listing = self.run_program('Format=4', *lines, native=native)
+                self.assertEqual(status, 0, errors)
+                self.assertEqual(listing.count(b'Inside.txt'), entered)
+                self.assertEqual(listing.count(b'\\Link\r\n'), 1)
+
+    def test_a_killed_run_leaves_a_readable_log_and_its_settings(self):
+        for number in range(400):
+            self.file(f'Folder{number:03}/File.txt')
+        settings = self.work / 'config' / 'Folivant 3.0' / 'settings.ini'
+        settings.parent.mkdir(parents=True)
+        settings.write_bytes(b'[Settings]\r\nTextWidth=100\r\n')
+        environment = {**os.environ, 'XDG_CONFIG_HOME': str(self.work / 'config')}
+        output = self.work / 'list.txt'
+        for native in self.both():
+            # Without the script that tries a Windows program again: what is killed must be the program.
+            command = [*([HOST] if native else ['wine', EXE]), '/f', windows_path(self.filter_file('Format=2')), '/d',
+                       windows_path(self.tree), '/t', 't', '/o', windows_path(output), '/l', windows_path(self.log), '/q', '/g']
+            quiet = {'env': environment, 'stderr': subprocess.DEVNULL}
+            begun = time.monotonic()
+            self.assertEqual(subprocess.run(command, timeout=60, **quiet).returncode, 0)
+            whole, listing = time.monotonic() - begun, self.comparable(output.read_bytes())
+            unfinished = 0
+            for moment in range(100):
+                self.log.unlink(missing_ok=True)
+                run = subprocess.Popen(command, **quiet)
+                time.sleep(whole * moment / 100)
+                run.kill()
+                run.wait()
+                text = self.log.read_bytes() if self.log.exists() else b''
+                self.assertTrue(text == b'' or text.endswith(b'\r\n'), text)
+                for line in text.decode('utf-8').splitlines():
+                    self.assertRegex(line, r'^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ\t(start|listing|counts|output|end)\t')
+                unfinished += b'\tstart\t' in text and b'\tend\t' not in text
+                self.assertEqual(settings.read_bytes(), b'[Settings]\r\nTextWidth=100\r\n')
+            self.assertGreater(unfinished, 0, 'some were killed between their first line and their last')
+            self.assertEqual(subprocess.run(command, timeout=60, **quiet).returncode, 0)
+            self.assertEqual(self.comparable(output.read_bytes()), listing, 'with the same settings')
 
 
 if __name__ == '__main__':

@@ -112,6 +112,20 @@ TEST_F(PrintFromFind, WaitsForTheUserAmongSeveral) {
   EXPECT_EQ(L"Find: two", found.Title);
 }
 
+TEST_F(PrintFromFind, AsksNobodyWhoCannotAnswer) {
+  Texts.Set(190, L"Several are open.");
+  FindWindows().TopLevel = {FindWindow(10, L"Find: one", TwoRows()), FindWindow(20, L"Find: two", TwoRows())};
+  class Unattended final : public NoProgress {
+    bool CanAsk() const override { return false; }
+  } run;
+  EXPECT_EQ("cancelled", ResultOf(run));
+  EXPECT_EQ(0, FindWindows().DialogsShown);
+  ASSERT_EQ(1U, Fake().Messages.size());
+  EXPECT_EQ(L"Several are open.", Fake().Messages[0].Text);
+  FindWindows().TopLevel.pop_back();
+  EXPECT_EQ("2 rows", ResultOf(run)) << "nothing is to be asked";
+}
+
 TEST_F(PrintFromFind, AbortsWhenTheDialogIsCancelled) {
   FindWindows().TopLevel = {FindWindow(10, L"Find: one", TwoRows()), FindWindow(20, L"Find: two", TwoRows())};
   FindWindows().User = {[](FindChoice& choice) { choice.Cancel(); }};
