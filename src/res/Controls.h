@@ -158,6 +158,8 @@
 #define fraExactCsv 1184
 #define chkApostrophe 1185
 #define lblApostrophe 1186
+#define chkFollowLinks 1187
+#define chkNaturalOrder 1188
 
 // frmPrinter
 #define cmbPrinter 1190

@@ -43,6 +43,8 @@ inline constexpr Binding<GeneralSettings> kOptionsControls[] = {
     {fraLegend, TextId::Placeholders},
     {cmbLang, TextId::LanguageLabel},
     {lblRestart, TextId::RestartNote},
+    {chkFollowLinks, TextId::FollowLinks, Edits<&GeneralSettings::FollowLinks>},
+    {chkNaturalOrder, TextId::NaturalOrder, Edits<&GeneralSettings::NaturalOrder>},
     {fraRecord, TextId::RecordFields},
     {chkOwner, TextId::RecordOwner, Edits<&GeneralSettings::RecordOwner>},
     {chkLinks, TextId::RecordLinks, Edits<&GeneralSettings::RecordLinks>},

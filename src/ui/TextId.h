@@ -229,6 +229,8 @@ enum class TextId : int {
   HeaderFooterFont = 288,
   HeaderLabel = 289,
   FooterLabel = 290,
+  FollowLinks = 54,
+  NaturalOrder = 55,
   RecordFields = 36,
   RecordOwner = 37,
   RecordLinks = 38,

@@ -300,38 +300,44 @@ TEST_F(Dialogs, TheOptionsStoreEveryPage) {
 }
 
 TEST_F(Dialogs, TheListingPageStoresWhatDiffersFromItsDefaultAndNothingElse) {
-  const std::pair<int, const wchar_t*> boxes[] = {{chkOwner, L"RecordOwner"},
-                                                  {chkLinks, L"RecordLinks"},
-                                                  {chkSha256, L"RecordSha256"},
-                                                  {chkApostrophe, L"CsvApostrophe"}};
+  struct Row {
+    int Box;
+    const wchar_t* Key;
+    bool Default;
+  };
+  const Row rows[] = {{chkFollowLinks, L"FollowLinks", true}, {chkNaturalOrder, L"NaturalOrder", false},
+                      {chkOwner, L"RecordOwner", false},      {chkLinks, L"RecordLinks", false},
+                      {chkSha256, L"RecordSha256", false},    {chkApostrophe, L"CsvApostrophe", false}};
+  const auto stored = [](const Row& row) { return ReadStore(L"Settings", row.Key); };
+  const auto changed = [](const Row& row) { return row.Default ? L"False" : L"True"; };
   Window options = Show(cmdOptions, 204);
   SendMessageW(options.Control(TabStrip).Handle(), TCM_SETCURFOCUS, 5, 0);
-  for (const auto& [box, key] : boxes) {
-    EXPECT_TRUE(options.Control(box).IsShown()) << box;
-    EXPECT_FALSE(options.IsChecked(box)) << box;
+  for (const Row& row : rows) {
+    EXPECT_TRUE(options.Control(row.Box).IsShown()) << row.Box;
+    EXPECT_EQ(options.IsChecked(row.Box), row.Default) << row.Box;
   }
   Dismiss(options, cmdOK);
-  for (const auto& [box, key] : boxes) {
-    EXPECT_EQ(ReadStore(L"Settings", key), std::nullopt) << testing::PrintToString(std::wstring(key));
+  for (const Row& row : rows) {
+    EXPECT_EQ(stored(row), std::nullopt) << row.Box;
   }
-  for (const auto& [box, key] : boxes) {  // one alone
+  for (const Row& row : rows) {  // one alone
     options = Show(cmdOptions, 204);
-    EXPECT_TRUE(options.Control(box).IsShown()) << "the page comes back";
-    Check(options, box, true);
+    EXPECT_TRUE(options.Control(row.Box).IsShown()) << "the page comes back";
+    Check(options, row.Box, !row.Default);
     Dismiss(options, cmdOK);
-    for (const auto& [other, otherKey] : boxes) {
-      EXPECT_EQ(ReadStore(L"Settings", otherKey), other == box ? std::optional<std::wstring>(L"True") : std::nullopt)
-          << box << " and " << other;
+    for (const Row& other : rows) {
+      EXPECT_EQ(stored(other), other.Box == row.Box ? std::optional<std::wstring>(changed(row)) : std::nullopt)
+          << row.Box << " and " << other.Box;
     }
     options = Show(cmdOptions, 204);
-    Check(options, box, false);
+    Check(options, row.Box, row.Default);
     Dismiss(options, cmdCancel);
-    EXPECT_EQ(ReadStore(L"Settings", key), L"True") << "cancel changes nothing";
+    EXPECT_EQ(stored(row), changed(row)) << "cancel changes nothing";
     options = Show(cmdOptions, 204);
-    EXPECT_TRUE(options.IsChecked(box)) << box;
-    Check(options, box, false);
+    EXPECT_EQ(options.IsChecked(row.Box), !row.Default) << row.Box;
+    Check(options, row.Box, row.Default);
     Dismiss(options, cmdOK);
-    EXPECT_EQ(ReadStore(L"Settings", key), std::nullopt) << "the key is gone again";
+    EXPECT_EQ(stored(row), std::nullopt) << "the key is gone again";
   }
 }
 

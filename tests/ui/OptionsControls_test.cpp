@@ -29,10 +29,14 @@ TEST(OptionsControls, NameEachControlOnce) {
 }
 
 TEST(OptionsControls, UnitAndOrientationHaveAButtonForEachValue) {
-  EXPECT_EQ(Filled(With(&GeneralSettings::Inches, true, With(&GeneralSettings::Portrait, false))).CheckedButtons,
-            (std::set<int>{optInches, optLand}));
-  EXPECT_EQ(Filled(With(&GeneralSettings::Inches, false, With(&GeneralSettings::Portrait, true))).CheckedButtons,
-            (std::set<int>{optMilimeter, optPort}));
+  const auto buttons = [](bool inches, bool portrait) {
+    GeneralSettings general = With(&GeneralSettings::FollowLinks, false);  // the one box that is checked by default
+    general.Inches = inches;
+    general.Portrait = portrait;
+    return Filled(general).CheckedButtons;
+  };
+  EXPECT_EQ(buttons(true, false), (std::set<int>{optInches, optLand}));
+  EXPECT_EQ(buttons(false, true), (std::set<int>{optMilimeter, optPort}));
   EXPECT_TRUE(ReadBack(Filled(With(&GeneralSettings::Inches, true))).Inches);
   EXPECT_FALSE(ReadBack(Filled(With(&GeneralSettings::Inches, false))).Inches);
   EXPECT_TRUE(ReadBack(Filled(With(&GeneralSettings::Portrait, true))).Portrait);
@@ -68,6 +72,20 @@ TEST(OptionsControls, EachFieldOfExactRecordsHasACheckBoxOfItsOwn) {
       EXPECT_EQ(read.*field, other == box) << box << " and " << other;
     }
   }
+}
+
+TEST(OptionsControls, LinksAndNumbersInNamesHaveACheckBoxEach) {
+  const GeneralSettings defaults = ReadBack(Filled(GeneralSettings()));
+  EXPECT_TRUE(defaults.FollowLinks);
+  EXPECT_FALSE(defaults.NaturalOrder);
+  const FakeControls listed = Filled(With(&GeneralSettings::FollowLinks, false));
+  EXPECT_FALSE(listed.Checked(chkFollowLinks));
+  EXPECT_FALSE(ReadBack(listed).FollowLinks);
+  EXPECT_FALSE(ReadBack(listed).NaturalOrder);
+  const FakeControls ordered = Filled(With(&GeneralSettings::NaturalOrder, true));
+  EXPECT_TRUE(ordered.Checked(chkNaturalOrder));
+  EXPECT_TRUE(ReadBack(ordered).NaturalOrder);
+  EXPECT_TRUE(ReadBack(ordered).FollowLinks);
 }
 
 TEST(OptionsControls, CopiesAreANumberOf16Bits) {
