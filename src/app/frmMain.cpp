@@ -10,6 +10,8 @@
 #include "app/Settings.h"
 #include "app/StartUp.h"
 #include "app/mdlVars.h"
+#include "app/win32/CopyOrders.h"
+#include "app/win32/FilterFileDialog.h"
 #include "app/win32/PositionOnScreen.h"
 #include "app/win32/RunGuard.h"
 #include "app/win32/SaveDialog.h"
@@ -30,18 +32,6 @@
 
 namespace folivant {
 namespace {
-
-// Orders of the system menu; the system keeps the lowest four bits for itself.
-constexpr WPARAM mnuCopyListing = 0x10;
-constexpr WPARAM mnuCopyPath = 0x20;  // of no entry
-constexpr WPARAM kOrderBits = 0xFFF0;
-
-platform::FileDialog FilterFileDialog() {
-  platform::FileDialog dialog;
-  dialog.Types = mdlVars::Texts[TextId::FilterFiles] + L" (*.fvf)|*.fvf|" + mdlVars::Texts[TextId::AllFiles] + L"|*.*";
-  dialog.FileName = mdlVars::FilterFile;
-  return dialog;
-}
 
 /// The save dialog, preset with `choice`, which takes what the user chooses. False when the user cancels.
 bool AskForOutputFile(HWND owner, DestinationChooser::Choice& choice) {
@@ -90,8 +80,6 @@ class frmMain final : public frmBase, private TextMeasure {
   void mnuCopyListing_Click();
   void lblPath_Drop(const std::wstring& path);
 
-  void FillSystemMenu();
-
   bool ChooseDestination();
   bool RunOnce();
   void FinishRun();
@@ -124,7 +112,7 @@ void frmMain::Form_Load() {
   for (const Binding<OutputTarget>& destination : kOutputToControls) {
     OnClick(destination.Control, [this] { mdlVars::OutputTo = GetOutputTo(); });
   }
-  FillSystemMenu();
+  AddCopyEntry(Window(), Texts());
   drop_ = std::make_unique<platform::DropTarget>(Item(lblPath), [this](const auto& path) { lblPath_Drop(path); });
   SetFocusTo(cmdOK);
 }
@@ -135,20 +123,10 @@ void frmMain::Form_QueryClose() {
   }
 }
 
-void frmMain::FillSystemMenu() {
-  const HMENU menu = GetSystemMenu(Window(), FALSE);
-  AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-  AppendMenuW(menu, MF_STRING, mnuCopyListing,
-              (Texts()[TextId::CopyListing] + L'\t' + Texts()[TextId::CopyShortcut]).c_str());
-}
-
 /// The window has no text box, whose own copying Ctrl+C would be.
 bool frmMain::Form_KeyDown(WPARAM key) {
-  if (key != 'C' || GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_MENU) < 0) {  // AltGr is both, and types a letter
-    return false;
-  }
-  PostMessageW(Window(), WM_SYSCOMMAND, GetKeyState(VK_SHIFT) < 0 ? mnuCopyPath : mnuCopyListing, 0);
-  return true;
+  const auto order = CopyOrderOfKey(key);
+  return order && PostMessageW(Window(), WM_SYSCOMMAND, static_cast<WPARAM>(*order), 0) != FALSE;
 }
 
 bool frmMain::Form_Message(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
@@ -157,12 +135,8 @@ bool frmMain::Form_Message(UINT message, WPARAM wParam, LPARAM, LRESULT& result)
     result = TRUE;
     return true;
   }
-  if (message == WM_SYSCOMMAND && (wParam & kOrderBits) == mnuCopyListing) {
-    mnuCopyListing_Click();
-    return true;
-  }
-  if (message == WM_SYSCOMMAND && (wParam & kOrderBits) == mnuCopyPath) {
-    platform::CopyToClipboard(mdlVars::Start.Shown);
+  if (const auto order = CopyOrderOf(message, wParam)) {
+    order == CopyOrder::Listing ? mnuCopyListing_Click() : platform::CopyToClipboard(mdlVars::Start.Shown);
     return true;
   }
   if (message == WM_ENDSESSION && wParam != FALSE && !running_) {
@@ -241,19 +215,16 @@ void frmMain::lblPath_Drop(const std::wstring& path) {
 }
 
 void frmMain::cmdLoad_Click() {
-  platform::FileDialog dialog = FilterFileDialog();
-  if (platform::AskForOpenName(Window(), dialog) && LoadFilterFileIfWanted(dialog.FileName)) {
+  const auto file = AskForFilterFileToLoad(Window());
+  if (file && LoadFilterFileIfWanted(*file)) {
     ShowEverything();
   }
 }
 
 void frmMain::cmdSave_Click() {
-  platform::FileDialog dialog = FilterFileDialog();
-  dialog.DefaultExtension = L"fvf";
-  dialog.AskBeforeOverwriting = true;
-  if (platform::AskForSaveName(Window(), dialog)) {
+  if (const auto file = AskForFilterFileToSave(Window())) {
     mdlVars::OutputTo = GetOutputTo();
-    SaveFilterFile(dialog.FileName);
+    SaveFilterFile(*file);
   }
 }
 
