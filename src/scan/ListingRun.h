@@ -49,7 +49,8 @@ struct ListingRun {
   std::vector<UnreadPath> Unread = {};  ///< in the order in which they were tried; most listings are silent about them
 
   void AddUnread(std::wstring_view path, const SystemReason& reason) {
-    Watcher.TellUnread(Unread.emplace_back(std::wstring(path), reason));
+    Unread.push_back({std::wstring(path), reason});
+    Watcher.TellUnread(Unread.back());
   }
   /// Whether the user has cancelled the run. Asked only at the points where a run may stop.
   bool IsCancelled() {
