@@ -31,7 +31,8 @@ from schemata import Key
 
 HOUSE = pathlib.Path(__file__).resolve().parent.parent.parent
 SCRATCH = HOUSE / 'build' / 'mutation'
-TREE, BUILD = SCRATCH / 'tree', SCRATCH / 'build'
+TREE, BUILD, MADE = SCRATCH / 'tree', SCRATCH / 'build', SCRATCH / 'made'
+PARSING = ['-x', 'c++', '-std=c++20', f'-I{HOUSE}/src', f'-I{MADE}', '-Wno-everything', '-Wno-c++11-narrowing']
 HERE = pathlib.Path(__file__).resolve().parent
 EQUIVALENT, PAGE = HERE / 'equivalent.tsv', HOUSE / 'docs' / 'mutation.md'
 BEGIN, END = '<!-- mutants: begin -->', '<!-- mutants: end -->'
@@ -126,9 +127,11 @@ class Mutants:
                 path.unlink()
 
     def find(self):
-        arguments = ['-x', 'c++', '-std=c++20', f'-I{HOUSE}/src', '-Wno-everything', '-Wno-c++11-narrowing']
+        # What the build makes of it; the number does not matter here.
+        version = (HOUSE / 'src/res/Version.h.in').read_text().replace('@PROJECT_VERSION@', '0')
+        write_changed(MADE / 'res/Version.h', version.encode())
         for name in sources():
-            source = parsed(name, arguments)
+            source = parsed(name, PARSING)
             first = self.numbers.rows.setdefault(name, NUMBERS_PER_FILE * len(self.numbers.rows))
             for number, mutant in enumerate(source.mutants):
                 mutant.number = first + number
@@ -140,8 +143,7 @@ class Mutants:
     def write(self, name):
         """Without the mutants that do not compile. Clang tells of most; the others show in the build."""
         source, path = self.sources[name], TREE / 'src' / name
-        arguments = ['-x', 'c++', '-std=c++20', f'-I{HOUSE}/src', '-Wno-everything', '-Wno-c++11-narrowing',
-                     '-include', str(HERE / 'Mutant.h')]
+        arguments = [*PARSING, '-include', str(HERE / 'Mutant.h')]
         if path.exists() and source.written(self.gone(source))[0] == path.read_bytes():
             return
         while True:

@@ -316,6 +316,8 @@ class Source:
 
     def change_unary(self, node, operand, context):
         tokens = self.tokens_between(node.extent.start.offset, node.extent.end.offset)
+        if not tokens:  # the compiler's own, in what it makes of a range or of a default
+            return
         first, last = tokens[0], tokens[-1]
         if first.spelling == '!':
             self.add(node, context, '! removed', f'static_cast<bool>({self.of(operand)})')
